@@ -5,7 +5,7 @@ command -v npm >/dev/null || build_packages+=(npm)
 # A private display, and the means to see and press what a program shows on it.
 screen_packages=(xvfb openbox xdotool dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     imagemagick x11-utils fonts-dejavu-core)
-printing_packages=(cups-daemon cups-client cups-filters poppler-utils)
+printing_packages=(cups-daemon cups-client poppler-utils)
 
 say() { printf '==> %s\n' "$*"; }
 

@@ -1,14 +1,16 @@
 #!/usr/bin/python3
 """The tour: the program's main job from its very first start on, with a picture of each step.
 
-    tour.py PROGRAM-FOLDER PICTURE-FOLDER
+    tour.py BUILD-FOLDER PICTURE-FOLDER
 
-The program folder is worked in and must be a fresh one. A step is a function under @step: it goes on
+The picture folder is made anew and gets a program folder of its own, as a new user has it. A step is a function under @step: it goes on
 from where the one before left the screen, checks what it finds, and the picture of the screen that it
 leaves is taken. Exits non-zero at the first step that finds something else.
 """
 import datetime
 import pathlib
+import shutil
+import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
@@ -137,16 +139,33 @@ def play(program, pictures):
             print(picture, flush=True)
 
 
-def main(folder, pictures):
-    pictures.mkdir(parents=True, exist_ok=True)
-    home = pictures / "home"
-    home.mkdir(exist_ok=True)
-    with Program([folder / "corvana"], str(home), environment={"LC_ALL": "C.UTF-8"}) as program:
-        play(program, pictures)
-        program.menu("Operate", "Exit")
-        code = program.ended()
+def new_user(build, place):
+    """The program as someone has it who has just installed it: started from a fresh folder under
+    place, for a home that is empty."""
+    shutil.rmtree(place, ignore_errors=True)
+    home = place / "home"
+    home.mkdir(parents=True)
+    subprocess.run(["cmake", "--install", build, "--prefix", place / "program"],
+                   check=True, stdout=subprocess.DEVNULL)
+    return Program([place / "program" / "corvana"], str(home), environment={"LC_ALL": "C.UTF-8"})
+
+
+def leave(program):
+    program.menu("Operate", "Exit")
+    code = program.ended()
     check(code == 0, f"the program ended with {code}")
 
 
+def arguments():
+    return (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+
+
+def main():
+    build, pictures = arguments()
+    with new_user(build, pictures) as program:
+        play(program, pictures)
+        leave(program)
+
+
 if __name__ == "__main__":
-    main(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve())
+    main()
