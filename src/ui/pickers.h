@@ -8,5 +8,6 @@ class Session;
 
 /// The locale's short date with a four-digit year and a calendar that drops down.
 QDateEdit *makeDatePicker(const Session &session, const QString &name, QWidget *parent);
-/// A time of day in the picker time format.
+/// A time of day in the picker time format. Enter leaves a half-typed time as it is, and
+/// hasAcceptableInput() tells of it.
 QTimeEdit *makeTimePicker(const Session &session, const QString &name, QWidget *parent);

@@ -1,5 +1,6 @@
 #include "ui/recordeditor.h"
 
+#include "data/storeerror.h"
 #include "help/helpkey.h"
 #include "session/session.h"
 #include "ui/messages.h"
@@ -42,7 +43,6 @@ void RecordEditor::load()
     m_loading = false;
 }
 
-// Left to itself, a dialog would give the focus to its default button.
 void RecordEditor::focusFirstField()
 {
     QWidget *first = nextInFocusChain();
@@ -83,6 +83,8 @@ bool RecordEditor::store()
     try {
         if (appendsRecord())
             m_source.addNew();
+        else if (m_source.isEof())
+            throw StoreError(StoreError::Kind::Gone, "the record was deleted by another program");
         Gather();
         if (!confirmStore()) {
             m_source.cancelUpdate();

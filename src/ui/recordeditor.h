@@ -75,6 +75,8 @@ protected:
     /// Puts the form and, below it, the OK, Cancel and Help buttons into the dialog. The Tab key
     /// goes through the fields in the order in which they were made with the dialog as parent.
     void setForm(QLayout *form);
+    /// For the opening; left to itself, a dialog would give the focus to its default button.
+    void focusFirstField();
 
     bool isLoading() const { return m_loading; }
     void setLoading(bool loading) { m_loading = loading; }
@@ -91,7 +93,6 @@ private:
     void accept() override;
     QLayout *makeButtons();
     void load();
-    void focusFirstField();
     bool store();
 
     Session &m_session;

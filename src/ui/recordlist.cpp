@@ -21,6 +21,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+    , m_buttons(new QHBoxLayout)
 {
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
@@ -33,15 +34,14 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     makeKeys();
     setNames({});
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(m_new);
-    buttons->addWidget(m_edit);
-    buttons->addWidget(m_delete);
-    buttons->addStretch();
+    m_buttons->addWidget(m_new);
+    m_buttons->addWidget(m_edit);
+    m_buttons->addWidget(m_delete);
+    m_buttons->addStretch();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
-    layout->addLayout(buttons);
+    layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
 
@@ -51,6 +51,11 @@ void RecordList::setNames(const Names &names)
     m_new->setObjectName(names.newButton);
     m_edit->setObjectName(names.editButton);
     m_delete->setObjectName(names.deleteButton);
+}
+
+void RecordList::addButton(QPushButton *button)
+{
+    m_buttons->addWidget(button);
 }
 
 QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,

@@ -9,6 +9,7 @@
 #include <optional>
 
 class Messages;
+class QHBoxLayout;
 class QPushButton;
 class QTreeView;
 
@@ -56,6 +57,8 @@ public:
     RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
                Actions actions, const QString &accessibleName, QWidget *parent = nullptr);
     void setNames(const Names &names);
+    /// Puts a further button of the window at the right end of the row.
+    void addButton(QPushButton *button);
 
     /// Rebuilds the rows; throws StoreError and keeps the old rows where they can't be read.
     void refresh(const Reselection &reselection = {});
@@ -84,4 +87,5 @@ private:
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
+    QHBoxLayout *m_buttons;
 };
