@@ -1,0 +1,46 @@
+# Shared by ./run and ./test: says what is done and installs what a bare Debian 12 lacks for it.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libsqlitecpp-dev librsvg2-bin)
+command -v npm >/dev/null || build_packages+=(npm)
+# A private display, and the means to see and press what a program shows on it.
+screen_packages=(xvfb openbox xdotool dbus at-spi2-core python3-gi gir1.2-atspi-2.0
+    imagemagick x11-utils fonts-dejavu-core)
+printing_packages=(cups-daemon cups-client poppler-utils)
+
+say() { printf '==> %s\n' "$*"; }
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# Debian's package manager as root: directly, or through sudo.
+apt() {
+    local root=()
+    ((EUID == 0)) || root=(sudo)
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Dpkg::Use-Pty=0 "$@"
+}
+
+# install_missing PACKAGE...: installs those that are not there; with none missing it touches nothing.
+install_missing() {
+    local package missing=()
+    for package in "$@"; do
+        [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+            missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+    if ! command -v apt-get >/dev/null || { ((EUID)) && ! command -v sudo >/dev/null; }; then
+        fail "Please install these Debian 12 packages, which needs root or sudo: ${missing[*]}"
+    fi
+    say "Installing from the distribution: ${missing[*]}"
+    apt update >/dev/null || say "The package lists can't be refreshed; trying with those at hand"
+    apt install -y --no-install-recommends "${missing[@]}" >/dev/null ||
+        fail "These packages can't be installed: ${missing[*]}"
+}
+
+# build PRESET [TARGET]: configures and builds, everything or one target.
+build() {
+    say "Building ($1)"
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1" ${2:+--target "$2"}
+}
