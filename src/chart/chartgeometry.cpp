@@ -131,7 +131,8 @@ void Layout::scaleBurn()
         double high = std::max(m_stack.high, 3 * m_day.backgroundRate);
         if (high == 0 && m_stack.low == 0)
             high = 5;
-        return fittedScale(m_stack.low, high, top, m_plotBottom);
+        const double bottom = m_plotBottom - (m_stack.low < 0 ? em(0.4) : 0);
+        return fittedScale(m_stack.low, high, top, bottom);
     };
     m_stack = stackedBurn(m_day, shortest, 0);
     g.activities.scale = fitted();
