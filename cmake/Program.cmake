@@ -7,6 +7,7 @@ add_custom_target(program_folder ALL)
 if(EXISTS ${CMAKE_SOURCE_DIR}/src/app/main.cpp)
   add_executable(corvana src/app/main.cpp)
   target_link_libraries(corvana PRIVATE corvana_windows corvana_compiler)
+  target_compile_definitions(corvana PRIVATE CORVANA_VERSION="${PROJECT_VERSION}")
   set_target_properties(corvana PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${corvana_program_folder}
     WIN32_EXECUTABLE ON)

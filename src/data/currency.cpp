@@ -56,7 +56,7 @@ std::optional<Currency> Currency::fromText(QStringView text)
     quint64 magnitude = 0;
     int places = -1; // digits seen behind the point; -1 before it
     bool anyDigit = false;
-    int firstDropped = 0; // the fifth place
+    int firstDropped = 0;     // the fifth place
     bool restDropped = false; // anything but zeros behind it
     for (; at < text.size(); ++at) {
         const char16_t unit = text[at].unicode();
@@ -153,7 +153,7 @@ Currency Currency::operator*(Currency other) const
 
     const Currency sum = other * whole + Currency(rest) * otherWhole + Currency(carried);
     const qint64 magnitude = dropped < 0 ? -dropped : dropped;
-    const bool up = magnitude * 2 > unitsPerOne
-        || (magnitude * 2 == unitsPerOne && (sum.m_units & 1) != 0);
+    const bool up =
+        magnitude * 2 > unitsPerOne || (magnitude * 2 == unitsPerOne && (sum.m_units & 1) != 0);
     return up ? sum + Currency(dropped < 0 ? -1 : 1) : sum;
 }

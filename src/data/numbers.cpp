@@ -5,7 +5,7 @@
 
 namespace {
 
-template <typename Narrow>
+template<typename Narrow>
 Narrow narrowed(qint64 value)
 {
     if (value < std::numeric_limits<Narrow>::min() || value > std::numeric_limits<Narrow>::max())
@@ -13,13 +13,13 @@ Narrow narrowed(qint64 value)
     return static_cast<Narrow>(value);
 }
 
-template <typename Narrow>
+template<typename Narrow>
 Narrow roundedTo(double value)
 {
     const double rounded = roundHalfEven(value);
     // Written so that NaN, which compares with nothing, is refused too.
-    if (!(rounded >= double(std::numeric_limits<Narrow>::min())
-          && rounded <= double(std::numeric_limits<Narrow>::max())))
+    if (!(rounded >= double(std::numeric_limits<Narrow>::min()) &&
+          rounded <= double(std::numeric_limits<Narrow>::max())))
         throw OverflowError("a number is outside the range of its whole-number type");
     return static_cast<Narrow>(rounded);
 }

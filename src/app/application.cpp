@@ -1,0 +1,20 @@
+#include "app/application.h"
+
+#include "ui/messages.h"
+
+Application::Application(int &argc, char **argv, Messages &messages)
+    : QApplication(argc, argv)
+    , m_messages(messages)
+{
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &error) {
+        m_messages.error(activeWindow(), tr("The last action could not be carried out: %1.")
+                                             .arg(QString::fromUtf8(error.what())));
+    }
+    return true;
+}

@@ -1,0 +1,86 @@
+#include "app/dayview.h"
+
+#include "app/dayviewlayout.h"
+#include "chart/TrellumGraph.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+constexpr int twipsPerInch = 1440;
+// Height of a line of text that the distances between the parts were chosen for, in twips.
+constexpr double lineTwips = 240;
+
+} // namespace
+
+DayView::DayView(QWidget *parent)
+    : QWidget(parent)
+    , Label1(new QLabel(tr("Daily Chart"), this))
+    , graph(new TrellumGraph(this))
+    , btnPrev(new QPushButton(tr("&Previous"), this))
+    , btnNext(new QPushButton(tr("&Next"), this))
+    , txtDate(new QLineEdit(this))
+    , btnHelp(new QPushButton(tr("H&elp"), this))
+{
+    Label1->setObjectName(QStringLiteral("Label1"));
+    graph->setObjectName(QStringLiteral("graph"));
+    btnPrev->setObjectName(QStringLiteral("btnPrev"));
+    btnNext->setObjectName(QStringLiteral("btnNext"));
+    txtDate->setObjectName(QStringLiteral("txtDate"));
+    btnHelp->setObjectName(QStringLiteral("btnHelp"));
+    txtDate->setAccessibleName(tr("Current date"));
+    txtDate->setReadOnly(true);
+    txtDate->setAlignment(Qt::AlignCenter);
+    QFont heading = Label1->font();
+    heading.setBold(true);
+    Label1->setFont(heading);
+    txtDate->setFont(heading);
+    setMinimumHeight(qRound(4000 * pixelsPerTwip()));
+}
+
+void DayView::setNavigationVisible(bool visible)
+{
+    for (QWidget *part : {static_cast<QWidget *>(btnPrev), static_cast<QWidget *>(btnNext),
+                          static_cast<QWidget *>(txtDate), static_cast<QWidget *>(btnHelp)})
+        part->setVisible(visible);
+}
+
+double DayView::pixelsPerTwip() const
+{
+    // A font larger than usual for the screen's resolution takes its distances along.
+    const double byResolution = double(logicalDpiY()) / twipsPerInch;
+    const double byFont = QFontMetrics(font()).height() / lineTwips;
+    return qMax(byResolution, byFont);
+}
+
+void DayView::resizeEvent(QResizeEvent *)
+{
+    layOut();
+}
+
+void DayView::layOut()
+{
+    const double scale = pixelsPerTwip();
+    DayViewLayout layout;
+    if (!layOutDayView(size(), scale, layout))
+        return;
+    Label1->setGeometry(layout.heading);
+    graph->setGeometry(layout.graph);
+
+    const int gap = qRound(90 * scale);
+    int left = layout.graph.left();
+    const auto place = [&](QWidget *part, int width, int top) {
+        part->setGeometry(left, top, width, layout.bottom - top);
+        left += width + gap;
+    };
+    const int buttonWidth = qMax(btnPrev->sizeHint().width(), btnNext->sizeHint().width());
+    place(btnPrev, buttonWidth, layout.buttonTop);
+    place(btnNext, buttonWidth, layout.buttonTop);
+    place(txtDate, txtDate->fontMetrics().averageCharWidth() * 22, layout.dateTop);
+    left = layout.graph.right() + 1 - buttonWidth;
+    place(btnHelp, buttonWidth, layout.buttonTop);
+    graph->repaintChart();
+}

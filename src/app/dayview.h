@@ -1,0 +1,35 @@
+// The day shown: its chart, its date and the way to the next.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class TrellumGraph;
+
+/// What fills the main window below its toolbar.
+class DayView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DayView(QWidget *parent = nullptr);
+
+    /// While the chart is printed, what does not belong on the page is out of sight.
+    void setNavigationVisible(bool visible);
+    double pixelsPerTwip() const;
+
+    QLabel *Label1;
+    TrellumGraph *graph;
+    QPushButton *btnPrev;
+    QPushButton *btnNext;
+    QLineEdit *txtDate;
+    QPushButton *btnHelp;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void layOut();
+};

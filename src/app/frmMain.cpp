@@ -1,0 +1,341 @@
+#include "app/frmMain.h"
+
+#include "app/chartprinter.h"
+#include "app/dayview.h"
+#include "app/dayviewlayout.h"
+#include "app/frmDate.h"
+#include "chart/TrellumGraph.h"
+#include "help/aboutbox.h"
+#include "help/helpkey.h"
+#include "help/helpviewer.h"
+#include "journal/frmMealConsume.h"
+#include "session/installation.h"
+#include "session/samplejournal.h"
+#include "session/session.h"
+#include "settings/frmCommon.h"
+#include "ui/icons.h"
+#include "ui/messages.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QToolBar>
+
+#include <limits>
+
+using namespace Qt::Literals;
+
+namespace {
+
+// The chart holds whole numbers of 32 bits; a figure beyond them is no person's day.
+int chartFigure(double value)
+{
+    constexpr double limit = std::numeric_limits<int>::max();
+    return static_cast<int>(qBound(-limit, value, limit));
+}
+
+} // namespace
+
+frmMain::frmMain(Session &session, Messages &messages)
+    : m_session(session)
+    , m_messages(messages)
+    , m_view(new DayView(this))
+    , tlbToolBar(new QToolBar(this))
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Corvana"));
+    setWindowIcon(programIcon());
+    setCentralWidget(m_view);
+    makeMenus();
+    makeToolBar();
+    showPictures();
+    makeConnections();
+
+    const double scale = m_view->pixelsPerTwip();
+    setMinimumWidth(qRound(leastWindowTwips * scale));
+    resize(qRound(14400 * scale), qRound(10200 * scale));
+    m_view->graph->setLocale(session.text().locale());
+    m_view->graph->set24HourClock(session.is24HourClock());
+    LoadGraph();
+}
+
+void frmMain::addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler)
+{
+    QAction *action = menu->addAction(caption);
+    action->setObjectName(name);
+    m_entries[name] = action;
+    action->setEnabled(handler != nullptr);
+    if (handler)
+        connect(action, &QAction::triggered, this, handler);
+}
+
+void frmMain::makeMenus()
+{
+    makeOperateMenu();
+    QMenu *analyze = menuBar()->addMenu(tr("&Analyze"));
+    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"));
+    makeSettingsMenu();
+    makeHelpMenu();
+}
+
+void frmMain::makeOperateMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Operate"));
+    addEntry(menu, QStringLiteral("mnuMealConsume"), tr("&Meal Consumed List"));
+    addEntry(menu, QStringLiteral("mnuAddMeal"), tr("&Add Meal"), &frmMain::addMeal);
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"));
+    addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"));
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"));
+    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"));
+    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"));
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuSetDate"), tr("&Set Date"), &frmMain::setDate);
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuDeleteTrialData"), tr("Delete Trial Data"),
+             &frmMain::deleteTrialData);
+    menu->addSeparator();
+    menu->addAction(tr("E&xit"), this, &QWidget::close)->setObjectName(QStringLiteral("mnuExit"));
+}
+
+void frmMain::makeSettingsMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Settings"));
+    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"));
+    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"));
+    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"));
+    menu->addSeparator();
+    addEntry(menu, QStringLiteral("mnuCommon"), tr("C&ommon"), &frmMain::openCommonParameters);
+}
+
+void frmMain::makeHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    addEntry(menu, QStringLiteral("mnuHelpAbout"), tr("&About"), &frmMain::showAbout);
+    addEntry(menu, QStringLiteral("mnuHelpContents"), tr("&Contents"), &frmMain::showHelpContents);
+    addEntry(menu, QStringLiteral("mnuHelpMainForm"), tr("&Main Form"),
+             &frmMain::showHelpOfMainForm);
+}
+
+void frmMain::makeToolBar()
+{
+    struct Button
+    {
+        const char *key;
+        QString toolTip;
+    };
+    const Button buttons[] = {
+        {"mnuMealConsume", tr("Meal Consume List")},
+        {"mnuAddMeal", tr("Add Meal")},
+        {nullptr, {}},
+        {"mnuExercisePerformed", tr("Activities Performed List")},
+        {"mnuAddExercise", tr("Add Activity")},
+        {nullptr, {}},
+        {"mnuMeasurement", tr("Body Measurement & Notes")},
+        {"mnuAddMeasurement", tr("Add Measurement")},
+        {"mnuAddNote", tr("Add Note")},
+        {nullptr, {}},
+        {"mnuPrintChart", tr("Print Daily Chart")},
+        {"mnuGeneralProgress", tr("General Progress")},
+        {nullptr, {}},
+        {"mnuMealCategories", tr("Configure Meal Categories")},
+        {"mnuMeal", tr("Configure Meals")},
+        {"mnuExercises", tr("Configure Activities")},
+        {nullptr, {}},
+        {"mnuHelpAbout", tr("About the Program")},
+        {"mnuHelpContents", tr("Help Contents")},
+    };
+    tlbToolBar->setObjectName(QStringLiteral("tlbToolBar"));
+    tlbToolBar->setWindowTitle(tr("Toolbar"));
+    tlbToolBar->setMovable(false);
+    tlbToolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be switched off
+    for (const Button &button : buttons) {
+        if (!button.key) {
+            tlbToolBar->addSeparator();
+            continue;
+        }
+        QAction *entry = m_entries.at(QString::fromLatin1(button.key));
+        entry->setToolTip(button.toolTip);
+        tlbToolBar->addAction(entry);
+    }
+    addToolBar(tlbToolBar);
+}
+
+void frmMain::showPictures()
+{
+    for (const auto &[name, entry] : m_entries)
+        entry->setIcon(icon(name, palette()));
+}
+
+void frmMain::makeConnections()
+{
+    connect(m_view->btnPrev, &QPushButton::clicked, this, &frmMain::showPreviousDay);
+    connect(m_view->btnNext, &QPushButton::clicked, this, &frmMain::showNextDay);
+    connect(m_view->btnHelp, &QPushButton::clicked, this, &frmMain::showHelpOfMainForm);
+    connect(m_view->graph, &TrellumGraph::mealItemChosen, this, &frmMain::editMeal);
+    connect(m_view->graph, &TrellumGraph::freeMealPlaceChosen, this, &frmMain::addMealAt);
+    connect(&m_session, &Session::dayChanged, this, &frmMain::RePaintGraph);
+    connect(&m_session, &Session::journalChanged, this, &frmMain::RePaintGraph);
+}
+
+void frmMain::LoadGraph()
+{
+    TrellumGraph &graph = *m_view->graph;
+    const QDate day = m_session.currentDate();
+    m_view->txtDate->setText(m_session.text().mediumDate(day));
+    graph.clear();
+    graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
+
+    Recordset &meals = m_session.data().rsMealConsumeSorted;
+    for (meals.reopen({Value(day)}); !meals.isEof(); meals.moveNext())
+        graph.addMeal(meals.integer("MealConsumeID"_L1), meals.time("ConsumeTime"_L1),
+                      chartFigure(meals.number("sCarbohydrate"_L1)),
+                      chartFigure(meals.number("sFat"_L1)),
+                      chartFigure(meals.number("sProtein"_L1)));
+    meals.close();
+
+    Recordset &activities = m_session.data().rsExercisePerformSorted;
+    for (activities.reopen({Value(day)}); !activities.isEof(); activities.moveNext())
+        graph.addActivity(activities.integer("ExercisePerformID"_L1), activities.time("timeBeg"_L1),
+                          activities.time("timeEnd"_L1),
+                          chartFigure(activities.number("sCalories"_L1)));
+    activities.close();
+}
+
+void frmMain::RePaintGraph()
+{
+    LoadGraph();
+    m_view->graph->repaintChart();
+}
+
+void frmMain::showPreviousDay()
+{
+    m_session.setCurrentDate(m_session.currentDate().addDays(-1));
+}
+
+void frmMain::showNextDay()
+{
+    m_session.setCurrentDate(m_session.currentDate().addDays(1));
+}
+
+void frmMain::setDate()
+{
+    frmDate(m_session, this).exec();
+    RePaintGraph();
+}
+
+void frmMain::openConsumption(qint32 id, bool addMode)
+{
+    frmMealConsume editor(m_session, m_messages, this);
+    editor.setAddMode(addMode);
+    if (editor.run(id))
+        RePaintGraph();
+}
+
+void frmMain::addMeal()
+{
+    openConsumption(0, true);
+}
+
+void frmMain::addMealAt(QTime time)
+{
+    m_session.setCurrentTime(time);
+    openConsumption(0, false);
+}
+
+void frmMain::editMeal(int id, bool hit, QTime time)
+{
+    m_session.setCurrentTime(time);
+    if (hit && id != 0)
+        openConsumption(id, false);
+}
+
+void frmMain::printChart()
+{
+    bool printed = false;
+    {
+        // What is out of sight on paper is out of sight here, and can't be clicked meanwhile.
+        m_view->setNavigationVisible(false);
+        tlbToolBar->hide();
+        const auto showAgain = qScopeGuard([this] {
+            m_view->setNavigationVisible(true);
+            tlbToolBar->show();
+        });
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+        printed = printDailyChart(*m_view->graph, m_view->Label1->text(), m_view->txtDate->text());
+    }
+    if (!printed)
+        m_messages.error(
+            this, tr("Can't print. Please check whether your default printer is accessible"));
+}
+
+void frmMain::deleteTrialData()
+{
+    const QStringList lines = {
+        tr("This will delete trial data supplied with the program as the sample."),
+        tr("It refers to Meal Consumed, Exercise Performed, Body Measurement and User Notes."),
+        tr("Neither Meal Description, Exercise Description nor any data you've entered yourself "
+           "will be deleted."),
+        QString(),
+        tr("Are you sure you want to delete trial data now?"),
+    };
+    if (!m_messages.ask(this, tr("Are you sure?"), lines.join(Session::lineBreak())))
+        return;
+    deleteSampleJournal(m_session.data());
+    RePaintGraph();
+}
+
+void frmMain::openCommonParameters()
+{
+    frmCommon dialog(m_session, m_messages, this);
+    dialog.setFirstStart(false);
+    dialog.run();
+    if (dialog.OkPressed())
+        RePaintGraph();
+}
+
+void frmMain::showAbout()
+{
+    showAboutBox(this);
+}
+
+void frmMain::showHelpContents()
+{
+    showHelp(this, Installation(QCoreApplication::applicationDirPath()).helpPath(), {});
+}
+
+void frmMain::showHelpOfMainForm()
+{
+    sendHelpKey(this);
+}
+
+void frmMain::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    m_view->graph->setFocus();
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showPictures();
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    // The program ends with its main window, whatever else is still open.
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window != this && window->isVisible())
+            window->close();
+    }
+}

@@ -1,0 +1,65 @@
+// The main window.
+#pragma once
+
+#include <QMainWindow>
+
+#include <map>
+
+class DayView;
+class Messages;
+class Session;
+
+/// Shows the current date and its calorie chart, moves the date, and opens every other window.
+/// Closing it ends the program.
+class frmMain : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    frmMain(Session &session, Messages &messages);
+
+    /// Fills the chart with the data of the current date, without repainting. Throws StoreError;
+    /// the chart then keeps what it had been given so far.
+    void LoadGraph();
+    /// LoadGraph, then repaints.
+    void RePaintGraph();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    using Handler = void (frmMain::*)();
+
+    void makeMenus();
+    void makeOperateMenu();
+    void makeSettingsMenu();
+    void makeHelpMenu();
+    void makeToolBar();
+    void makeConnections();
+    /// An entry of a menu, known by its name; one without a handler waits, disabled, for its
+    /// window.
+    void addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler = {});
+    void showPictures();
+
+    void showPreviousDay();
+    void showNextDay();
+    void setDate();
+    void addMeal();
+    void editMeal(int id, bool hit, QTime time);
+    void addMealAt(QTime time);
+    void openConsumption(qint32 id, bool addMode);
+    void printChart();
+    void deleteTrialData();
+    void openCommonParameters();
+    void showAbout();
+    void showHelpContents();
+    void showHelpOfMainForm();
+
+    Session &m_session;
+    Messages &m_messages;
+    DayView *m_view;
+    QToolBar *tlbToolBar;
+    std::map<QString, QAction *> m_entries;
+};

@@ -1,0 +1,23 @@
+#include "app/application.h"
+#include "app/startup.h"
+#include "help/helpkey.h"
+#include "session/installation.h"
+#include "ui/messages.h"
+
+#include <QDir>
+
+int main(int argc, char **argv)
+{
+    MessageBoxes messages;
+    Application application(argc, argv, messages);
+    QCoreApplication::setApplicationName(QStringLiteral("Corvana"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
+
+    const QString folder = QCoreApplication::applicationDirPath();
+    HelpKeyFilter helpKey(Installation(folder).helpPath());
+    application.installEventFilter(&helpKey);
+
+    const SystemClock clock;
+    StartUp startUp({folder, clock, QLocale::system(), messages});
+    return startUp.run() ? Application::exec() : 1;
+}

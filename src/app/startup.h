@@ -1,0 +1,47 @@
+// From the program's start to its main window.
+#pragma once
+
+#include "session/clock.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <memory>
+
+class Messages;
+class Session;
+class deData;
+class frmMain;
+
+/// What start-up reads from its surroundings.
+struct StartUpSettings
+{
+    QString programFolder;
+    const Clock &clock;
+    QLocale locale;
+    Messages &messages;
+};
+
+/// Opens the database, makes the session, runs the first-start sequence where it has not been run
+/// before, and makes the main window. Owns all three for the life of the program.
+class StartUp
+{
+public:
+    explicit StartUp(const StartUpSettings &settings);
+    ~StartUp();
+
+    /// False where the program can't start; what stopped it has been said.
+    bool run();
+    frmMain *mainWindow() const { return m_mainWindow.get(); }
+    Session *session() const { return m_session.get(); }
+
+private:
+    bool openDatabase();
+    bool makeSession();
+    bool runFirstStart();
+
+    StartUpSettings m_settings;
+    std::unique_ptr<deData> m_data;
+    std::unique_ptr<Session> m_session;
+    std::unique_ptr<frmMain> m_mainWindow;
+};

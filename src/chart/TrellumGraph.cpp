@@ -1,0 +1,357 @@
+#include "chart/TrellumGraph.h"
+
+#include "chart/emphasis.h"
+#include "chart/graphaccessible.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <cmath>
+
+using namespace daychart;
+
+TrellumGraph::TrellumGraph(QWidget *parent)
+    : QWidget(parent)
+    , m_fonts(font(), logicalDpiY(), this)
+    , m_colors(ChartColors::of(palette()))
+{
+    [[maybe_unused]] static const bool installed =
+        (QAccessible::installFactory(graphAccessibleFactory), true);
+    setObjectName(QStringLiteral("graph"));
+    setAccessibleName(tr("Daily calorie chart"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    relayout();
+}
+
+void TrellumGraph::clear()
+{
+    m_held.meals.clear();
+    m_held.activities.clear();
+}
+
+void TrellumGraph::setBackgroundRate(double caloriesPerMinute)
+{
+    m_held.backgroundRate = std::isfinite(caloriesPerMinute) ? caloriesPerMinute : 0;
+}
+
+void TrellumGraph::set24HourClock(bool on)
+{
+    m_clock24 = on;
+}
+
+void TrellumGraph::addMeal(int id, QTime time, int carbohydrate, int fat, int protein)
+{
+    m_held.meals.push_back({id, time, carbohydrate, fat, protein});
+}
+
+void TrellumGraph::addActivity(int id, QTime begin, QTime end, int calories)
+{
+    m_held.activities.push_back({id, begin, end, calories});
+}
+
+void TrellumGraph::repaintChart()
+{
+    const int id = idOf(m_shown, m_cursor.target);
+    m_shown = m_held;
+    m_cursor.target = sameItem(m_cursor.target, id);
+    m_pointed = {};
+    m_pressed = {};
+    relayout();
+    forgetAccessibleChildren(this);
+    if (underMouse())
+        point(mapFromGlobal(QCursor::pos()));
+}
+
+void TrellumGraph::paintChart(QPainter &painter, const QRectF &area, const QPalette &palette) const
+{
+    const ChartFonts fonts(font(), logicalDpiY(), painter.device());
+    const ChartGeometry geometry =
+        chartGeometry(m_held, area, metricsOf(fonts, painter.device()), texts());
+    paintDayChart(painter, geometry, ChartColors::of(palette), fonts, Medium::Paper);
+}
+
+QSize TrellumGraph::sizeHint() const
+{
+    return QSize(56, 34) * fontMetrics().height();
+}
+
+QSize TrellumGraph::minimumSizeHint() const
+{
+    return QSize(30, 18) * fontMetrics().height();
+}
+
+void TrellumGraph::relayout()
+{
+    m_fonts = ChartFonts(font(), logicalDpiY(), this);
+    m_colors = ChartColors::of(palette());
+    m_geometry = chartGeometry(m_shown, rect(), metricsOf(m_fonts, this), texts());
+    setAccessibleDescription(texts().daySummary(m_shown));
+    update();
+}
+
+void TrellumGraph::changeEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+    case QEvent::LocaleChange:
+    case QEvent::LanguageChange:
+        relayout();
+        break;
+    default:
+        break;
+    }
+    QWidget::changeEvent(event);
+}
+
+void TrellumGraph::resizeEvent(QResizeEvent *)
+{
+    relayout();
+}
+
+void TrellumGraph::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    paintDayChart(painter, m_geometry, m_colors, m_fonts, Medium::Screen);
+    paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_pointed, false);
+    if (!hasFocus())
+        return;
+    paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_cursor, true);
+    const double line = 0.12 * m_geometry.unit;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(m_colors.highlight, line));
+    painter.drawRect(m_geometry.area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
+void TrellumGraph::point(QPointF position)
+{
+    setPointed({targetAt(m_geometry, position), minuteAt(m_geometry, position.x())});
+}
+
+/// Shows by the pointer's shape and by emphasis what a click would do.
+void TrellumGraph::setPointed(const Cursor &pointed)
+{
+    const bool place = pointed.target.kind == Target::Kind::FreePlace;
+    if (pointed.target == m_pointed.target && (!place || pointed.minute == m_pointed.minute))
+        return;
+    m_pointed = pointed;
+    if (place)
+        setCursor(Qt::CrossCursor);
+    else if (pointed.target.kind == Target::Kind::None)
+        unsetCursor();
+    else
+        setCursor(Qt::PointingHandCursor);
+    update();
+}
+
+void TrellumGraph::mouseMoveEvent(QMouseEvent *event)
+{
+    point(event->position());
+}
+
+void TrellumGraph::leaveEvent(QEvent *)
+{
+    setPointed({});
+}
+
+void TrellumGraph::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    m_pressed = targetAt(m_geometry, event->position());
+    m_pressedAt = event->position();
+    if (m_pressed.kind == Target::Kind::None)
+        return;
+    const bool hasTime = m_pressed.kind != Target::Kind::Caption;
+    moveCursor({m_pressed, hasTime ? minuteAt(m_geometry, m_pressedAt.x()) : m_cursor.minute});
+}
+
+void TrellumGraph::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    const Target pressed = std::exchange(m_pressed, {});
+    const QPointF position = event->position();
+    const bool moved =
+        (position - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    if (pressed != targetAt(m_geometry, position) ||
+        (pressed.kind == Target::Kind::FreePlace && moved))
+        return;
+    const bool hasTime = pressed.kind != Target::Kind::Caption;
+    choose(pressed, hasTime ? minuteAt(m_geometry, position.x()) : m_cursor.minute);
+}
+
+void TrellumGraph::moveCursor(const Cursor &cursor)
+{
+    m_cursor = cursor;
+    update();
+    if (hasFocus())
+        announceTarget(this, m_cursor.target);
+}
+
+std::optional<Cursor> TrellumGraph::cursorAfter(const QKeyEvent &key) const
+{
+    const bool placing = key.modifiers() & Qt::ControlModifier;
+    const int minutes = key.modifiers() & Qt::ShiftModifier ? 1 : 5;
+    const Lane lane = m_cursor.target.lane;
+    switch (key.key()) {
+    case Qt::Key_Left:
+        return placing ? shifted(m_cursor, -minutes) : stepped(m_shown, m_cursor, Step::Previous);
+    case Qt::Key_Right:
+        return placing ? shifted(m_cursor, minutes) : stepped(m_shown, m_cursor, Step::Next);
+    case Qt::Key_PageUp:
+        return shifted(m_cursor, -60);
+    case Qt::Key_PageDown:
+        return shifted(m_cursor, 60);
+    case Qt::Key_Home:
+        return stepped(m_shown, m_cursor, Step::First);
+    case Qt::Key_End:
+        return stepped(m_shown, m_cursor, Step::Last);
+    case Qt::Key_Up:
+        return lane == Lane::Activities ? stepped(m_shown, m_cursor, Step::OtherLane) : m_cursor;
+    case Qt::Key_Down:
+        return lane == Lane::Meals ? stepped(m_shown, m_cursor, Step::OtherLane) : m_cursor;
+    default:
+        return std::nullopt;
+    }
+}
+
+void TrellumGraph::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        choose(m_cursor.target, m_cursor.minute);
+        return;
+    default:
+        break;
+    }
+    if (const std::optional<Cursor> moved = cursorAfter(*event))
+        moveCursor(*moved);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void TrellumGraph::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    if (m_cursor.target.kind == Target::Kind::None)
+        m_cursor = stepped(m_shown, m_cursor, Step::First);
+    moveCursor(m_cursor);
+}
+
+void TrellumGraph::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+/// Raises the signal of a target. Nothing may follow: the answer may be a dialog, after which the
+/// chart holds other items.
+void TrellumGraph::choose(const Target &target, int minute)
+{
+    const QTime time = timeOf(minute);
+    const bool meals = target.lane == Lane::Meals;
+    const bool hit = target.kind == Target::Kind::Item;
+    switch (target.kind) {
+    case Target::Kind::Item:
+    case Target::Kind::Caption:
+        if (meals)
+            emit mealItemChosen(idOf(m_shown, target), hit, time);
+        else
+            emit activityItemChosen(idOf(m_shown, target), hit, time);
+        break;
+    case Target::Kind::FreePlace:
+        if (meals)
+            emit freeMealPlaceChosen(time);
+        else
+            emit freeActivityPlaceChosen(time);
+        break;
+    case Target::Kind::None:
+        break;
+    }
+}
+
+int TrellumGraph::idOf(const DayData &day, const Target &target) const
+{
+    if (target.kind != Target::Kind::Item)
+        return 0;
+    return target.lane == Lane::Meals ? day.meals[size_t(target.item)].id
+                                      : day.activities[size_t(target.item)].id;
+}
+
+/// The item of an id among those now shown, else the caption of its lane.
+Target TrellumGraph::sameItem(const Target &before, int id) const
+{
+    if (before.kind != Target::Kind::Item)
+        return before;
+    for (const Target &target : allTargets(m_shown)) {
+        if (target.isItem(before.lane) && idOf(m_shown, target) == id)
+            return target;
+    }
+    return {Target::Kind::Caption, before.lane};
+}
+
+QString TrellumGraph::nameOf(const Target &target) const
+{
+    switch (target.kind) {
+    case Target::Kind::Item:
+        return target.lane == Lane::Meals
+                   ? texts().mealName(m_shown.meals[size_t(target.item)])
+                   : texts().activityName(m_shown.activities[size_t(target.item)]);
+    case Target::Kind::Caption:
+        return texts().openListName(target.lane);
+    case Target::Kind::FreePlace:
+        return texts().newItemName(target.lane, timeOf(m_cursor.minute));
+    case Target::Kind::None:
+        break;
+    }
+    return {};
+}
+
+QString TrellumGraph::tipOf(const Cursor &cursor) const
+{
+    const Target &target = cursor.target;
+    switch (target.kind) {
+    case Target::Kind::Item:
+        return target.lane == Lane::Meals
+                   ? texts().mealTip(m_shown.meals[size_t(target.item)])
+                   : texts().activityTip(m_shown.activities[size_t(target.item)]);
+    case Target::Kind::Caption:
+        return tr("Open the list");
+    case Target::Kind::FreePlace:
+        return texts().placeTip(target.lane, timeOf(cursor.minute),
+                                balanceAt(balanceCurve(m_shown), cursor.minute));
+    case Target::Kind::None:
+        break;
+    }
+    return {};
+}
+
+bool TrellumGraph::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const Cursor pointed = {targetAt(m_geometry, help->pos()),
+                            minuteAt(m_geometry, help->pos().x())};
+    // The tip of a free place tells of one time only and goes when the pointer moves on.
+    const QRect extent = pointed.target.kind == Target::Kind::FreePlace
+                             ? QRect(help->pos(), QSize(2, 2))
+                             : boundsOf(m_geometry, pointed.target).toAlignedRect();
+    QToolTip::showText(help->globalPos(), tipOf(pointed), this, extent);
+    return true;
+}

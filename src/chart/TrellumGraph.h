@@ -1,0 +1,99 @@
+// The daily calorie chart, a control of its own: it knows what it is handed and says what the user
+// chose.
+#pragma once
+
+#include "chart/chartpainter.h"
+#include "chart/charttexts.h"
+#include "chart/navigation.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace daychart {
+class GraphAccessible;
+}
+
+/// Shows one day from midnight to midnight: meals, activities, background burn, running balance.
+///
+/// A left click on an item, a caption, a total or a free place raises the signal for it. The
+/// keyboard does the same:
+/// - Left and Right walk through a lane: its caption, its items by time, its free place.
+///   Home and End go to the first and the last of these; Up and Down change the lane.
+/// - Ctrl+Left and Ctrl+Right move the free place by five minutes, with Shift by one minute, and
+///   Page Up and Page Down by one hour, starting where the keyboard stands.
+/// - Enter and Space choose.
+class TrellumGraph : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TrellumGraph(QWidget *parent = nullptr);
+
+    /// Forgets all items. Like the additions below, it shows from the next repaintChart on.
+    void clear();
+    /// What the body burns without any activity; a rate that is not finite counts as none.
+    void setBackgroundRate(double caloriesPerMinute);
+    void set24HourClock(bool on);
+    /// Calories of each nutrient; all may be 0 and, like those of an activity, negative.
+    void addMeal(int id, QTime time, int carbohydrate, int fat, int protein);
+    /// An activity that does not end after it begins is shown as one minute long.
+    void addActivity(int id, QTime begin, QTime end, int calories);
+    /// Draws the items now held.
+    void repaintChart();
+
+    /// Draws the items now held on paper or into a picture, with the control's font in its size at
+    /// the resolution of the painter's device. The area is in the painter's units, one for each
+    /// dot of the device.
+    void paintChart(QPainter &painter, const QRectF &area, const QPalette &palette) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// With hit, the meal of that id was chosen; without, the list of meals (id 0). The time is
+    /// the one under the pointer; a caption has none and hands on the last one pointed at.
+    void mealItemChosen(int id, bool hit, QTime time);
+    void activityItemChosen(int id, bool hit, QTime time);
+    void freeMealPlaceChosen(QTime time);
+    void freeActivityPlaceChosen(QTime time);
+
+protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    friend class daychart::GraphAccessible;
+
+    daychart::ChartTexts texts() const { return {locale(), m_clock24}; }
+    void relayout();
+    void point(QPointF position);
+    void setPointed(const daychart::Cursor &pointed);
+    void moveCursor(const daychart::Cursor &cursor);
+    void choose(const daychart::Target &target, int minute);
+    int idOf(const daychart::DayData &day, const daychart::Target &target) const;
+    daychart::Target sameItem(const daychart::Target &before, int id) const;
+    QString nameOf(const daychart::Target &target) const;
+    QString tipOf(const daychart::Cursor &cursor) const;
+    std::optional<daychart::Cursor> cursorAfter(const QKeyEvent &key) const;
+
+    daychart::DayData m_held;  ///< as handed over
+    daychart::DayData m_shown; ///< as of the last repaintChart; what geometry and cursors refer to
+    bool m_clock24 = true;
+    daychart::ChartGeometry m_geometry;
+    daychart::ChartFonts m_fonts;
+    daychart::ChartColors m_colors;
+    daychart::Cursor m_cursor;  ///< of the keyboard
+    daychart::Cursor m_pointed; ///< under the pointer
+    daychart::Target m_pressed;
+    QPointF m_pressedAt;
+};

@@ -1,0 +1,139 @@
+// Where everything of the daily chart stands. Computed once from the day's data and the size,
+// read by the painting and by the hit-testing.
+#pragma once
+
+#include "chart/daybalance.h"
+#include "chart/scales.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace daychart {
+
+class ChartTexts;
+
+enum class Lane
+{
+    Meals,
+    Activities
+};
+enum class Part
+{
+    Carbohydrate,
+    Fat,
+    Protein,
+    Activity,
+    Background,
+    Balance
+};
+enum class TextRole
+{
+    Plain,
+    Caption,
+    Figure
+};
+enum class Tone
+{
+    Ink,
+    Muted,
+    OnActivity,
+    Balance
+};
+
+/// The text sizes that the chart is laid out for, in the units of its area.
+struct TextMetrics
+{
+    double lineHeight = 16; ///< of Plain and Caption
+    double figureHeight = 22;
+    std::function<double(const QString &, TextRole)> width;
+};
+
+struct PlacedText
+{
+    QRectF rect;
+    QString text;
+    Qt::Alignment alignment = Qt::AlignCenter;
+    TextRole role = TextRole::Plain;
+    Tone tone = Tone::Ink;
+};
+
+/// A sample of a fill or line beside its name.
+struct Swatch
+{
+    QRectF rect;
+    Part part = Part::Balance;
+};
+
+struct LaneGeometry
+{
+    QRectF area;   ///< between the two midnights; where no item is, a free place
+    QRectF header; ///< caption and legend, left of the axis
+    QRectF figure; ///< the lane's total in the line of figures
+    ValueScale scale;
+    std::vector<double> gridLines; ///< heights of the labelled values
+};
+
+/// One meal; the same index as in the day's data.
+struct MealColumn
+{
+    QRectF rect;
+    double timeX = 0;            ///< where its time is; the column itself may stand beside
+    std::array<QRectF, 3> parts; ///< carbohydrate, fat, protein; null where there is none
+    bool cut = false;            ///< higher than drawn
+};
+
+/// One activity; the same index as in the day's data. Where it overlaps others it rises and falls
+/// with those below it: segments of constant height, from left to right without a gap.
+struct ActivityBlock
+{
+    std::vector<QRectF> segments;
+    QRectF bounds;
+    bool cut = false; ///< higher than drawn
+};
+
+struct ItemLabel
+{
+    int item = 0;
+    PlacedText text;
+};
+
+struct ChartGeometry
+{
+    QRectF area;
+    double unit = 16; ///< height of a line of text, from which lines and gaps are sized
+    TimeScale time;
+    QRectF timeAxis; ///< the strip of the hours' labels
+    std::vector<double> hourLines;
+    std::vector<double> hourMarks; ///< every hour, when there is room
+
+    LaneGeometry meals;
+    LaneGeometry activities;
+    std::vector<MealColumn> columns;
+    std::vector<ActivityBlock> blocks;
+    std::vector<ItemLabel> mealLabels;
+    std::vector<ItemLabel> activityLabels;
+    QRectF band; ///< the background burn
+
+    double balanceZeroY = 0;
+    std::vector<QPointF> balance;
+    std::vector<double> balanceMarks; ///< heights of the labelled balances
+    PlacedText balanceEnd;
+
+    std::vector<Swatch> swatches;
+    std::vector<PlacedText> texts;
+    std::vector<PlacedText> hints; ///< what a click would do in an empty lane; not for paper
+
+    const LaneGeometry &lane(Lane which) const { return which == Lane::Meals ? meals : activities; }
+};
+
+/// Lays the day out in an area. Never fails: what finds no room in a small area is left out.
+ChartGeometry chartGeometry(const DayData &day, const QRectF &area, const TextMetrics &metrics,
+                            const ChartTexts &texts);
+
+} // namespace daychart

@@ -1,0 +1,312 @@
+#include "chart/chartpainter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace daychart {
+
+namespace {
+
+class DayChartPainter
+{
+public:
+    DayChartPainter(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
+                    const ChartFonts &fonts)
+        : p(painter)
+        , g(geometry)
+        , c(colors)
+        , m_fonts(fonts)
+        , m_hairline(std::max(1.0, em(0.055)))
+    {
+    }
+
+    void paint(Medium medium)
+    {
+        p.fillRect(g.area, c.ground);
+        paintGrid();
+        paintBurn();
+        paintMeals();
+        paintAxes();
+        paintBalance();
+        for (const Swatch &swatch : g.swatches)
+            paintSwatch(swatch);
+        paintItemLabels();
+        for (const PlacedText &text : g.texts)
+            paintText(text);
+        if (medium == Medium::Screen) {
+            for (const PlacedText &hint : g.hints) {
+                plate(hint.rect, c.ground);
+                paintText(hint);
+            }
+        }
+    }
+
+private:
+    double em(double count) const { return count * g.unit; }
+    QPen pen(const QColor &color, double lines = 1) const
+    {
+        return {color, lines * m_hairline, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+    }
+    void horizontal(double y) { p.drawLine(QPointF(left(), y), QPointF(right(), y)); }
+    void vertical(double x, double from, double to)
+    {
+        p.drawLine(QPointF(x, from), QPointF(x, to));
+    }
+    double left() const { return g.time.left; }
+    double right() const { return g.time.left + g.time.width; }
+
+    void paintGrid();
+    void paintBurn();
+    void paintMeals();
+    void paintAxes();
+    void paintBalance();
+    void paintItemLabels();
+    void paintSwatch(const Swatch &swatch);
+    void paintPart(Part part, const QRectF &rect);
+    void paintCut(const QRectF &rect, double y);
+    void paintText(const PlacedText &text);
+    void plate(const QRectF &rect, QColor color);
+    void hatch(const QRectF &rect);
+
+    QPainter &p;
+    const ChartGeometry &g;
+    const ChartColors &c;
+    const ChartFonts &m_fonts;
+    double m_hairline;
+};
+
+void DayChartPainter::paintGrid()
+{
+    p.setPen(pen(c.grid));
+    for (const double x : g.hourLines)
+        vertical(x, g.meals.area.top(), g.activities.area.bottom());
+    for (const LaneGeometry *lane : {&g.meals, &g.activities}) {
+        for (const double y : lane->gridLines)
+            horizontal(y);
+    }
+}
+
+void DayChartPainter::paintBurn()
+{
+    p.fillRect(g.band, c.band);
+    if (g.band.height() > 0) {
+        p.setPen(pen(c.bandEdge));
+        horizontal(g.band.top());
+    }
+    for (const ActivityBlock &block : g.blocks) {
+        QPainterPath outline;
+        const auto &segments = block.segments;
+        outline.moveTo(segments.front().bottomLeft());
+        for (const QRectF &segment : segments) {
+            p.fillRect(segment, c.activity);
+            outline.lineTo(segment.topLeft());
+            outline.lineTo(segment.topRight());
+        }
+        for (auto segment = segments.rbegin(); segment != segments.rend(); ++segment) {
+            outline.lineTo(segment->bottomRight());
+            outline.lineTo(segment->bottomLeft());
+        }
+        outline.closeSubpath();
+        p.strokePath(outline, pen(c.activityEdge));
+        if (block.cut) {
+            const QRectF &highest = *std::min_element(
+                segments.begin(), segments.end(),
+                [](const QRectF &a, const QRectF &b) { return a.top() < b.top(); });
+            paintCut(highest, highest.top() + 0.25 * highest.height());
+        }
+    }
+}
+
+void DayChartPainter::paintMeals()
+{
+    constexpr std::array parts = {Part::Carbohydrate, Part::Fat, Part::Protein};
+    for (const MealColumn &column : g.columns) {
+        bool empty = true;
+        for (size_t i = 0; i < parts.size(); ++i) {
+            if (column.parts[i].height() > 0) {
+                paintPart(parts[i], column.parts[i]);
+                empty = false;
+            }
+        }
+        if (empty) {
+            p.setPen(pen(c.axis));
+            p.setBrush(c.stub);
+            p.drawRect(column.rect);
+            p.setBrush(Qt::NoBrush);
+        }
+        if (column.cut)
+            paintCut(column.rect, column.rect.top() + 0.2 * column.rect.height());
+    }
+}
+
+/// A slanted gap through a column that is higher than drawn.
+void DayChartPainter::paintCut(const QRectF &rect, double y)
+{
+    const double slant = em(0.2);
+    const double over = em(0.15);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(pen(c.ground, 3));
+    p.drawLine(QPointF(rect.left() - over, y + slant), QPointF(rect.right() + over, y - slant));
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void DayChartPainter::paintPart(Part part, const QRectF &rect)
+{
+    p.fillRect(rect, c.fill(part));
+    if (part == Part::Fat)
+        hatch(rect);
+    if (part == Part::Activity || part == Part::Background) {
+        p.setPen(pen(part == Part::Activity ? c.activityEdge : c.bandEdge));
+        p.drawRect(rect);
+    } else if (rect.height() > 3 * m_hairline) {
+        // The parts of a column are parted by a line of the ground.
+        p.setPen(pen(c.ground));
+        p.drawLine(rect.topLeft(), rect.topRight());
+    }
+}
+
+/// Lines from lower left to upper right. Drawn one by one, because a brush's pattern would keep
+/// the size of a screen's pixels on paper.
+void DayChartPainter::hatch(const QRectF &rect)
+{
+    const double apart = em(0.3);
+    p.save();
+    p.setClipRect(rect, Qt::IntersectClip);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(pen(c.fatHatch, 1.1));
+    const double first = std::floor((rect.left() + rect.top()) / apart) * apart;
+    for (double sum = first; sum < rect.right() + rect.bottom(); sum += apart)
+        p.drawLine(QPointF(sum - rect.bottom(), rect.bottom()),
+                   QPointF(sum - rect.top(), rect.top()));
+    p.restore();
+}
+
+void DayChartPainter::paintAxes()
+{
+    p.setPen(pen(c.axis));
+    horizontal(g.meals.scale.zeroY);
+    horizontal(g.balanceZeroY);
+    horizontal(g.activities.scale.zeroY);
+    for (const double x : g.hourMarks)
+        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.15));
+    for (const double x : g.hourLines)
+        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.3));
+    for (const double y : g.balanceMarks)
+        p.drawLine(QPointF(right(), y), QPointF(right() + em(0.2), y));
+}
+
+/// A line with a seam of the ground's colour, so that it stays legible across the items.
+void DayChartPainter::paintBalance()
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+    const auto stroke = [this](const QColor &color, double lines) {
+        QPen line = pen(color, lines);
+        line.setJoinStyle(Qt::RoundJoin);
+        p.setPen(line);
+        p.drawPolyline(g.balance.data(), int(g.balance.size()));
+    };
+    QColor seam = c.ground;
+    seam.setAlphaF(0.85F);
+    stroke(seam, 5);
+    stroke(c.balance, 2);
+    p.setPen(Qt::NoPen);
+    p.setBrush(c.balance);
+    p.drawEllipse(g.balance.back(), em(0.2), em(0.2));
+    p.drawRoundedRect(g.balanceEnd.rect, em(0.25), em(0.25));
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+    paintText(g.balanceEnd);
+}
+
+void DayChartPainter::paintItemLabels()
+{
+    for (const ItemLabel &label : g.mealLabels) {
+        plate(label.text.rect, c.ground);
+        paintText(label.text);
+    }
+    for (const ItemLabel &label : g.activityLabels) {
+        plate(label.text.rect, label.text.tone == Tone::OnActivity ? c.activity : c.ground);
+        paintText(label.text);
+    }
+}
+
+void DayChartPainter::paintSwatch(const Swatch &swatch)
+{
+    if (swatch.part != Part::Balance) {
+        paintPart(swatch.part, swatch.rect);
+        return;
+    }
+    const double y = swatch.rect.center().y();
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(pen(c.balance, 2));
+    p.drawPolyline(QPolygonF({QPointF(swatch.rect.left(), y + em(0.2)),
+                              QPointF(swatch.rect.center().x(), y + em(0.2)),
+                              QPointF(swatch.rect.center().x(), y - em(0.15)),
+                              QPointF(swatch.rect.right(), y + em(0.1))}));
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// Keeps lines behind a text from running through it.
+void DayChartPainter::plate(const QRectF &rect, QColor color)
+{
+    color.setAlphaF(0.8F);
+    p.fillRect(rect, color);
+}
+
+void DayChartPainter::paintText(const PlacedText &text)
+{
+    p.setFont(m_fonts.font(text.role));
+    p.setPen(c.tone(text.tone));
+    p.drawText(text.rect, int(text.alignment) | Qt::TextSingleLine | Qt::TextDontClip, text.text);
+}
+
+} // namespace
+
+ChartFonts::ChartFonts(const QFont &base, int baseDpi, QPaintDevice *device)
+    : plain(base, device)
+    , caption(base, device)
+    , figure(base, device)
+{
+    const double points =
+        base.pointSizeF() > 0 ? base.pointSizeF() : base.pixelSize() * 72.0 / baseDpi;
+    plain.setPointSizeF(points);
+    caption.setPointSizeF(points);
+    caption.setBold(true);
+    figure.setPointSizeF(1.4 * points);
+    figure.setBold(true);
+}
+
+const QFont &ChartFonts::font(TextRole role) const
+{
+    if (role == TextRole::Plain)
+        return plain;
+    return role == TextRole::Caption ? caption : figure;
+}
+
+TextMetrics metricsOf(const ChartFonts &fonts, QPaintDevice *device)
+{
+    const std::array metrics = {QFontMetricsF(fonts.plain, device),
+                                QFontMetricsF(fonts.caption, device),
+                                QFontMetricsF(fonts.figure, device)};
+    return {metrics[0].height(), metrics[2].height(),
+            [metrics](const QString &text, TextRole role) {
+                return std::ceil(metrics[size_t(role)].horizontalAdvance(text));
+            }};
+}
+
+void paintDayChart(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
+                   const ChartFonts &fonts, Medium medium)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    DayChartPainter(painter, geometry, colors, fonts).paint(medium);
+    painter.restore();
+}
+
+} // namespace daychart

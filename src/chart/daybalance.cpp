@@ -1,0 +1,79 @@
+#include "chart/daybalance.h"
+
+namespace daychart {
+
+namespace {
+
+/// Something that happens at a minute: calories are eaten, or the rate of burning changes.
+struct Change
+{
+    double minute = 0;
+    double eaten = 0;
+    double rate = 0;
+};
+
+std::vector<Change> changesOf(const DayData &day)
+{
+    std::vector<Change> changes;
+    changes.reserve(day.meals.size() + 2 * day.activities.size());
+    for (const MealItem &meal : day.meals)
+        changes.push_back({minuteOf(meal.time), double(meal.calories()), 0});
+    for (const ActivityItem &activity : day.activities) {
+        changes.push_back({activity.beginMinute(), 0, activity.caloriesPerMinute()});
+        changes.push_back({activity.endMinute(), 0, -activity.caloriesPerMinute()});
+    }
+    std::stable_sort(changes.begin(), changes.end(),
+                     [](const Change &a, const Change &b) { return a.minute < b.minute; });
+    return changes;
+}
+
+} // namespace
+
+DayFigures dayFigures(const DayData &day)
+{
+    DayFigures figures;
+    for (const MealItem &meal : day.meals) {
+        figures.carbohydrate += meal.carbohydrate;
+        figures.fat += meal.fat;
+        figures.protein += meal.protein;
+    }
+    for (const ActivityItem &activity : day.activities)
+        figures.activities += activity.calories;
+    figures.background = qRound64(day.backgroundRate * minutesPerDay);
+    return figures;
+}
+
+std::vector<BalancePoint> balanceCurve(const DayData &day)
+{
+    std::vector<BalancePoint> curve = {{0, 0}};
+    double rate = day.backgroundRate;
+    const auto advanceTo = [&](double minute) {
+        const BalancePoint last = curve.back();
+        if (minute > last.minute)
+            curve.push_back({minute, last.calories - rate * (minute - last.minute)});
+    };
+    for (const Change &change : changesOf(day)) {
+        advanceTo(change.minute);
+        rate += change.rate;
+        if (change.eaten != 0)
+            curve.push_back({change.minute, curve.back().calories + change.eaten});
+    }
+    advanceTo(minutesPerDay);
+    return curve;
+}
+
+double balanceAt(const std::vector<BalancePoint> &curve, double minute)
+{
+    const auto after =
+        std::upper_bound(curve.begin(), curve.end(), minute,
+                         [](double value, const BalancePoint &p) { return value < p.minute; });
+    if (after == curve.begin())
+        return curve.front().calories;
+    const BalancePoint from = *(after - 1);
+    if (after == curve.end())
+        return from.calories;
+    const double share = (minute - from.minute) / (after->minute - from.minute);
+    return from.calories + share * (after->calories - from.calories);
+}
+
+} // namespace daychart

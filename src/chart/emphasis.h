@@ -1,0 +1,14 @@
+// What the pointer and the keyboard stand on, drawn over the chart.
+#pragma once
+
+#include "chart/chartpainter.h"
+#include "chart/navigation.h"
+
+namespace daychart {
+
+/// Outlines an item, tints a caption, and at a free place draws a line with its time at both ends.
+void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
+                   const ChartFonts &fonts, const ChartTexts &texts, const Cursor &cursor,
+                   bool strong);
+
+} // namespace daychart

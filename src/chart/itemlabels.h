@@ -1,0 +1,18 @@
+// The calories written at columns and blocks.
+#pragma once
+
+#include "chart/chartgeometry.h"
+
+namespace daychart {
+
+/// The calories of each meal at the far end of its column, and of each activity in or above its
+/// block. A label that would touch another one, another item or the end of the lane is left out;
+/// the larger figure is placed first.
+std::vector<ItemLabel> mealLabels(const DayData &day, const std::vector<MealColumn> &columns,
+                                  const LaneGeometry &lane, const TextMetrics &metrics,
+                                  const ChartTexts &texts);
+std::vector<ItemLabel> activityLabels(const DayData &day, const std::vector<ActivityBlock> &blocks,
+                                      const LaneGeometry &lane, const TextMetrics &metrics,
+                                      const ChartTexts &texts);
+
+} // namespace daychart

@@ -1,0 +1,168 @@
+#include "data/connection.h"
+
+#include "data/namecollation.h"
+#include "data/sqlfunctions.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+namespace {
+
+// The password is no secret: it keeps the file from being read or changed by accident, and makes
+// every page carry an authentication code. Stretching a public key buys nothing, so the key
+// derivation runs once only, which opens the file in about a millisecond. README tells how other
+// tools open it.
+constexpr char keySettings[] = "PRAGMA cipher='sqlcipher';"
+                               "PRAGMA legacy=3;"
+                               "PRAGMA legacy_page_size=4096;"
+                               "PRAGMA kdf_iter=1;"
+                               "PRAGMA key='qmvzr271';";
+
+// EXTRA also synchronizes the folder after the rollback journal is gone: without it a power
+// failure could bring the journal back and undo what the window has reported as stored.
+constexpr char connectionSettings[] = "PRAGMA foreign_keys=ON;"
+                                      "PRAGMA journal_mode=DELETE;"
+                                      "PRAGMA synchronous=EXTRA;"
+                                      "PRAGMA trusted_schema=OFF;";
+
+struct ExpectedTable
+{
+    const char *name;
+    const char *columns;
+};
+
+constexpr ExpectedTable expectedTables[] = {
+    {"MealCategory", "MealCategoryID, Name"},
+    {"Meal",
+     "MealID, MealCategoryID, Name, Unit, DefaultQty, Increment, Calories, Fat, Carbohydrate, "
+     "Protein, FatBC, CarbohydrateBC, ProteinBC"},
+    {"Exercise",
+     "ExerciseID, Name, Unit, DefaultQty, CaloriesConsume, CaloriesConsumeBase, WeightDependent"},
+    {"MealConsume", "MealConsumeID, MealID, ConsumeDate, ConsumeTime, Qty"},
+    {"ExercisePerform", "ExercisePerformID, ExerciseID, PerformDate, timeBeg, timeEnd, Qty"},
+    {"Body", "BodyID, DateMeasured, Weight, Breast, Waist, Hips, Measurement"},
+    {"UserNote", "UserNoteID, DateFrom, DateTo, NoteText"},
+    {"Common", "weight, metabolicRate, Measurement, NextBodyID, NextMealConsumeID, "
+               "NextExercisePerformID, NextUserNoteID, installDate"},
+};
+
+} // namespace
+
+void bindValue(SQLite::Statement &statement, int index, const Value &value)
+{
+    struct Binder
+    {
+        SQLite::Statement &statement;
+        int index;
+        void operator()(std::monostate) { statement.bind(index); }
+        void operator()(qint64 whole) { statement.bind(index, static_cast<int64_t>(whole)); }
+        void operator()(double number) { statement.bind(index, number); }
+        void operator()(const QString &text) { statement.bind(index, text.toStdString()); }
+    };
+    std::visit(Binder{statement, index}, value.storage());
+}
+
+Value columnValue(SQLite::Statement &statement, int column)
+{
+    const SQLite::Column cell = statement.getColumn(column);
+    switch (cell.getType()) {
+    case SQLITE_INTEGER:
+        return Value(qint64(cell.getInt64()));
+    case SQLITE_FLOAT:
+        return Value(cell.getDouble());
+    case SQLITE_TEXT:
+        return Value(QString::fromUtf8(cell.getText(), cell.getBytes()));
+    default:
+        return {};
+    }
+}
+
+Connection::Connection(const QString &path)
+{
+    // The engine would take an empty file for a database without tables.
+    const QFileInfo file(path);
+    if (!file.isFile() || file.size() == 0)
+        throw StoreError(StoreError::Kind::Damaged, "the database file is missing or empty");
+    guarded([&] {
+        open(path, SQLite::OPEN_READWRITE);
+        checkTables();
+        checkWritable(path);
+    });
+}
+
+std::unique_ptr<Connection> Connection::create(const QString &path)
+{
+    if (QFileInfo::exists(path))
+        throw StoreError(StoreError::Kind::Other, "a file of this name exists already");
+    std::unique_ptr<Connection> connection(new Connection);
+    guarded([&] { connection->open(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE); });
+    return connection;
+}
+
+void Connection::open(const QString &path, int flags)
+{
+    m_database = std::make_unique<SQLite::Database>(QDir::toNativeSeparators(path).toStdString(),
+                                                    flags, busyTimeout);
+    m_database->exec(keySettings);
+    registerFunctions(m_database->getHandle());
+    registerNameCollation(m_database->getHandle());
+    m_database->exec(connectionSettings);
+}
+
+void Connection::checkTables()
+{
+    for (const ExpectedTable &table : expectedTables) {
+        const std::string columns = table.columns;
+        // Preparing alone tells whether the table and its columns are there.
+        SQLite::Statement(*m_database, "select " + columns + " from " + table.name);
+    }
+    SQLite::Statement common(*m_database, "select count(*) from Common");
+    if (!common.executeStep() || common.getColumn(0).getInt() != 1)
+        throw StoreError(StoreError::Kind::Damaged, "table Common does not hold exactly one row");
+}
+
+void Connection::checkWritable(const QString &path)
+{
+    const QFileInfo folder(QFileInfo(path).absolutePath());
+    if (sqlite3_db_readonly(m_database->getHandle(), "main") != 0 || !folder.isWritable())
+        throw StoreError(StoreError::Kind::ReadOnly, "the database file can't be written");
+    // Takes the lock of a writer and lets it go; nothing is written.
+    m_database->exec("begin immediate; rollback");
+}
+
+void Connection::exec(const char *sql)
+{
+    guarded([&] { m_database->exec(sql); });
+}
+
+SQLite::Statement &Connection::prepared(const std::string &sql)
+{
+    return guarded([&]() -> SQLite::Statement & {
+        auto &slot = m_prepared[sql];
+        if (!slot)
+            slot = std::make_unique<SQLite::Statement>(*m_database, sql);
+        slot->tryReset();
+        slot->clearBindings();
+        return *slot;
+    });
+}
+
+WriteTransaction::WriteTransaction(Connection &connection)
+    : m_connection(connection)
+{
+    m_connection.exec("begin immediate");
+}
+
+WriteTransaction::~WriteTransaction()
+{
+    if (m_open)
+        m_connection.database().tryExec("rollback");
+}
+
+void WriteTransaction::commit()
+{
+    m_connection.exec("commit");
+    m_open = false;
+}

@@ -1,0 +1,81 @@
+// The one connection to the database file.
+#pragma once
+
+#include "data/storeerror.h"
+#include "data/value.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+/// Runs an action of the engine and turns its exceptions into StoreError.
+template<typename Action>
+decltype(auto) guarded(Action action)
+{
+    try {
+        return action();
+    } catch (const SQLite::Exception &error) {
+        throw StoreError(error);
+    }
+}
+
+/// Binds one value to a parameter of a statement, counted from 1.
+void bindValue(SQLite::Statement &statement, int index, const Value &value);
+/// The value of a column of the statement's current row, counted from 0.
+Value columnValue(SQLite::Statement &statement, int column);
+
+/// An open, encrypted database file. Everything committed through it is on the disk when the call
+/// returns. Not copyable; used from one thread.
+class Connection
+{
+public:
+    /// Opens the journal's file for reading and writing. Throws StoreError where it is missing,
+    /// is no database of this program, is damaged, can't be written, or is held by another
+    /// program beyond the time-out. An existing file is not changed by opening it.
+    explicit Connection(const QString &path);
+    /// Makes a new, empty, encrypted file; throws StoreError where one exists already.
+    static std::unique_ptr<Connection> create(const QString &path);
+
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    /// Runs statements without parameters and without rows.
+    void exec(const char *sql);
+    /// The statement of this text, prepared once, reset and without bindings.
+    SQLite::Statement &prepared(const std::string &sql);
+    SQLite::Database &database() { return *m_database; }
+
+    /// How long a statement waits for another program to let go of the file, in milliseconds.
+    static constexpr int busyTimeout = 2000;
+
+private:
+    Connection() = default;
+    void open(const QString &path, int flags);
+    void checkTables();
+    void checkWritable(const QString &path);
+
+    std::unique_ptr<SQLite::Database> m_database;
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_prepared;
+};
+
+/// A transaction that holds the file for writing from its first moment, so that what it reads
+/// can't change under it. Rolled back unless committed.
+class WriteTransaction
+{
+public:
+    explicit WriteTransaction(Connection &connection);
+    ~WriteTransaction();
+    WriteTransaction(const WriteTransaction &) = delete;
+    WriteTransaction &operator=(const WriteTransaction &) = delete;
+
+    /// Durable when it returns. Throws StoreError; the transaction is then rolled back.
+    void commit();
+
+private:
+    Connection &m_connection;
+    bool m_open = true;
+};

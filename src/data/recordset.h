@@ -1,0 +1,92 @@
+// The small updatable result set of a named command.
+#pragma once
+
+#include "data/commands.h"
+#include "data/connection.h"
+
+#include <QLatin1StringView>
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Binds the values to the command's parameters, in their declared order and types.
+void bindParameters(SQLite::Statement &statement, const Command &command,
+                    std::initializer_list<Value> values);
+
+/// The rows of a command, read when it is opened and walked from the first to end-of-file; no
+/// lock is held on the file while a result set stays open. Column names are case-insensitive.
+/// Changes are gathered by set() and written by update() in one durable statement, which writes
+/// only the columns that were set. Everything that reaches the engine throws StoreError.
+class Recordset
+{
+public:
+    Recordset(Connection &connection, const Command &command);
+
+    const Command &command() const { return m_command; }
+
+    bool isOpen() const { return m_open; }
+    /// Runs the command and stands on its first row. A result set can be open only once: throws
+    /// std::logic_error where it is.
+    void open(std::initializer_list<Value> values = {});
+    /// Closes the result set if it is open and runs its command anew.
+    void reopen(std::initializer_list<Value> values = {});
+    /// Forgets the rows and any pending change. Harmless on a closed one.
+    void close();
+
+    bool isEof() const { return m_current >= m_rowCount; }
+    size_t rowCount() const { return m_rowCount; }
+    void moveFirst() { m_current = 0; }
+    void moveNext() { ++m_current; }
+    /// Stands on the first row whose column holds this whole number; false, and the position
+    /// unchanged, where there is none.
+    bool moveTo(QLatin1StringView column, qint32 id);
+
+    /// A value of the current row; throws std::logic_error for an unknown column or behind the
+    /// last row. While a change is pending, the value set last.
+    const Value &value(QLatin1StringView column) const;
+    bool isNull(QLatin1StringView column) const { return value(column).isNull(); }
+    qint32 integer(QLatin1StringView column) const { return value(column).toInt32(); }
+    double number(QLatin1StringView column) const { return value(column).toDouble(); }
+    Currency currency(QLatin1StringView column) const { return value(column).toCurrency(); }
+    QDate date(QLatin1StringView column) const { return value(column).toDate(); }
+    QTime time(QLatin1StringView column) const { return value(column).toTime(); }
+    QString text(QLatin1StringView column) const { return value(column).toText(); }
+
+    /// Begins a new record behind the rows; it becomes the current one when it is updated.
+    void addNew();
+    /// Sets a column of the new or current record; nothing is written yet.
+    void set(QLatin1StringView column, const Value &value);
+    /// Writes the pending change. On StoreError it stays pending: cancelUpdate() discards it.
+    void update();
+    void cancelUpdate();
+    bool isChangePending() const { return m_adding || !m_changes.empty(); }
+    /// Deletes the current record from its table; end-of-file where it was the only one.
+    void remove();
+
+private:
+    struct Change
+    {
+        size_t column;
+        Value value;
+    };
+
+    size_t columnOf(QLatin1StringView name) const;
+    Value &cell(size_t row, size_t column) { return m_values[row * m_columns.size() + column]; }
+    void readRows();
+    void insertRow();
+    void updateRow();
+    void requireUpdatable() const;
+
+    Connection &m_connection;
+    const Command &m_command;
+    std::unique_ptr<SQLite::Statement> m_statement; ///< prepared at the first opening
+    std::vector<std::string> m_columns;
+    std::vector<Value> m_values; ///< row by row
+    size_t m_rowCount = 0;
+    size_t m_current = 0;
+    bool m_open = false;
+    bool m_adding = false;
+    std::vector<Change> m_changes;
+};

@@ -1,0 +1,42 @@
+#include "data/storeerror.h"
+
+#include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
+
+namespace {
+
+StoreError::Kind kindOf(const SQLite::Exception &error)
+{
+    switch (error.getExtendedErrorCode()) {
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+        return StoreError::Kind::NameTaken;
+    case SQLITE_CONSTRAINT_FOREIGNKEY:
+        return StoreError::Kind::ReferenceRefused;
+    default:
+        break;
+    }
+    switch (error.getErrorCode()) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return StoreError::Kind::Busy;
+    case SQLITE_FULL:
+        return StoreError::Kind::Full;
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN:
+        return StoreError::Kind::ReadOnly;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return StoreError::Kind::Damaged;
+    default:
+        return StoreError::Kind::Other;
+    }
+}
+
+} // namespace
+
+StoreError::StoreError(const SQLite::Exception &error)
+    : std::runtime_error(error.what())
+    , m_kind(kindOf(error))
+{
+}

@@ -1,0 +1,38 @@
+// The one exception of the store.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace SQLite {
+class Exception;
+}
+
+/// What the database engine refused, and why. The data are as they were before the refused change.
+class StoreError : public std::runtime_error
+{
+public:
+    enum class Kind
+    {
+        NameTaken,        ///< a unique name is already in the table
+        ReferenceRefused, ///< other records refer to this one, or it refers to none
+        Busy,             ///< another program holds the file beyond the time-out
+        Full,             ///< no room on the disk
+        ReadOnly,         ///< the file or its folder can't be written
+        Damaged,          ///< not a database of this program, or a broken one
+        Gone,             ///< the record was deleted by another program
+        Other
+    };
+
+    StoreError(Kind kind, const std::string &what)
+        : std::runtime_error(what)
+        , m_kind(kind)
+    {
+    }
+    explicit StoreError(const SQLite::Exception &error);
+
+    Kind kind() const { return m_kind; }
+
+private:
+    Kind m_kind;
+};

@@ -1,0 +1,30 @@
+#include "help/helpkey.h"
+
+#include "help/helpviewer.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+void sendHelpKey(QWidget *window)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &press);
+}
+
+HelpKeyFilter::HelpKeyFilter(const QString &helpFile, QObject *parent)
+    : QObject(parent)
+    , m_helpFile(helpFile)
+{
+}
+
+bool HelpKeyFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
+        static_cast<QKeyEvent *>(event)->key() != Qt::Key_F1)
+        return false;
+    QWidget *window = static_cast<QWidget *>(watched)->window();
+    if (!qobject_cast<HelpViewer *>(window))
+        showHelp(window, m_helpFile, window->objectName());
+    return true;
+}

@@ -1,0 +1,23 @@
+// F1 in every window.
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+/// Sends the F1 key to a window, as its help button does.
+void sendHelpKey(QWidget *window);
+
+/// Installed on the application: answers F1 with the page of the window it was pressed in, whose
+/// name is the window's objectName.
+class HelpKeyFilter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HelpKeyFilter(const QString &helpFile, QObject *parent = nullptr);
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QString m_helpFile;
+};

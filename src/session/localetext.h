@@ -1,0 +1,53 @@
+// Numbers, dates and times as the user's locale writes them, both ways.
+#pragma once
+
+#include "data/currency.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QString>
+#include <QTime>
+
+#include <optional>
+
+/// The one place where numbers become text and text becomes numbers. Group separators are refused
+/// on input, so that "1.5" typed where the comma is decimal is an error and never 15; they are
+/// never written either.
+class LocaleText
+{
+public:
+    explicit LocaleText(const QLocale &locale);
+
+    const QLocale &locale() const { return m_locale; }
+
+    /// Reads an optional sign, digits and the locale's decimal separator, blanks around them
+    /// allowed. std::nullopt for anything else and for a number beyond the decimal's range.
+    std::optional<Currency> toCurrency(const QString &text) const;
+    /// The same numbers as a double.
+    std::optional<double> toDouble(const QString &text) const;
+    bool isNumeric(const QString &text) const { return toCurrency(text).has_value(); }
+
+    /// At most four decimals, no trailing zeros.
+    QString toText(Currency value) const;
+    /// The shortest decimal text that reads back as the same single-precision number.
+    QString toText(float value) const;
+    /// A stored number, at most four decimals.
+    QString toText(double value) const { return toText(Currency::fromDouble(value)); }
+    QString toText(int value) const { return QString::number(value); }
+
+    QString shortDate(QDate date) const { return m_locale.toString(date, QLocale::ShortFormat); }
+    /// Day, abbreviated month and year in the order of the locale's long date.
+    QString mediumDate(QDate date) const { return m_locale.toString(date, m_mediumDateFormat); }
+
+    /// Whether the locale writes 23:15 with a "23".
+    bool is24HourClock() const { return m_is24HourClock; }
+    /// Two-digit hour on a 24-hour clock ("08:05"), otherwise "8:05 am".
+    QString listTime(QTime time) const;
+
+private:
+    QString plainNumber(const QString &text) const;
+
+    QLocale m_locale;
+    QString m_mediumDateFormat;
+    bool m_is24HourClock;
+};

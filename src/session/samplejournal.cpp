@@ -1,0 +1,33 @@
+#include "session/samplejournal.h"
+
+#include "data/numbers.h"
+#include "data/valuehelpers.h"
+
+using namespace Qt::Literals;
+
+void moveSampleJournal(deData &data, QDate today)
+{
+    Recordset &common = data.rsCommon;
+    if (!common.isOpen())
+        common.open();
+    const qint16 nDays = toInt16(common.date("installDate"_L1).daysTo(today));
+    const qint16 x = toInt16(MinOf(50 - nDays, 50));
+
+    // In two steps, first away and then on, never in one.
+    data.run(commands::RecalcBodyDates, {Value(-x)});
+    data.run(commands::RecalcBodyDates, {Value(x + nDays)});
+    data.run(commands::RecalcExerciseDates, {Value(int(nDays))});
+    data.run(commands::RecalcMealDates, {Value(int(nDays))});
+    data.run(commands::RecalcUserNoteDates, {Value(int(nDays))});
+
+    common.set("installDate"_L1, Value(today));
+    common.update();
+}
+
+void deleteSampleJournal(deData &data)
+{
+    data.run("delete from Body where BodyId<0");
+    data.run("delete from ExercisePerform where ExercisePerformID<0");
+    data.run("delete from MealConsume where MealConsumeID<0");
+    data.run("delete from UserNote where UserNoteId<0");
+}

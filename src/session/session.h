@@ -1,0 +1,71 @@
+// What every window reads, for the life of the program.
+#pragma once
+
+#include "data/deData.h"
+#include "session/clock.h"
+#include "session/localetext.h"
+
+#include <QObject>
+
+/// The facts about the user that the system computes with.
+struct CommonParameters
+{
+    qint16 weight = 0;        ///< whole kilograms or pounds, after the unit system
+    QString measurement;      ///< "M" metric; anything else is imperial
+    double metabolicRate = 0; ///< background calories per hour
+
+    bool isMetric() const { return measurement == QLatin1String("M"); }
+};
+
+/// Made by start-up and handed to each window by reference; there are no globals.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes today and the present hour and minute from the clock.
+    Session(deData &data, const Clock &clock, const QLocale &locale);
+
+    deData &data() const { return m_data; }
+    const Clock &clock() const { return m_clock; }
+    const LocaleText &text() const { return m_text; }
+
+    /// The day shown; new journal rows are stored on it.
+    QDate currentDate() const { return m_currentDate; }
+    void setCurrentDate(QDate date);
+
+    /// Proposed for the next entry; hour and minute only.
+    QTime currentTime() const { return m_currentTime; }
+    void setCurrentTime(QTime time);
+
+    const CommonParameters &parameters() const { return m_parameters; }
+    /// Takes the parameters from the stored row; the weight is rounded half to even. Throws
+    /// StoreError, and OverflowError for a weight beyond 16 bits, leaving the old ones.
+    void readCommonParameters();
+
+    bool is24HourClock() const { return m_text.is24HourClock(); }
+    /// "Hh:Nn" or "h:Nn am/pm", what LocaleText::listTime writes.
+    QString listTimeFormat() const;
+    /// "H:mm" or "h:mm tt".
+    QString pickerTimeFormat() const;
+    /// The same for a Qt time editor, which calls am/pm otherwise.
+    QString qtPickerTimeFormat() const;
+
+    /// Between the lines of a message.
+    static QString lineBreak() { return QStringLiteral("\r\n"); }
+
+    /// To be called by whoever has changed journal data or common parameters.
+    void announceJournalChange() { Q_EMIT journalChanged(); }
+
+Q_SIGNALS:
+    void dayChanged();
+    void journalChanged();
+
+private:
+    deData &m_data;
+    const Clock &m_clock;
+    LocaleText m_text;
+    QDate m_currentDate;
+    QTime m_currentTime;
+    CommonParameters m_parameters;
+};

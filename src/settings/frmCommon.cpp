@@ -1,0 +1,137 @@
+#include "settings/frmCommon.h"
+
+#include "data/numbers.h"
+#include "session/session.h"
+#include "settings/recalculation.h"
+#include "settings/units.h"
+#include "ui/messages.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals;
+
+namespace {
+
+constexpr int imperialItem = 0;
+constexpr int metricItem = 1;
+
+} // namespace
+
+frmCommon::frmCommon(Session &session, Messages &messages, QWidget *parent)
+    : RecordEditor(session, messages, session.data().rsCommon, QStringLiteral("frmCommon"),
+                   tr("Common Parameters"), parent)
+    , txtWeight(makeBox(QStringLiteral("txtWeight"), tr("Body Weight")))
+    , lblWeightUnit(new QLabel(this))
+    , txtMetabolicRate(
+          makeBox(QStringLiteral("txtMetabolicRate"), tr("Background Calories Consume")))
+    , cbxMeasurement(new QComboBox(this))
+{
+    lblWeightUnit->setObjectName(QStringLiteral("lblWeightUnit"));
+    cbxMeasurement->setObjectName(QStringLiteral("cbxMeasurement"));
+    cbxMeasurement->setAccessibleName(tr("Measurement"));
+    cbxMeasurement->addItem(tr("Imperial (lb, inch)"));
+    cbxMeasurement->addItem(tr("Metric (kg, cm)"));
+    setForm(makeForm());
+
+    checkNumeric(txtWeight, tr("The Weight is not specified or specified incorrect"));
+    checkNumeric(txtMetabolicRate,
+                 tr("The Background Calories Consume is not specified or specified incorrect"));
+
+    connect(txtWeight, &QLineEdit::textChanged, this, &frmCommon::UpdateBackgroundCalories);
+    connect(cbxMeasurement, &QComboBox::currentIndexChanged, this, [this] {
+        UpdateBackgroundCalories();
+        ShowWeightUnit();
+    });
+}
+
+QLayout *frmCommon::makeForm()
+{
+    auto *form = new QGridLayout;
+    form->addWidget(makeLabel(tr("Body &Weight"), txtWeight), 0, 0);
+    form->addWidget(txtWeight, 0, 1);
+    form->addWidget(lblWeightUnit, 0, 2);
+    form->addWidget(makeLabel(tr("&Background Calories Consume"), txtMetabolicRate), 1, 0);
+    form->addWidget(txtMetabolicRate, 1, 1);
+    form->addWidget(new QLabel(tr("per hour"), this), 1, 2);
+    form->addWidget(makeLabel(tr("&Measurement"), cbxMeasurement), 2, 0);
+    form->addWidget(cbxMeasurement, 2, 1);
+    form->setColumnStretch(1, 1);
+    return form;
+}
+
+void frmCommon::setFirstStart(bool on)
+{
+    m_firstStart = on;
+    btnCancel->setEnabled(!on);
+}
+
+void frmCommon::reject()
+{
+    // Neither Escape nor the window's close button is a way round the disabled Cancel.
+    if (!m_firstStart)
+        RecordEditor::reject();
+}
+
+void frmCommon::openSource()
+{
+    source().reopen();
+}
+
+void frmCommon::Populate()
+{
+    const LocaleText &text = session().text();
+    // Each of the first two recomputes the background calories; the stored value, last, wins.
+    txtWeight->setText(text.toText(source().number("weight"_L1)));
+    cbxMeasurement->setCurrentIndex(source().text("Measurement"_L1) == "M"_L1 ? metricItem
+                                                                              : imperialItem);
+    ShowWeightUnit();
+    txtMetabolicRate->setText(text.toText(source().number("metabolicRate"_L1)));
+}
+
+bool frmCommon::isMetricChosen() const
+{
+    return cbxMeasurement->currentIndex() == metricItem;
+}
+
+void frmCommon::UpdateBackgroundCalories()
+{
+    if (const auto weight = session().text().toDouble(txtWeight->text()))
+        txtMetabolicRate->setText(
+            session().text().toText(units::backgroundCalories(*weight, isMetricChosen())));
+}
+
+void frmCommon::ShowWeightUnit()
+{
+    lblWeightUnit->setText(units::weightLabel(isMetricChosen()));
+}
+
+void frmCommon::Gather()
+{
+    const Currency weight = *session().text().toCurrency(txtWeight->text());
+    // The program holds the weight in 16 bits: a larger one is refused before it is stored.
+    roundToInt16(weight.toDouble());
+    source().set("weight"_L1, Value(weight));
+    source().set("Measurement"_L1, Value(units::codeOf(isMetricChosen())));
+    source().set("metabolicRate"_L1, Value(*session().text().toCurrency(txtMetabolicRate->text())));
+}
+
+void frmCommon::recordStored()
+{
+    session().readCommonParameters();
+    recalculateStoredData(session().data(), session().parameters());
+    m_okPressed = true;
+    RecordEditor::recordStored();
+    if (!m_firstStart)
+        messages().information(parentWidget(),
+                               tr("All existing data will be recalculated according with new "
+                                  "common parameters. Your results may change now"));
+}
+
+QString frmCommon::refusedStoreMessage() const
+{
+    return tr("Can't store information in database.");
+}

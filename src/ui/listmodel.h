@@ -1,0 +1,46 @@
+// The rows of a list window.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+#include <vector>
+
+struct ListColumn
+{
+    QString header;
+    QString meaning; ///< the header's tooltip: what the short header stands for
+    bool isNumber = false;
+};
+
+/// One record: its identifier as the hidden tag (0 for a row that is none, such as totals) and a
+/// text per column; missing texts are empty.
+struct ListRow
+{
+    qint32 tag = 0;
+    QStringList texts;
+    QString toolTip = {}; ///< for a text that a row shows shortened
+};
+
+class ListModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
+
+    void setRows(std::vector<ListRow> rows);
+    qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
+    /// The row of this tag or, compared in the first column, of this text; -1 where there is none.
+    int rowOfTag(qint32 tag) const;
+    int rowOfText(const QString &text) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    std::vector<ListColumn> m_columns;
+    std::vector<ListRow> m_rows;
+};

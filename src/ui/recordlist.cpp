@@ -1,0 +1,165 @@
+#include "ui/recordlist.h"
+
+#include "data/storeerror.h"
+#include "ui/messages.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
+                       Actions actions, const QString &accessibleName, QWidget *parent)
+    : QWidget(parent)
+    , m_messages(messages)
+    , m_family(family)
+    , m_actions(std::move(actions))
+    , m_model(new ListModel(std::move(columns), this))
+    , m_list(new QTreeView(this))
+    , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
+    , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
+    , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+{
+    m_list->setModel(m_model);
+    m_list->setAccessibleName(accessibleName);
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setAlternatingRowColors(true);
+    m_list->header()->setSectionsMovable(false);
+    connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
+    makeKeys();
+    setNames({});
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_new);
+    buttons->addWidget(m_edit);
+    buttons->addWidget(m_delete);
+    buttons->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_list);
+    layout->addLayout(buttons);
+    setFocusProxy(m_list);
+}
+
+void RecordList::setNames(const Names &names)
+{
+    m_list->setObjectName(names.list);
+    m_new->setObjectName(names.newButton);
+    m_edit->setObjectName(names.editButton);
+    m_delete->setObjectName(names.deleteButton);
+}
+
+QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,
+                                    void (RecordList::*press)())
+{
+    auto *button = new QPushButton(caption, this);
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, press);
+    return button;
+}
+
+void RecordList::makeKeys()
+{
+    const auto press = [this](Qt::Key key, QPushButton *button) {
+        auto *shortcut = new QShortcut(key, m_list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    };
+    press(Qt::Key_Insert, m_new);
+    press(Qt::Key_Return, m_edit);
+    press(Qt::Key_Enter, m_edit);
+    press(Qt::Key_Delete, m_delete);
+}
+
+void RecordList::refresh(const Reselection &reselection)
+{
+    m_model->setRows(m_actions.load());
+    sizeColumns();
+    if (!reselection.name.isEmpty())
+        select(m_model->rowOfText(reselection.name));
+    else if (reselection.id != 0)
+        select(m_model->rowOfTag(reselection.id));
+}
+
+void RecordList::select(int row)
+{
+    if (row < 0)
+        return;
+    const QModelIndex index = m_model->index(row, 0);
+    m_list->setCurrentIndex(index);
+    m_list->scrollTo(index);
+}
+
+int RecordList::selectedRow() const
+{
+    const QModelIndexList rows = m_list->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+qint32 RecordList::selectedTag() const
+{
+    const int row = selectedRow();
+    return row < 0 ? 0 : m_model->tag(row);
+}
+
+void RecordList::createRecord()
+{
+    edit(0);
+}
+
+void RecordList::editSelected()
+{
+    const qint32 tag = selectedTag();
+    if (tag != 0)
+        edit(tag);
+    else
+        m_messages.error(window(), m_family == ListFamily::Catalogue ? tr("Nothing to edit")
+                                                                     : tr("No record selected"));
+    m_list->setFocus();
+}
+
+void RecordList::edit(qint32 id)
+{
+    if (const std::optional<Reselection> stored = m_actions.edit(id))
+        refresh(*stored);
+    m_list->setFocus();
+}
+
+void RecordList::deleteSelected()
+{
+    const bool catalogue = m_family == ListFamily::Catalogue;
+    const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
+    if (nothing) {
+        m_messages.error(window(), catalogue ? tr("Nothing to delete") : tr("No record selected"));
+    } else if (selectedTag() == 0) {
+        // Rows, but none selected: there is nothing that the question could be about.
+        m_messages.error(window(), tr("Nothing to delete"));
+    } else if (m_messages.ask(window(), tr("Are you sure"),
+                              tr("Are you sure you want to delete the selected record?"))) {
+        const int row = selectedRow();
+        try {
+            m_actions.remove(selectedTag());
+            refresh();
+            select(qMin(row, m_model->rowCount() - 1));
+        } catch (const StoreError &) {
+            m_messages.error(window(), catalogue
+                                           ? tr("This record can't be deleted because there are "
+                                                "records in the database, which refer to it")
+                                           : tr("This record can't be deleted from database"));
+        }
+    }
+    m_list->setFocus();
+}
+
+void RecordList::sizeColumns()
+{
+    // All rows count, not only those in sight, up to a number that can be measured at once.
+    m_list->header()->setResizeContentsPrecision(200);
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        m_list->resizeColumnToContents(column);
+}

@@ -1,0 +1,87 @@
+// A list of records with its New, Edit and Delete buttons: what every list window shares.
+#pragma once
+
+#include "ui/listmodel.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+class Messages;
+class QPushButton;
+class QTreeView;
+
+/// What the two families of list windows say and test.
+enum class ListFamily
+{
+    Catalogue, ///< "Nothing to edit", "Nothing to delete" (tests whether there are rows)
+    Journal    ///< "No record selected" (tests the selection and its tag)
+};
+
+/// What becomes the selected row after a refresh: by name in the catalogues, by identifier in the
+/// journal, nothing by default.
+struct Reselection
+{
+    QString name = {};
+    qint32 id = 0;
+};
+
+/// The list in report view and its buttons. The window hands in how rows are read, edited and
+/// deleted; the flow, the messages, the focus and the reselection are here. Insert, Enter and
+/// Delete in the list press the buttons.
+class RecordList : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Actions
+    {
+        /// Reads the rows in the list command's order.
+        std::function<std::vector<ListRow>()> load;
+        /// Opens the editor, 0 for a new record; what to reselect where it stored something.
+        std::function<std::optional<Reselection>(qint32 id)> edit;
+        /// Deletes the record; throws StoreError where the database refuses.
+        std::function<void(qint32 id)> remove;
+    };
+    /// Object names of the controls; the defaults are those of a window with one list.
+    struct Names
+    {
+        QString list = QStringLiteral("lvwList");
+        QString newButton = QStringLiteral("btnNew");
+        QString editButton = QStringLiteral("btnEdit");
+        QString deleteButton = QStringLiteral("btnDelete");
+    };
+
+    RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
+               Actions actions, const QString &accessibleName, QWidget *parent = nullptr);
+    void setNames(const Names &names);
+
+    /// Rebuilds the rows; throws StoreError and keeps the old rows where they can't be read.
+    void refresh(const Reselection &reselection = {});
+
+    QTreeView *list() const { return m_list; }
+    ListModel *model() const { return m_model; }
+
+private:
+    QPushButton *makeButton(const QString &caption, const QString &toolTip,
+                            void (RecordList::*press)());
+    void makeKeys();
+    void createRecord();
+    void editSelected();
+    void deleteSelected();
+    void edit(qint32 id);
+    void select(int row);
+    int selectedRow() const;
+    qint32 selectedTag() const;
+    void sizeColumns();
+
+    Messages &m_messages;
+    ListFamily m_family;
+    Actions m_actions;
+    ListModel *m_model;
+    QTreeView *m_list;
+    QPushButton *m_new;
+    QPushButton *m_edit;
+    QPushButton *m_delete;
+};
