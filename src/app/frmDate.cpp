@@ -13,7 +13,7 @@
 frmDate::frmDate(Session &session, QWidget *parent)
     : QDialog(parent)
     , m_session(session)
-    , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate")))
+    , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
 {
     setObjectName(QStringLiteral("frmDate"));
     setWindowTitle(tr("Set Current Date"));

@@ -42,7 +42,7 @@ void frmMealConsume::makeControls()
     btnNewMeal->setToolTip(tr("New record"));
     btnNewMeal->setAutoDefault(false);
     btnNewMeal->setEnabled(false); // until there is a meal editor
-    dtpTime = makeTimePicker(session(), QStringLiteral("dtpTime"));
+    dtpTime = makeTimePicker(session(), QStringLiteral("dtpTime"), this);
     dtpTime->setAccessibleName(tr("Time"));
     txtQty = makeBox(QStringLiteral("txtQty"), tr("Quantity"));
     updSpin = new UpDownSpinner(txtQty, tr("Quantity"), this);

@@ -4,9 +4,9 @@
 
 #include <QCalendarWidget>
 
-QDateEdit *makeDatePicker(const Session &session, const QString &name)
+QDateEdit *makeDatePicker(const Session &session, const QString &name, QWidget *parent)
 {
-    auto *picker = new QDateEdit;
+    auto *picker = new QDateEdit(parent);
     picker->setObjectName(name);
     picker->setLocale(session.text().locale());
     picker->setCalendarPopup(true);
@@ -19,9 +19,9 @@ QDateEdit *makeDatePicker(const Session &session, const QString &name)
     return picker;
 }
 
-QTimeEdit *makeTimePicker(const Session &session, const QString &name)
+QTimeEdit *makeTimePicker(const Session &session, const QString &name, QWidget *parent)
 {
-    auto *picker = new QTimeEdit;
+    auto *picker = new QTimeEdit(parent);
     picker->setObjectName(name);
     picker->setLocale(session.text().locale());
     picker->setDisplayFormat(session.qtPickerTimeFormat());

@@ -13,23 +13,12 @@
 RecordEditor::RecordEditor(Session &session, Messages &messages, Recordset &source,
                            const QString &name, const QString &caption, QWidget *parent)
     : QDialog(parent)
-    , btnOK(new QPushButton(tr("&OK"), this))
-    , btnCancel(new QPushButton(tr("&Cancel"), this))
-    , btnHelp(new QPushButton(tr("&Help"), this))
     , m_session(session)
     , m_messages(messages)
     , m_source(source)
 {
     setObjectName(name);
     setWindowTitle(caption);
-    btnOK->setObjectName(QStringLiteral("btnOK"));
-    btnCancel->setObjectName(QStringLiteral("btnCancel"));
-    btnHelp->setObjectName(QStringLiteral("btnHelp"));
-    btnOK->setDefault(true);
-    btnHelp->setAutoDefault(false);
-    connect(btnOK, &QPushButton::clicked, this, &RecordEditor::accept);
-    connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
 }
 
 bool RecordEditor::run(qint32 recordId)
@@ -37,6 +26,7 @@ bool RecordEditor::run(qint32 recordId)
     m_recordId = recordId;
     m_stored = false;
     load();
+    focusFirstField();
     exec();
     m_source.close();
     return m_stored;
@@ -50,6 +40,15 @@ void RecordEditor::load()
     m_loading = true;
     Populate();
     m_loading = false;
+}
+
+// Left to itself, a dialog would give the focus to its default button.
+void RecordEditor::focusFirstField()
+{
+    QWidget *first = nextInFocusChain();
+    while (first != this && (first->focusPolicy() & Qt::TabFocus) == 0)
+        first = first->nextInFocusChain();
+    first->setFocus();
 }
 
 void RecordEditor::openSource()
@@ -148,18 +147,31 @@ QLabel *RecordEditor::makeLabel(const QString &caption, QWidget *field)
 
 void RecordEditor::setForm(QLayout *form)
 {
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addStretch();
+    // Made after the fields, and so behind them on Tab.
+    layout->addLayout(makeButtons());
+}
+
+QLayout *RecordEditor::makeButtons()
+{
+    btnOK = new QPushButton(tr("&OK"), this);
+    btnOK->setObjectName(QStringLiteral("btnOK"));
+    btnOK->setDefault(true);
+    btnCancel = new QPushButton(tr("&Cancel"), this);
+    btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    btnHelp = new QPushButton(tr("&Help"), this);
+    btnHelp->setObjectName(QStringLiteral("btnHelp"));
+    btnHelp->setAutoDefault(false);
+    connect(btnOK, &QPushButton::clicked, this, &RecordEditor::accept);
+    connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
+
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(btnOK);
     buttons->addWidget(btnCancel);
     buttons->addWidget(btnHelp);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(form);
-    layout->addStretch();
-    layout->addLayout(buttons);
-    // Made before the fields, the buttons would come first on Tab.
-    setTabOrder(previousInFocusChain(), btnOK);
-    setTabOrder(btnOK, btnCancel);
-    setTabOrder(btnCancel, btnHelp);
+    return buttons;
 }

@@ -10,7 +10,6 @@
 
 class DataCombo;
 class Messages;
-class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -73,7 +72,8 @@ protected:
     QLineEdit *makeBox(const QString &name, const QString &accessibleName);
     /// A field's label with its access key.
     QLabel *makeLabel(const QString &caption, QWidget *field);
-    /// Puts the form and the OK, Cancel and Help buttons into the dialog.
+    /// Puts the form and, below it, the OK, Cancel and Help buttons into the dialog. The Tab key
+    /// goes through the fields in the order in which they were made with the dialog as parent.
     void setForm(QLayout *form);
 
     bool isLoading() const { return m_loading; }
@@ -83,13 +83,15 @@ protected:
     Messages &messages() const { return m_messages; }
     Recordset &source() const { return m_source; }
 
-    QPushButton *btnOK;
-    QPushButton *btnCancel;
-    QPushButton *btnHelp;
+    QPushButton *btnOK = nullptr; ///< these three are made by setForm()
+    QPushButton *btnCancel = nullptr;
+    QPushButton *btnHelp = nullptr;
 
 private:
     void accept() override;
+    QLayout *makeButtons();
     void load();
+    void focusFirstField();
     bool store();
 
     Session &m_session;

@@ -1,0 +1,100 @@
+// Driving real windows from tests.
+#pragma once
+
+#include "ui/messages.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+/// Keeps what the program says and answers its questions, No unless told otherwise.
+class RecordedMessages : public Messages
+{
+public:
+    struct Said
+    {
+        Icon icon;
+        QString title;
+        QString text;
+        bool isQuestion = false;
+    };
+
+    void show(QWidget *, Icon icon, const QString &title, const QString &text) override
+    {
+        said.push_back({icon, title, text});
+    }
+    bool ask(QWidget *, const QString &title, const QString &text) override
+    {
+        said.push_back({Icon::Information, title, text, true});
+        if (answers.empty())
+            return false;
+        const bool answer = answers.front();
+        answers.erase(answers.begin());
+        return answer;
+    }
+
+    /// The text said last, and forgets everything; empty where nothing was said.
+    QString takeText()
+    {
+        const QString text = said.empty() ? QString() : said.back().text;
+        said.clear();
+        return text;
+    }
+
+    std::vector<Said> said;
+    std::vector<bool> answers; ///< for the next questions, in their order
+};
+
+/// The control of this name; ends the test where there is none.
+template<typename Control>
+Control &control(const QWidget &window, const char *name)
+{
+    auto *found = window.findChild<Control *>(QLatin1String(name));
+    if (!found)
+        qFatal("%s has no control %s", qPrintable(window.objectName()), name);
+    return *found;
+}
+
+/// Types as a person does: focus, select all, keys.
+inline void typeInto(QWidget &field, const QString &text)
+{
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(&field, Qt::Key_Delete);
+    else
+        QTest::keyClicks(&field, text);
+}
+
+/// Runs `open`, which shows a modal dialog of the given name, and `steps` on that dialog as soon
+/// as it is visible; a dialog that the steps leave open is rejected. Dialogs may be nested: call
+/// it again from within the steps. Fails where the dialog does not appear within five seconds.
+inline void inDialog(const char *name, const std::function<void()> &open,
+                     const std::function<void(QWidget &)> &steps)
+{
+    bool appeared = false;
+    int waited = 0;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog || !dialog->isVisible() || dialog->objectName() != QLatin1String(name)) {
+            if (++waited > 1000 && dialog) {
+                poll.stop();
+                dialog->close(); // another one: let `open` return and the check below fail
+            }
+            return;
+        }
+        poll.stop();
+        appeared = true;
+        steps(*dialog);
+        if (dialog->isVisible())
+            dialog->close();
+    });
+    poll.start(5);
+    open();
+    QVERIFY2(appeared, name);
+}

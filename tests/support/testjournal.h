@@ -1,0 +1,78 @@
+// A journal of its own for each test: a database file in a temporary folder, a clock that stands
+// still, a fixed locale.
+#pragma once
+
+#include "session/session.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+class FixedClock : public Clock
+{
+public:
+    explicit FixedClock(const QDateTime &now)
+        : m_now(now)
+    {
+    }
+    QDateTime now() const override { return m_now; }
+    void setNow(const QDateTime &now) { m_now = now; }
+
+private:
+    QDateTime m_now;
+};
+
+/// Makes an empty database file with the delivered schema: no catalogue, no journal, a metric
+/// user of 70 kg with 59 background calories per hour, counters at 1, installDate 2026-01-01.
+inline void makeEmptyJournal(const QString &path)
+{
+    QFile schema(QStringLiteral(CORVANA_SCHEMA));
+    if (!schema.open(QIODevice::ReadOnly))
+        qFatal("the schema can't be read");
+    const auto connection = Connection::create(path);
+    connection->exec(schema.readAll().constData());
+    SQLite::Statement common(connection->database(),
+                             "insert into Common (weight, metabolicRate, Measurement, NextBodyID, "
+                             "NextMealConsumeID, NextExercisePerformID, NextUserNoteID, "
+                             "installDate) values (70, 59, 'M', 1, 1, 1, 1, ?)");
+    bindValue(common, 1, Value(QDate(2026, 1, 1)));
+    common.exec();
+}
+
+/// An open session on such a file; today is Wednesday, 22 July 2026, 12:30.
+class TestJournal
+{
+public:
+    explicit TestJournal(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedKingdom))
+        : clock(QDateTime(QDate(2026, 7, 22), QTime(12, 30, 45)))
+    {
+        makeEmptyJournal(path());
+        data = std::make_unique<deData>(path());
+        session = std::make_unique<Session>(*data, clock, locale);
+        session->readCommonParameters();
+    }
+
+    QString path() const { return folder.filePath(QStringLiteral("Corvana.mdb")); }
+    void exec(const char *sql) { data->Con.exec(sql); }
+
+    /// The rows of a query, columns joined by "|", for comparison with what was expected.
+    QStringList rows(const char *sql)
+    {
+        QStringList result;
+        SQLite::Statement statement(data->Con.database(), sql);
+        while (statement.executeStep()) {
+            QStringList columns;
+            for (int i = 0; i < statement.getColumnCount(); ++i)
+                columns += columnValue(statement, i).toText();
+            result += columns.join(u'|');
+        }
+        return result;
+    }
+    QString row(const char *sql) { return rows(sql).join(u'\n'); }
+
+    QTemporaryDir folder;
+    FixedClock clock;
+    std::unique_ptr<deData> data;
+    std::unique_ptr<Session> session;
+};
