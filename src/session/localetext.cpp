@@ -86,6 +86,13 @@ QString LocaleText::toText(float value) const
         .replace(u'.', m_locale.decimalPoint());
 }
 
+QString LocaleText::toText(const Value &value) const
+{
+    const QString text = value.toText();
+    const bool isText = std::holds_alternative<QString>(value.storage());
+    return isText ? text : QString(text).replace(u'.', m_locale.decimalPoint());
+}
+
 QString LocaleText::listTime(QTime time) const
 {
     if (m_is24HourClock)
