@@ -1,5 +1,6 @@
 #include "journal/frmExercisePerform.h"
 
+#include "catalogue/frmExercise.h"
 #include "data/identifiers.h"
 #include "journal/performancefigures.h"
 #include "journal/quantitysteps.h"
@@ -31,7 +32,7 @@ void frmExercisePerform::makeControls()
 {
     dcbExercise = makeChooser(QStringLiteral("dcbExercise"), tr("Activity"));
     btnNewCategory = makeNewButton(QStringLiteral("btnNewCategory"), tr("&New Activity"));
-    btnNewCategory->setEnabled(false); // until there is an activity editor
+    connect(btnNewCategory, &QPushButton::clicked, this, &frmExercisePerform::createActivity);
     dtpBeginTime = makeTime(QStringLiteral("dtpBeginTime"), tr("Begin Time"));
     dtpEndTime = makeTime(QStringLiteral("dtpEndTime"), tr("End Time"));
     makeQuantity();
@@ -99,6 +100,15 @@ void frmExercisePerform::activityChanged()
     const bool chosen =
         activity && activities().isOpen() && activities().moveTo("ExerciseID"_L1, *activity);
     showChoice(chosen ? &activities() : nullptr);
+}
+
+void frmExercisePerform::createActivity()
+{
+    frmExercise editor(session(), messages(), this);
+    if (!editor.run(0))
+        return;
+    loadActivities();
+    dcbExercise->setDisplayedText(editor.storedName());
 }
 
 void frmExercisePerform::recalculate()

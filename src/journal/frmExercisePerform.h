@@ -27,6 +27,7 @@ private:
     Recordset &activities() const;
     void loadActivities();
     void activityChanged();
+    void createActivity();
 
     DataCombo *dcbExercise;
     QPushButton *btnNewCategory;

@@ -1,5 +1,6 @@
 #include "journal/frmMealConsume.h"
 
+#include "catalogue/frmMeal.h"
 #include "data/identifiers.h"
 #include "journal/consumptionfigures.h"
 #include "journal/quantitysteps.h"
@@ -33,7 +34,7 @@ void frmMealConsume::makeControls()
     dcbMealCategory = makeChooser(QStringLiteral("dcbMealCategory"), tr("Meal Category"));
     dcbMeal = makeChooser(QStringLiteral("dcbMeal"), tr("Meal"));
     btnNewMeal = makeNewButton(QStringLiteral("btnNewMeal"), tr("&New Meal"));
-    btnNewMeal->setEnabled(false); // until there is a meal editor
+    connect(btnNewMeal, &QPushButton::clicked, this, &frmMealConsume::createMeal);
     dtpTime = makeTime(QStringLiteral("dtpTime"), tr("Time"));
     makeQuantity();
 }
@@ -123,6 +124,25 @@ void frmMealConsume::mealChanged()
     m_increment = chosen && !meals().isNull("Increment"_L1) ? meals().currency("Increment"_L1)
                                                             : Currency::fromInteger(1);
     showChoice(chosen ? &meals() : nullptr);
+}
+
+void frmMealConsume::createMeal()
+{
+    frmMeal editor(session(), messages(), this);
+    editor.setCategoryId(dcbMealCategory->boundValue().value_or(0));
+    editor.run(0);
+    if (editor.categoriesChanged()) {
+        loadCategories();
+        dcbMealCategory->setDisplayedText(editor.newCategoryName());
+    }
+    if (!editor.isStored())
+        return;
+    // Either way the category's meals are read anew, the new one among them.
+    if (dcbMealCategory->boundValue() != editor.categoryId())
+        dcbMealCategory->setBoundValue(editor.categoryId());
+    else
+        categoryChanged();
+    dcbMeal->setDisplayedText(editor.storedName());
 }
 
 void frmMealConsume::recalculate()

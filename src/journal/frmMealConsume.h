@@ -30,6 +30,7 @@ private:
     void loadCategories();
     void categoryChanged();
     void mealChanged();
+    void createMeal();
 
     DataCombo *dcbMealCategory;
     DataCombo *dcbMeal;
