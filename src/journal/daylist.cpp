@@ -7,6 +7,7 @@
 #include "ui/pickers.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -37,6 +38,10 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     btnHelp->setAutoDefault(false);
     connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
     m_list->addButton(btnHelp);
+    // Room to spare goes to the names, so that the figures stand together.
+    QHeaderView *header = m_list->list()->header();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(columns.nameColumn, QHeaderView::Stretch);
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(makeDateRow(texts.dateCaption));
@@ -81,6 +86,7 @@ std::vector<ListRow> DayList::load() const
     DayTotals totals(m_columns.totals.size());
     for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         list.push_back(currentRow());
+        list.back().toolTip = list.back().texts.at(m_columns.nameColumn);
         std::vector<double> figures;
         for (const auto &[column, field] : m_columns.totals)
             figures.push_back(source.number(field));
@@ -96,8 +102,9 @@ std::vector<ListRow> DayList::load() const
 ListRow DayList::totalsRow(const DayTotals &totals) const
 {
     ListRow row;
+    row.isTotal = true;
     row.texts.resize(static_cast<qsizetype>(m_columns.columns.size()));
-    row.texts[m_columns.itemCount] = tr("   Total (%1 items)").arg(totals.count());
+    row.texts[m_columns.nameColumn] = tr("   Total (%1 items)").arg(totals.count());
     for (size_t i = 0; i < m_columns.totals.size(); ++i) {
         if (const std::optional<qint32> total = totals.totals()[i])
             row.texts[m_columns.totals[i].first] = QString::number(*total);

@@ -1,5 +1,7 @@
 #include "ui/listmodel.h"
 
+#include <QFont>
+
 #include <algorithm>
 
 namespace {
@@ -57,6 +59,11 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
         return row.toolTip.isEmpty() ? QVariant() : row.toolTip;
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case Qt::FontRole: {
+        QFont font;
+        font.setBold(true);
+        return row.isTotal ? QVariant(font) : QVariant();
+    }
     default:
         return {};
     }

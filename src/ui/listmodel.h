@@ -20,6 +20,7 @@ struct ListRow
     qint32 tag = 0;
     QStringList texts;
     QString toolTip = {}; ///< for a text that a row shows shortened
+    bool isTotal = false; ///< stands out from the rows that it adds up
 };
 
 class ListModel : public QAbstractTableModel

@@ -31,6 +31,7 @@ inline void makeEmptyJournal(const QString &path)
     if (!schema.open(QIODevice::ReadOnly))
         qFatal("the schema can't be read");
     const auto connection = Connection::create(path);
+    connection->exec("PRAGMA synchronous=OFF"); // nothing here has to survive a power failure
     connection->exec(schema.readAll().constData());
     SQLite::Statement common(connection->database(),
                              "insert into Common (weight, metabolicRate, Measurement, NextBodyID, "
