@@ -54,6 +54,8 @@ public:
 
 private:
     double em(double count) const { return count * g.unit; }
+    /// The least distance of labelled values: fewer than eight to a lane, however high it is.
+    double ticksApart() const { return std::max(em(2.2), (m_plotBottom - m_plotTop) / 16); }
     double width(const QString &text, TextRole role = TextRole::Plain) const
     {
         return m_metrics.width(text, role);
@@ -96,7 +98,6 @@ private:
 
 constexpr double margin = 0.75;
 constexpr double labelGap = 0.4;
-constexpr double ticksApart = 2.2;
 
 void Layout::layRows()
 {
@@ -117,7 +118,7 @@ void Layout::scaleMeals()
         });
     g.meals.scale =
         mealScale(m_day, m_plotTop + labelRoom, g.balanceZeroY - (negative ? labelRoom : 0));
-    m_mealStep = std::max(1.0, roundStep(em(ticksApart) / g.meals.scale.perValue));
+    m_mealStep = std::max(1.0, roundStep(ticksApart() / g.meals.scale.perValue));
     g.meals.gridLines = ticksBetween(g.meals.scale, m_mealStep, m_plotTop, g.balanceZeroY);
 }
 
@@ -136,9 +137,11 @@ void Layout::scaleBurn()
     };
     m_stack = stackedBurn(m_day, shortest, 0);
     g.activities.scale = fitted();
-    m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
-    g.activities.scale = fitted();
-    m_burnStep = roundStep(em(ticksApart) / g.activities.scale.perValue);
+    if (g.activities.scale.perValue > 0) {
+        m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
+        g.activities.scale = fitted();
+    }
+    m_burnStep = roundStep(ticksApart() / g.activities.scale.perValue);
     g.activities.gridLines =
         ticksBetween(g.activities.scale, m_burnStep, top - em(0.5), m_plotBottom);
 }
@@ -156,9 +159,8 @@ void Layout::scaleBalance()
         scaleAround(g.balanceZeroY, low, high, m_plotTop + inset, m_plotBottom - inset);
     m_balancePerValue = scale.perValue;
     if (scale.perValue > 0)
-        m_balanceStep = std::max(1.0, roundStep(em(ticksApart) / scale.perValue));
-    g.balanceMarks =
-        ticksBetween(scale, m_balanceStep, m_plotTop + em(0.4), m_plotBottom - em(0.4));
+        m_balanceStep = std::max(1.0, roundStep(ticksApart() / scale.perValue));
+    g.balanceMarks = ticksBetween(scale, m_balanceStep, scale.y(high), scale.y(low));
 }
 
 std::vector<LegendRow> Layout::legend(Lane which) const
@@ -293,11 +295,14 @@ void Layout::placeHeader(Lane which)
         QRectF rect = line(em(1.3));
         g.swatches.push_back(
             {QRectF(left, rect.center().y() - em(0.4), em(0.8), em(0.8)), row.part});
-        rect.setLeft(left + em(1.2));
-        g.texts.push_back({rect, m_texts.part(row.part), beginning});
-        if (m_legendValues)
-            g.texts.push_back(
-                {rect, m_texts.number(row.calories), Qt::AlignRight | Qt::AlignVCenter});
+        const QString name = m_texts.part(row.part);
+        g.texts.push_back(
+            {QRectF(left + em(1.2), rect.top(), width(name), rect.height()), name, beginning});
+        if (m_legendValues) {
+            const QString value = m_texts.number(row.calories);
+            rect.setLeft(right - width(value));
+            g.texts.push_back({rect, value, Qt::AlignRight | Qt::AlignVCenter});
+        }
     }
     current.header = QRectF(QPointF(left, captionRect.top()), QPointF(right, y))
                          .adjusted(-em(0.35), -em(0.25), em(0.35), em(0.25));
@@ -312,7 +317,7 @@ void Layout::placeTimeAxis()
     for (int minute = 0; minute <= minutesPerDay; minute += step) {
         const double x = std::round(g.time.x(minute));
         g.hourLines.push_back(x);
-        g.texts.push_back({QRectF(x - widest / 2, g.timeAxis.top() + em(0.4), widest, em(1)),
+        g.texts.push_back({QRectF(x - widest / 2, g.timeAxis.top() + em(0.5), widest, em(1)),
                            m_texts.hour(minute), Qt::AlignCenter, TextRole::Plain, Tone::Muted});
     }
     if (g.time.width / 24 >= em(0.5)) {
