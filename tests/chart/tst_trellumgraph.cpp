@@ -341,4 +341,4 @@ void TestTrellumGraph::paintsFast()
 }
 
 QTEST_MAIN(TestTrellumGraph)
-#include "test_trellumgraph.moc"
+#include "tst_trellumgraph.moc"
