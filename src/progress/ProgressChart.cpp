@@ -32,7 +32,7 @@ ProgressChart::ProgressChart(const DaySeries &series, const ProgressTexts &texts
     , m_day(lastKnownDay(series))
 {
     setObjectName(QStringLiteral("chart"));
-    setAccessibleName(tr("General progress chart"));
+    setAccessibleName(tr("General progress chart. %1").arg(texts.summaryWords(summaryOf(series))));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -164,7 +164,7 @@ QWidget *frmGeneralProgress::makeTablePage()
 
     std::vector<ListRow> rows;
     for (const QStringList &cells : m_table.rows)
-        rows.push_back({0, cells});
+        rows.push_back({0, cells, cells.constLast()});
     auto *model = new ListModel(columns, lvwDays);
     model->setRows(std::move(rows));
     lvwDays->setObjectName(QStringLiteral("lvwDays"));

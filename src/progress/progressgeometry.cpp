@@ -15,7 +15,8 @@ constexpr double headerHeight = 1.35;
 constexpr double laneGap = 0.45;
 constexpr double footHeight = 2.5;
 constexpr double ticksApart = 1.25;
-constexpr int scaleSteps = 4;
+constexpr int scaleSteps = 6;
+constexpr double noteRowHeight = 1.2;
 constexpr double leastBodyStep = 0.1;
 constexpr double leastBalanceStep = 1;
 
@@ -76,6 +77,7 @@ private:
     void layRows();
     void layColumns();
     void placeDates();
+    void placeDayNumber(qint16 day, double labelWidth);
     void placeMonth(const MonthPart &part);
     void placeNotes();
     void placeLines();
@@ -95,6 +97,7 @@ private:
     Summary m_summary;
     double m_top = 0; ///< below the line of figures
     QRectF m_strip;   ///< of the notes
+    int m_noteRows = 1;
     double m_footTop = 0;
 };
 
@@ -137,13 +140,16 @@ void Layout::placeFigures()
 
 void Layout::layRows()
 {
-    const double stripHeight = m_series.notes.empty() ? 0 : em(1.25);
+    // Many notes take turns in two rows, so that their letters have room.
+    const double letters = width(QStringLiteral("W")) * double(m_series.notes.size());
+    m_noteRows = letters > 0.6 * g.area.width() ? 2 : 1;
+    const double stripHeight = m_series.notes.empty() ? 0 : m_noteRows * em(noteRowHeight);
     m_strip = QRectF(0, m_top, 0, stripHeight);
     m_footTop = std::max(m_top + stripHeight + 3, g.area.bottom() - em(footHeight));
-    const double lanesTop = m_strip.bottom() + (stripHeight > 0 ? em(0.2) : 0);
+    g.lanesTop = m_strip.bottom() + (stripHeight > 0 ? em(0.2) : 0);
     const double spent = 3 * em(headerHeight) + 2 * em(laneGap);
-    const double left = std::max(3.0, m_footTop - lanesTop - spent);
-    double y = lanesTop;
+    const double left = std::max(3.0, m_footTop - g.lanesTop - spent);
+    double y = g.lanesTop;
     const auto lay = [&](Lane &lane, double share) {
         lane.area = QRectF(0, y + em(headerHeight), 0, share * left);
         y = lane.area.bottom() + em(laneGap);
@@ -151,13 +157,16 @@ void Layout::layRows()
     lay(g.weight, 0.27);
     lay(g.girths, 0.37);
     lay(g.balance, 0.36);
-    const auto scale = [](Lane &lane, const Range &range, double leastStep) {
+    // Above the highest value there is room for the marks of values beyond the scale.
+    const auto scale = [](Lane &lane, const Range &range, double leastStep, double room) {
         if (!range.isEmpty())
-            lane.scale = scaleOf(range, scaleSteps, leastStep, lane.area.top(), lane.area.bottom());
+            lane.scale = scaleOf(range, scaleSteps, leastStep,
+                                 lane.area.top() + std::min(room, lane.area.height() / 4),
+                                 lane.area.bottom());
     };
-    scale(g.weight, m_series.weights, leastBodyStep);
-    scale(g.girths, m_series.girths, leastBodyStep);
-    scale(g.balance, m_series.calories, leastBalanceStep);
+    scale(g.weight, m_series.weights, leastBodyStep, em(0.6));
+    scale(g.girths, m_series.girths, leastBodyStep, em(0.6));
+    scale(g.balance, m_series.calories, leastBalanceStep, 0);
 }
 
 QString Layout::lineLabel(Series series) const
@@ -224,32 +233,35 @@ void Layout::placeDates()
             g.monthLines.push_back(g.days.x(part.firstDay));
         placeMonth(part);
     }
-    const double labelWidth = width(QStringLiteral("00")) + em(0.5);
-    std::vector<qint16> labelled = weekStarts(m_series.period(), m_texts.locale());
-    for (const qint16 day : labelled)
+    const std::vector<qint16> weeks = weekStarts(m_series.period(), m_texts.locale());
+    for (const qint16 day : weeks)
         g.weekLines.push_back(g.days.x(day));
+    const double labelWidth = width(QStringLiteral("00")) + em(0.5);
     if (g.days.dayWidth >= labelWidth) {
-        labelled.clear();
         for (qint16 day = 1; day <= g.days.days; ++day)
-            labelled.push_back(day);
-    }
-    const bool everyDay = labelled.size() == size_t(g.days.days);
-    if (!everyDay && 7 * g.days.dayWidth < labelWidth)
+            placeDayNumber(day, labelWidth);
         return;
-    for (const qint16 day : labelled) {
-        const double center = g.days.center(day);
-        text(QRectF(center - labelWidth / 2, m_footTop + em(0.2), labelWidth, g.unit),
-             m_texts.locale().toString(m_series.date(day).day()), Qt::AlignCenter, TextRole::Plain,
-             Tone::Muted);
     }
+    const auto every = size_t(std::ceil(labelWidth / (7 * g.days.dayWidth)));
+    for (size_t i = 0; i < weeks.size(); i += every)
+        placeDayNumber(weeks[i], labelWidth);
+}
+
+void Layout::placeDayNumber(qint16 day, double labelWidth)
+{
+    text(QRectF(g.days.center(day) - labelWidth / 2, m_footTop + em(0.2), labelWidth, g.unit),
+         m_texts.locale().toString(m_series.date(day).day()), Qt::AlignCenter, TextRole::Plain,
+         Tone::Muted);
 }
 
 void Layout::placeNotes()
 {
     if (m_series.notes.empty())
         return;
-    g.notes = noteSpans(m_series, m_strip, g.plot, g.days, em(0.25),
-                        width(QStringLiteral("W"), TextRole::Caption));
+    const NoteStrip strip = {m_strip, m_noteRows, em(0.25), [this](const QString &letter) {
+                                 return width(letter, TextRole::Caption);
+                             }};
+    g.notes = noteSpans(m_series, strip, g.plot, g.days);
     text(QRectF(g.area.left(), m_strip.top(), m_strip.left() - em(0.4) - g.area.left(),
                 m_strip.height()),
          ProgressTexts::tr("Notes"), Qt::AlignRight | Qt::AlignVCenter);

@@ -93,7 +93,7 @@ struct NoteSpan
 {
     qint16 firstDay;
     qint16 lastDay;
-    QRectF bar;   ///< in the strip of the notes
+    QRectF bar;   ///< in the strip of the notes, which has two rows where notes are many
     QRectF reach; ///< through all lanes
     QString letter;
     bool hasRoom = false; ///< for the letter, which stands in the middle of the bar
@@ -104,7 +104,8 @@ struct ChartGeometry
     QRectF area;
     double unit = 16; ///< height of a line of text, from which lines and gaps are sized
     DayScale days;
-    QRectF plot; ///< all lanes, from the strip of the notes down to the dates
+    QRectF plot;         ///< all lanes, from the strip of the notes down to the dates
+    double lanesTop = 0; ///< of the plot without the strip
     bool isEmpty = false;
 
     Lane weight;

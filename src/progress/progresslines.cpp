@@ -87,24 +87,29 @@ std::vector<QRectF> notRecordedStrips(const DaySeries &days, const Lane &lane,
     return strips;
 }
 
-std::vector<NoteSpan> noteSpans(const DaySeries &days, const QRectF &strip, const QRectF &plot,
-                                const DayScale &scale, double leastWidth, double letterWidth)
+std::vector<NoteSpan> noteSpans(const DaySeries &days, const NoteStrip &strip, const QRectF &plot,
+                                const DayScale &scale)
 {
     std::vector<NoteSpan> spans;
-    double letterEnd = strip.left();
+    std::vector<double> letterEnds(size_t(strip.rows), strip.area.left());
+    const double height = strip.area.height() / strip.rows;
     for (size_t i = 0; i < days.notes.size(); ++i) {
         const Note &note = days.notes[i];
         const qint16 first = days.dayOf(qMax(note.DateFrom, days.period().dateFrom));
         const qint16 last = qMax(first, days.dayOf(qMin(note.DateTo, days.period().dateTo)));
         const QRectF reach(scale.x(first), plot.top(),
                            scale.x(last) + scale.dayWidth - scale.x(first), plot.height());
-        QRectF bar(reach.left(), strip.top(), std::max(reach.width(), leastWidth), strip.height());
-        bar.moveLeft(std::min(bar.left(), strip.right() - bar.width()));
+        const size_t row = i % letterEnds.size();
+        QRectF bar(reach.left(), strip.area.top() + double(row) * height,
+                   std::max(reach.width(), strip.leastWidth), height);
+        bar.moveLeft(std::min(bar.left(), strip.area.right() - bar.width()));
+        const QString letter = noteLetter(i);
+        const double letterWidth = strip.letterWidth(letter);
         const double letterLeft = bar.center().x() - letterWidth / 2;
-        const bool hasRoom = letterLeft >= letterEnd;
+        const bool hasRoom = letterLeft >= letterEnds[row] - letterWidth / 4;
         if (hasRoom)
-            letterEnd = letterLeft + letterWidth;
-        spans.push_back({first, last, bar, reach, noteLetter(i), hasRoom});
+            letterEnds[row] = letterLeft + letterWidth;
+        spans.push_back({first, last, bar, reach, letter, hasRoom});
     }
     return spans;
 }

@@ -16,9 +16,18 @@ std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const Lane &lan
 std::vector<QRectF> notRecordedStrips(const DaySeries &days, const Lane &lane,
                                       const DayScale &scale, double height);
 
-/// The notes clipped to the period. A bar is at least leastWidth wide; a letter of letterWidth has
-/// room where it doesn't touch the one before.
-std::vector<NoteSpan> noteSpans(const DaySeries &days, const QRectF &strip, const QRectF &plot,
-                                const DayScale &scale, double leastWidth, double letterWidth);
+/// The strip of the notes and what goes into it.
+struct NoteStrip
+{
+    QRectF area;
+    int rows = 1;          ///< the notes take turns in them
+    double leastWidth = 1; ///< of a bar
+    std::function<double(const QString &)> letterWidth;
+};
+
+/// The notes clipped to the period. A letter has room where it doesn't touch the one before in its
+/// row.
+std::vector<NoteSpan> noteSpans(const DaySeries &days, const NoteStrip &strip, const QRectF &plot,
+                                const DayScale &scale);
 
 } // namespace progress

@@ -33,7 +33,7 @@ private:
     {
         return {color, lines * m_hairline, style, Qt::FlatCap, Qt::RoundJoin};
     }
-    QPen averagePen() const { return pen(c.base.ink, 1.2, Qt::DashLine); }
+    QPen averagePen() const { return pen(c.base.ink, 1, Qt::DashLine); }
     QPen bridgePen(Series series) const
     {
         QPen bridge = pen(c.line(series), 1.4);
@@ -41,7 +41,7 @@ private:
         return bridge;
     }
     void horizontal(double y) { p.drawLine(QPointF(g.plot.left(), y), QPointF(g.plot.right(), y)); }
-    double markRadius() const { return std::clamp(0.42 * g.days.dayWidth, em(0.15), em(0.26)); }
+    double markRadius() const { return std::clamp(0.42 * g.days.dayWidth, em(0.11), em(0.26)); }
 
     void paintFrame();
     void paintLane(const Lane &lane);
@@ -100,12 +100,8 @@ void ProgressPainter::paint()
         paintSample(entry);
     for (const PlacedText &text : g.texts)
         paintPlacedText(p, text, c.base, m_fonts);
-    for (const SeriesLine &line : g.lines) {
-        QColor plate = c.base.ground;
-        plate.setAlphaF(0.75F);
-        p.fillRect(line.label.rect, plate);
+    for (const SeriesLine &line : g.lines)
         paintPlacedText(p, line.label, c.base, m_fonts);
-    }
 }
 
 void ProgressPainter::paintFrame()
@@ -194,6 +190,7 @@ void ProgressPainter::paintMark(const Mark &mark, Series series, double larger)
 /// A chevron at the edge of the lane, pointing to where the value is.
 void ProgressPainter::paintBeyond(const Mark &mark, double radius)
 {
+    radius = std::max(radius, em(0.17));
     const double down = mark.kind == Mark::Kind::AboveScale ? 1 : -1;
     p.setPen(pen(c.base.muted, 1.4));
     p.drawPolyline(QPolygonF({mark.at + QPointF(-radius, down * 1.6 * radius),
@@ -243,7 +240,7 @@ void ProgressPainter::paintSample(const LegendEntry &entry)
     case LegendKind::BeyondScale:
         p.setPen(bridgePen(Series::Weight));
         p.drawLine(left + QPointF(0, em(0.25)), right + QPointF(0, em(0.25)));
-        paintMark({0, Mark::Kind::AboveScale, rect.center() - QPointF(0, em(0.4))}, Series::Weight,
+        paintMark({0, Mark::Kind::AboveScale, rect.center() - QPointF(0, em(0.35))}, Series::Weight,
                   usual);
         break;
     case LegendKind::Average:
@@ -290,7 +287,7 @@ void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const Progr
         const double x = geometry.days.center(*emphasis.day);
         painter.setRenderHint(QPainter::Antialiasing, true);
         painter.setPen(QPen(colors.base.highlight, std::max(1.0, 0.09 * geometry.unit)));
-        painter.drawLine(QPointF(x, geometry.plot.top()),
+        painter.drawLine(QPointF(x, geometry.lanesTop),
                          QPointF(x, geometry.plot.bottom() + 0.25 * geometry.unit));
         for (const SeriesLine &line : geometry.lines) {
             for (const Mark &mark : line.marks) {

@@ -29,6 +29,8 @@ ValueScale scaleOf(const Range &range, int steps, double leastStep, double topY,
     // a coarser step than their distance alone would ask for.
     constexpr double mostSteps = 30000;
     const double magnitude = std::max(std::abs(minimum), std::abs(maximum));
+    if (minimum == maximum)
+        leastStep = std::max(leastStep, 1.0); // a single value tells of no finer one
     const Currency step =
         Currency::fromDouble(std::max({leastStep, daychart::roundStep((maximum - minimum) / steps),
                                        daychart::roundStep(magnitude / mostSteps)}));

@@ -86,7 +86,7 @@ QString ProgressTexts::summaryWords(const Summary &summary) const
         const bool isKnown = figure.value != notKnown();
         words += tr("%1: %2").arg(figure.name, isKnown ? figure.value : tr("not known"));
     }
-    return words.join(QStringLiteral(". "));
+    return tr("Changes over the period: %1").arg(words.join(QStringLiteral(". ")));
 }
 
 QString ProgressTexts::days(QDate first, QDate last) const
