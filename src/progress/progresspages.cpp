@@ -21,9 +21,6 @@ constexpr double columnWidth = 15;
 constexpr double columnGap = 1.2;
 constexpr double headingHeight = 1.6;
 
-// Characters from which on a note may go on in the next column.
-constexpr qsizetype longNote = 400;
-
 /// The notes' texts, flowing through columns of one width and height.
 class NoteColumns
 {
@@ -41,13 +38,11 @@ public:
         QTextBlockFormat spaced;
         // The document scales this to the device's resolution itself.
         spaced.setBottomMargin(0.6 * QFontInfo(contents.font).pointSizeF());
+        cursor.setBlockFormat(spaced);
         for (size_t i = 0; i < contents.series.notes.size(); ++i) {
             const Note &note = contents.series.notes[i];
-            spaced.setNonBreakableLines(note.NoteText.size() <= longNote);
             if (i > 0)
                 cursor.insertBlock(spaced, plain);
-            else
-                cursor.setBlockFormat(spaced);
             cursor.insertText(QStringLiteral("%1  %2").arg(
                                   noteLetter(i), contents.texts.days(note.DateFrom, note.DateTo)),
                               bold);
