@@ -242,14 +242,17 @@ void Layout::placeDates()
             placeDayNumber(day, labelWidth);
         return;
     }
-    const auto every = size_t(std::ceil(labelWidth / (7 * g.days.dayWidth)));
+    // The first label may stand half its width to the right of its day.
+    const auto every = size_t(std::ceil(1.5 * labelWidth / (7 * g.days.dayWidth)));
     for (size_t i = 0; i < weeks.size(); i += every)
         placeDayNumber(weeks[i], labelWidth);
 }
 
+/// Below its day, but not below the labels of the scales.
 void Layout::placeDayNumber(qint16 day, double labelWidth)
 {
-    text(QRectF(g.days.center(day) - labelWidth / 2, m_footTop + em(0.2), labelWidth, g.unit),
+    const double left = std::max(g.days.center(day) - labelWidth / 2, g.days.left - em(0.3));
+    text(QRectF(left, m_footTop + em(0.2), labelWidth, g.unit),
          m_texts.locale().toString(m_series.date(day).day()), Qt::AlignCenter, TextRole::Plain,
          Tone::Muted);
 }
