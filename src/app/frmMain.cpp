@@ -9,6 +9,8 @@
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
 #include "journal/frmMealConsume.h"
+#include "progress/frmGeneralProgress.h"
+#include "progress/frmGeneralProgressSettings.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -77,7 +79,8 @@ void frmMain::makeMenus()
 {
     makeOperateMenu();
     QMenu *analyze = menuBar()->addMenu(tr("&Analyze"));
-    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"));
+    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"),
+             &frmMain::openGeneralProgress);
     makeSettingsMenu();
     makeHelpMenu();
 }
@@ -300,6 +303,14 @@ void frmMain::openCommonParameters()
     dialog.run();
     if (dialog.OkPressed())
         RePaintGraph();
+}
+
+void frmMain::openGeneralProgress()
+{
+    frmGeneralProgressSettings settings(m_session, m_messages, this);
+    settings.exec();
+    if (settings.OkPressed())
+        showGeneralProgress(m_session, m_messages, settings.period(), this);
 }
 
 void frmMain::showAbout()

@@ -53,6 +53,7 @@ private:
     void printChart();
     void deleteTrialData();
     void openCommonParameters();
+    void openGeneralProgress();
     void showAbout();
     void showHelpContents();
     void showHelpOfMainForm();
