@@ -4,6 +4,9 @@
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmDate.h"
+#include "catalogue/frmExercises.h"
+#include "catalogue/frmMealCategories.h"
+#include "catalogue/frmMeals.h"
 #include "chart/TrellumGraph.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
@@ -108,9 +111,10 @@ void frmMain::makeOperateMenu()
 void frmMain::makeSettingsMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Settings"));
-    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"));
-    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"));
-    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"));
+    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"),
+             &frmMain::openMealCategories);
+    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"), &frmMain::openMeals);
+    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"), &frmMain::openExercises);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuCommon"), tr("C&ommon"), &frmMain::openCommonParameters);
 }
@@ -290,6 +294,23 @@ void frmMain::deleteTrialData()
     if (!m_messages.ask(this, tr("Are you sure?"), lines.join(Session::lineBreak())))
         return;
     deleteSampleJournal(m_session.data());
+    RePaintGraph();
+}
+
+void frmMain::openMealCategories()
+{
+    frmMealCategories(m_session, m_messages, this).run();
+}
+
+void frmMain::openMeals()
+{
+    frmMeals(m_session, m_messages, this).run();
+    RePaintGraph(); // the day's meals may have other calories now
+}
+
+void frmMain::openExercises()
+{
+    frmExercises(m_session, m_messages, this).run();
     RePaintGraph();
 }
 

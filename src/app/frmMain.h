@@ -52,6 +52,9 @@ private:
     void openConsumption(qint32 id, bool addMode);
     void printChart();
     void deleteTrialData();
+    void openMealCategories();
+    void openMeals();
+    void openExercises();
     void openCommonParameters();
     void showAbout();
     void showHelpContents();
