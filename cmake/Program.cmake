@@ -20,7 +20,7 @@ if(TARGET delivered_database)
   set(copy ${CMAKE_SOURCE_DIR}/cmake/CopyIfMissing.cmake)
   add_custom_target(program_database
     COMMAND ${CMAKE_COMMAND} -D from=${database} -D to=${corvana_program_folder}/Corvana.mdb -P ${copy}
-    VERBATIM)
+    COMMENT "Providing a journal where the program folder has none" VERBATIM)
   add_dependencies(program_database delivered_database)
   add_dependencies(program_folder program_database)
   install(CODE "
@@ -33,7 +33,7 @@ if(TARGET help_file)
   set(help_file ${CMAKE_BINARY_DIR}/help/Corvana.hlp)
   add_custom_target(program_help
     COMMAND ${CMAKE_COMMAND} -E copy_if_different ${help_file} ${corvana_program_folder}/Corvana.hlp
-    VERBATIM)
+    COMMENT "Bringing the help file into the program folder" VERBATIM)
   add_dependencies(program_help help_file)
   add_dependencies(program_folder program_help)
   install(FILES ${help_file} DESTINATION .)

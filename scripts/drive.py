@@ -160,7 +160,8 @@ class Element:
         time.sleep(0.2)
         wait_for(lambda: [i for i in self.find_all("list item", item) if i._box().width > 0],
                  lambda: f"no {item!r} in the list:\n{self.outline()}")[0].click()
-        wait_for(lambda: self.name == item, lambda: f"{item!r} chosen, the box says {self.name!r}")
+        wait_for(lambda: item in [self.name, *(line.text for line in self.find_all("text"))],
+                 lambda: f"{item!r} chosen, the box says {self.name!r}:\n{self.outline()}")
 
 
 class Program:

@@ -33,9 +33,12 @@ install_missing() {
         fail "Please install these Debian 12 packages, which needs root or sudo: ${missing[*]}"
     fi
     say "Installing from the distribution: ${missing[*]}"
-    apt update >/dev/null || say "The package lists can't be refreshed; trying with those at hand"
-    apt install -y --no-install-recommends "${missing[@]}" >/dev/null ||
-        fail "These packages can't be installed: ${missing[*]}"
+    local log
+    log=$(mktemp)
+    apt update >"$log" 2>&1 || say "The package lists can't be refreshed; trying with those at hand"
+    apt install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1 ||
+        fail "$(cat "$log")" $'\n'"These packages can't be installed: ${missing[*]}"
+    rm "$log"
 }
 
 # build PRESET [TARGET]: configures and builds, everything or one target.

@@ -11,6 +11,7 @@
 #include <QToolTip>
 
 #include <cmath>
+#include <utility>
 
 using namespace daychart;
 
@@ -92,6 +93,7 @@ void TrellumGraph::relayout()
     m_fonts = ChartFonts(font(), logicalDpiY(), this);
     m_colors = ChartColors::of(palette());
     m_geometry = chartGeometry(m_shown, rect(), metricsOf(m_fonts, this), texts());
+    m_picture = {};
     setAccessibleDescription(texts().daySummary(m_shown));
     update();
 }
@@ -117,10 +119,22 @@ void TrellumGraph::resizeEvent(QResizeEvent *)
     relayout();
 }
 
+const QPixmap &TrellumGraph::picture()
+{
+    const qreal ratio = devicePixelRatioF();
+    if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
+        m_picture = QPixmap(size() * ratio);
+        m_picture.setDevicePixelRatio(ratio);
+        QPainter painter(&m_picture);
+        paintDayChart(painter, m_geometry, m_colors, m_fonts, Medium::Screen);
+    }
+    return m_picture;
+}
+
 void TrellumGraph::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintDayChart(painter, m_geometry, m_colors, m_fonts, Medium::Screen);
+    painter.drawPixmap(0, 0, picture());
     paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_pointed, false);
     if (!hasFocus())
         return;

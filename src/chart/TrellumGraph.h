@@ -6,6 +6,7 @@
 #include "chart/charttexts.h"
 #include "chart/navigation.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 #include <optional>
@@ -76,6 +77,7 @@ private:
 
     daychart::ChartTexts texts() const { return {locale(), m_clock24}; }
     void relayout();
+    const QPixmap &picture();
     void point(QPointF position);
     void setPointed(const daychart::Cursor &pointed);
     void moveCursor(const daychart::Cursor &cursor);
@@ -92,6 +94,7 @@ private:
     daychart::ChartGeometry m_geometry;
     daychart::ChartFonts m_fonts;
     daychart::ChartColors m_colors;
+    QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little
     daychart::Cursor m_cursor;  ///< of the keyboard
     daychart::Cursor m_pointed; ///< under the pointer
     daychart::Target m_pressed;

@@ -57,6 +57,7 @@ BurnStack stackedBurn(const DayData &day, double shortest, double lowest)
         shown.push_back(shownOf(activity, shortest, lowest, limit));
         borders.insert(borders.end(), {shown.back().begin, shown.back().end});
         stack.cut.push_back(std::abs(activity.caloriesPerMinute()) > limit);
+        stack.negative.push_back(activity.calories < 0);
     }
     std::sort(borders.begin(), borders.end());
     borders.erase(std::unique(borders.begin(), borders.end()), borders.end());
@@ -88,6 +89,7 @@ std::vector<ActivityBlock> activityBlocks(const BurnStack &stack, const TimeScal
     std::vector<ActivityBlock> blocks(stack.activities.size());
     for (size_t i = 0; i < blocks.size(); ++i) {
         blocks[i].cut = stack.cut[i];
+        blocks[i].negative = stack.negative[i];
         for (const BurnSegment &segment : stack.activities[i]) {
             const QRectF rect(QPointF(time.x(segment.begin), scale.y(segment.high)),
                               QPointF(time.x(segment.end), scale.y(segment.low)));

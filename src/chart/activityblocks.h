@@ -18,6 +18,7 @@ struct BurnStack
 {
     std::vector<std::vector<BurnSegment>> activities; ///< the same indices as in the day's data
     std::vector<bool> cut;
+    std::vector<bool> negative;
     double low = 0; ///< the least and the greatest of all heights, 0 and background included
     double high = 0;
 };

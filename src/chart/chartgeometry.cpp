@@ -131,12 +131,15 @@ void Layout::scaleBurn()
         double high = std::max(m_stack.high, 3 * m_day.backgroundRate);
         if (high == 0 && m_stack.low == 0)
             high = 5;
-        return fittedScale(m_stack.low, high, top, m_plotBottom);
+        const double bottom = m_plotBottom - (m_stack.low < 0 ? em(0.4) : 0);
+        return fittedScale(m_stack.low, high, top, bottom);
     };
     m_stack = stackedBurn(m_day, shortest, 0);
     g.activities.scale = fitted();
-    m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
-    g.activities.scale = fitted();
+    if (g.activities.scale.perValue > 0) {
+        m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
+        g.activities.scale = fitted();
+    }
     m_burnStep = roundStep(em(ticksApart) / g.activities.scale.perValue);
     g.activities.gridLines =
         ticksBetween(g.activities.scale, m_burnStep, top - em(0.5), m_plotBottom);
@@ -292,11 +295,14 @@ void Layout::placeHeader(Lane which)
         QRectF rect = line(em(1.3));
         g.swatches.push_back(
             {QRectF(left, rect.center().y() - em(0.4), em(0.8), em(0.8)), row.part});
-        rect.setLeft(left + em(1.2));
-        g.texts.push_back({rect, m_texts.part(row.part), beginning});
-        if (m_legendValues)
-            g.texts.push_back(
-                {rect, m_texts.number(row.calories), Qt::AlignRight | Qt::AlignVCenter});
+        const QString name = m_texts.part(row.part);
+        g.texts.push_back(
+            {QRectF(left + em(1.2), rect.top(), width(name), rect.height()), name, beginning});
+        if (m_legendValues) {
+            const QString value = m_texts.number(row.calories);
+            rect.setLeft(right - width(value));
+            g.texts.push_back({rect, value, Qt::AlignRight | Qt::AlignVCenter});
+        }
     }
     current.header = QRectF(QPointF(left, captionRect.top()), QPointF(right, y))
                          .adjusted(-em(0.35), -em(0.25), em(0.35), em(0.25));
@@ -311,7 +317,7 @@ void Layout::placeTimeAxis()
     for (int minute = 0; minute <= minutesPerDay; minute += step) {
         const double x = std::round(g.time.x(minute));
         g.hourLines.push_back(x);
-        g.texts.push_back({QRectF(x - widest / 2, g.timeAxis.top() + em(0.4), widest, em(1)),
+        g.texts.push_back({QRectF(x - widest / 2, g.timeAxis.top() + em(0.5), widest, em(1)),
                            m_texts.hour(minute), Qt::AlignCenter, TextRole::Plain, Tone::Muted});
     }
     if (g.time.width / 24 >= em(0.5)) {

@@ -11,7 +11,6 @@
 
 #include <array>
 #include <functional>
-#include <optional>
 #include <vector>
 
 namespace daychart {
@@ -94,7 +93,8 @@ struct ActivityBlock
 {
     std::vector<QRectF> segments;
     QRectF bounds;
-    bool cut = false; ///< higher than drawn
+    bool cut = false;      ///< higher than drawn
+    bool negative = false; ///< takes away from what is burnt; drawn hollow
 };
 
 struct ItemLabel

@@ -78,6 +78,7 @@ private:
     const ChartColors &c;
     const ChartFonts &m_fonts;
     double m_hairline;
+    QList<QLineF> m_lines; ///< kept for its memory
 };
 
 void DayChartPainter::paintGrid()
@@ -103,7 +104,7 @@ void DayChartPainter::paintBurn()
         const auto &segments = block.segments;
         outline.moveTo(segments.front().bottomLeft());
         for (const QRectF &segment : segments) {
-            p.fillRect(segment, c.activity);
+            p.fillRect(segment, block.negative ? c.ground : c.activity);
             outline.lineTo(segment.topLeft());
             outline.lineTo(segment.topRight());
         }
@@ -170,20 +171,22 @@ void DayChartPainter::paintPart(Part part, const QRectF &rect)
     }
 }
 
-/// Lines from lower left to upper right. Drawn one by one, because a brush's pattern would keep
-/// the size of a screen's pixels on paper.
+/// Lines from lower left to upper right, along which x + y is constant. Drawn one by one, because a
+/// brush's pattern would keep the size of a screen's pixels on paper.
 void DayChartPainter::hatch(const QRectF &rect)
 {
     const double apart = em(0.3);
-    p.save();
-    p.setClipRect(rect, Qt::IntersectClip);
+    m_lines.clear();
+    for (double sum = std::ceil((rect.left() + rect.top()) / apart) * apart;
+         sum < rect.right() + rect.bottom(); sum += apart) {
+        const double from = std::max(rect.left(), sum - rect.bottom());
+        const double to = std::min(rect.right(), sum - rect.top());
+        m_lines.append(QLineF(from, sum - from, to, sum - to));
+    }
     p.setRenderHint(QPainter::Antialiasing, true);
     p.setPen(pen(c.fatHatch, 1.1));
-    const double first = std::floor((rect.left() + rect.top()) / apart) * apart;
-    for (double sum = first; sum < rect.right() + rect.bottom(); sum += apart)
-        p.drawLine(QPointF(sum - rect.bottom(), rect.bottom()),
-                   QPointF(sum - rect.top(), rect.top()));
-    p.restore();
+    p.drawLines(m_lines);
+    p.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void DayChartPainter::paintAxes()
@@ -192,6 +195,7 @@ void DayChartPainter::paintAxes()
     horizontal(g.meals.scale.zeroY);
     horizontal(g.balanceZeroY);
     horizontal(g.activities.scale.zeroY);
+    horizontal(g.activities.area.bottom());
     for (const double x : g.hourMarks)
         vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.15));
     for (const double x : g.hourLines)
@@ -200,20 +204,24 @@ void DayChartPainter::paintAxes()
         p.drawLine(QPointF(right(), y), QPointF(right() + em(0.2), y));
 }
 
-/// A line with a seam of the ground's colour, so that it stays legible across the items.
+/// A line with a seam of the ground's colour, so that it stays legible across the items. The jumps
+/// at meals are thin: the meal's column already says how large they are.
 void DayChartPainter::paintBalance()
 {
     p.setRenderHint(QPainter::Antialiasing, true);
-    const auto stroke = [this](const QColor &color, double lines) {
-        QPen line = pen(color, lines);
-        line.setJoinStyle(Qt::RoundJoin);
-        p.setPen(line);
-        p.drawPolyline(g.balance.data(), int(g.balance.size()));
+    const auto stroke = [this](const QColor &color, double jump, double line) {
+        QPen slope = pen(color, line);
+        slope.setCapStyle(Qt::RoundCap);
+        for (size_t i = 1; i < g.balance.size(); ++i) {
+            const bool jumps = g.balance[i].x() - g.balance[i - 1].x() < 1e-6;
+            p.setPen(jumps ? pen(color, jump) : slope);
+            p.drawLine(g.balance[i - 1], g.balance[i]);
+        }
     };
     QColor seam = c.ground;
-    seam.setAlphaF(0.85F);
-    stroke(seam, 5);
-    stroke(c.balance, 2);
+    seam.setAlphaF(0.7F);
+    stroke(seam, 3, 5);
+    stroke(c.balance, 1, 2.2);
     p.setPen(Qt::NoPen);
     p.setBrush(c.balance);
     p.drawEllipse(g.balance.back(), em(0.2), em(0.2));

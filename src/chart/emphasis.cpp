@@ -30,16 +30,14 @@ void paintPlace(QPainter &painter, const ChartGeometry &geometry, const ChartCol
     const double unit = geometry.unit;
     const QRectF &lane = geometry.lane(cursor.target.lane).area;
     const double x = geometry.time.x(cursor.minute);
-    painter.setPen(QPen(colors.highlight, unit * 0.09, Qt::DashLine));
+    painter.setPen(QPen(colors.highlight, 0.06 * unit, Qt::DotLine));
+    painter.drawLine(QPointF(x, lane.bottom()), QPointF(x, geometry.timeAxis.top()));
+    painter.setPen(QPen(colors.highlight, 0.12 * unit));
     painter.drawLine(QPointF(x, lane.top()), QPointF(x, lane.bottom()));
 
     const QString text = QStringLiteral("+ ") + texts.time(timeOf(cursor.minute));
     const double width = QFontMetricsF(fonts.caption).horizontalAdvance(text) + 0.8 * unit;
-    QRectF plate(x - width / 2, 0, width, 1.3 * unit);
-    plate.moveLeft(
-        std::clamp(plate.left(), geometry.time.left,
-                   std::max(geometry.time.left, geometry.time.left + geometry.time.width - width)));
-    plate.moveTop(lane.top() + 0.1 * unit);
+    const QRectF plate(x - width / 2, geometry.timeAxis.top() + 0.2 * unit, width, 1.4 * unit);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors.highlight);
     painter.drawRoundedRect(plate, 0.25 * unit, 0.25 * unit);

@@ -6,7 +6,7 @@
 
 namespace daychart {
 
-/// Outlines an item, tints a caption, and at a free place draws a line with its time at both ends.
+/// Outlines an item, tints a caption, and at a free place draws a line down to its time.
 void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
                    const ChartFonts &fonts, const ChartTexts &texts, const Cursor &cursor,
                    bool strong);

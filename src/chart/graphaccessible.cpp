@@ -2,6 +2,8 @@
 
 #include "chart/TrellumGraph.h"
 
+#include <utility>
+
 namespace daychart {
 
 namespace {

@@ -72,7 +72,7 @@ struct Placement
     std::vector<double> centres;
 };
 
-/// The widest columns of which none stands further from its time than about its own width.
+/// The widest columns of which none stands far from its time, or else the narrowest.
 Placement placed(const std::vector<double> &wanted, const TimeScale &time, double unit)
 {
     const double right = time.left + time.width;
@@ -87,7 +87,7 @@ Placement placed(const std::vector<double> &wanted, const TimeScale &time, doubl
         double furthest = 0;
         for (size_t i = 0; i < wanted.size(); ++i)
             furthest = std::max(furthest, std::abs(result.centres[i] - wanted[i]));
-        if (furthest <= 1.5 * unit || width <= narrowest)
+        if (furthest <= 0.8 * unit || width <= narrowest)
             return result;
     }
 }

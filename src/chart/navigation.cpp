@@ -86,7 +86,7 @@ Cursor stepped(const DayData &day, const Cursor &cursor, Step step)
 Cursor shifted(const Cursor &cursor, int minutes)
 {
     int minute = std::max(0, cursor.minute + minutes);
-    if (minutes % 5 == 0 && minute % 5 != 0)
+    if (std::abs(minutes) == 5 && minute % 5 != 0)
         minute -= minutes > 0 ? minute % 5 : minute % 5 - 5;
     return {{Kind::FreePlace, cursor.target.lane}, std::clamp(minute, 0, minutesPerDay - 1)};
 }

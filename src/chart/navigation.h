@@ -27,8 +27,8 @@ enum class Step
 /// place.
 Cursor stepped(const DayData &day, const Cursor &cursor, Step step);
 
-/// The free place of the cursor's lane that many minutes away, within the day. Whole steps of
-/// five minutes lead to multiples of five.
+/// The free place of the cursor's lane that many minutes away, within the day. A step of five
+/// minutes leads to a multiple of five.
 Cursor shifted(const Cursor &cursor, int minutes);
 
 /// The cursor on a target; on an item, its minute is that of the item.

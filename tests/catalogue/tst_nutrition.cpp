@@ -4,6 +4,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Currency decimal(const char *text)
@@ -31,16 +33,16 @@ void tst_nutrition::splits_data()
     QTest::addColumn<QString>("parts"); // of fat, of carbohydrate, of protein
 
     QTest::newRow("rounding falls on carbohydrate")
-        << u"10 20 5 250"_qs << u"118.4211 105.2631 26.3158"_qs;
-    QTest::newRow("one nutrient takes all") << u"0 12.5 0 47.3"_qs << u"0 47.3 0"_qs;
+        << u"10 20 5 250"_s << u"118.4211 105.2631 26.3158"_s;
+    QTest::newRow("one nutrient takes all") << u"0 12.5 0 47.3"_s << u"0 47.3 0"_s;
     // Fat alone: the weighted sum is rounded to 0.0004 (half to even of 0.00045), the share of
     // fat is not, so that carbohydrate must give back what is too much.
-    QTest::newRow("smallest fat") << u"0.0001 0 0 100"_qs << u"112.5 -12.5 0"_qs;
-    QTest::newRow("negative nutrient") << u"-2 10 10 62"_qs << u"-18 40 40"_qs;
-    QTest::newRow("no calories") << u"3 4 5 0"_qs << u"0 0 0"_qs;
+    QTest::newRow("smallest fat") << u"0.0001 0 0 100"_s << u"112.5 -12.5 0"_s;
+    QTest::newRow("negative nutrient") << u"-2 10 10 62"_s << u"-18 40 40"_s;
+    QTest::newRow("no calories") << u"3 4 5 0"_s << u"0 0 0"_s;
     // Calories less those of fat are out of range; with those of protein they are not.
     QTest::newRow("no false overflow")
-        << u"-2 4.5 5 600000000000000"_qs << u"-540000000000000 540000000000000 600000000000000"_qs;
+        << u"-2 4.5 5 600000000000000"_s << u"-540000000000000 540000000000000 600000000000000"_s;
 }
 
 void tst_nutrition::splits()

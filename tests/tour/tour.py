@@ -38,6 +38,12 @@ def date_shown(program):
     return main_window(program).find("text", "Current date").text
 
 
+def meals_in_chart(program):
+    """What the chart tells of its meals: "Meal at 12:40, 73 kcal: carbohydrate 47, ..."."""
+    chart = main_window(program).find("chart", "Daily calorie chart")
+    return [meal.name for meal in chart.find_all("push button") if meal.name.startswith("Meal at ")]
+
+
 @step
 def first_start(program):
     said = program.text_of(program.message())
@@ -61,14 +67,15 @@ def today(program):
     program.gone(dialog)
     shown = date_shown(program)
     check(str(datetime.date.today().day) in shown, f"the day shown is {shown!r}")
+    check(meals_in_chart(program), "there is no sample meal on the day of the first start")
 
 
 @step
 def add_meal(program):
     program.menu("Operate", "Add Meal")
     dialog = program.window("Meal Consumed - New")
-    dialog.find("combo box", "Meal Category").choose("Dairy")
-    dialog.find("combo box", "Meal").choose("Cheese")
+    dialog.find("combo box", "Meal Category").choose("Fruit")
+    dialog.find("combo box", "Meal").choose("Banana")
     dialog.find("text", "Quantity").type("2")
 
 
@@ -85,6 +92,8 @@ def chart_follows(program):
     dialog = program.window("Meal Consumed - New")
     dialog.find("push button", "Close").press()
     program.gone(dialog)
+    bananas = [meal for meal in meals_in_chart(program) if ", 209 kcal:" in meal]
+    check(len(bananas) == 1, f"two bananas are missing in {meals_in_chart(program)}")
 
 
 @step
@@ -122,7 +131,9 @@ def delete_trial_data(program):
 
 @step
 def nothing_deleted(program):
+    before = meals_in_chart(program)
     program.answer("No")
+    check(len(before) > 1 and meals_in_chart(program) == before, "the sample journal is gone")
 
 
 def play(program, pictures):
