@@ -1,5 +1,7 @@
 #include "ui/listmodel.h"
 
+#include <QTextDocument>
+
 #include <algorithm>
 
 namespace {
@@ -49,12 +51,14 @@ int ListModel::columnCount(const QModelIndex &parent) const
 QVariant ListModel::data(const QModelIndex &index, int role) const
 {
     const ListRow &row = m_rows.at(static_cast<size_t>(index.row()));
-    const ListColumn &column = m_columns.at(static_cast<size_t>(index.column()));
+    const ListColumn &column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
         return row.texts.value(index.column());
     case Qt::ToolTipRole:
-        return row.toolTip.isEmpty() ? QVariant() : row.toolTip;
+        // Rich text is what tooltips wrap; the text's own markup is not interpreted.
+        return row.toolTip.isEmpty() ? QVariant()
+                                     : Qt::convertFromPlainText(row.toolTip, Qt::WhiteSpaceNormal);
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:
@@ -66,7 +70,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
 {
     if (orientation != Qt::Horizontal)
         return {};
-    const ListColumn &column = m_columns.at(static_cast<size_t>(section));
+    const ListColumn &column = this->column(section);
     switch (role) {
     case Qt::DisplayRole:
         return column.header;

@@ -9,8 +9,9 @@
 struct ListColumn
 {
     QString header;
-    QString meaning; ///< the header's tooltip: what the short header stands for
+    QString meaning = {}; ///< the header's tooltip: what the short header stands for
     bool isNumber = false;
+    bool isLongText = false; ///< cut off at the width that the other columns leave
 };
 
 /// One record: its identifier as the hidden tag (0 for a row that is none, such as totals) and a
@@ -19,7 +20,7 @@ struct ListRow
 {
     qint32 tag = 0;
     QStringList texts;
-    QString toolTip = {}; ///< for a text that a row shows shortened
+    QString toolTip = {}; ///< plain text, for one that a row shows shortened
 };
 
 class ListModel : public QAbstractTableModel
@@ -29,6 +30,7 @@ class ListModel : public QAbstractTableModel
 public:
     explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
 
+    const ListColumn &column(int column) const { return m_columns.at(static_cast<size_t>(column)); }
     void setRows(std::vector<ListRow> rows);
     qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
     /// The row of this tag or, compared in the first column, of this text; -1 where there is none.

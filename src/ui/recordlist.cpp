@@ -59,7 +59,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setAlternatingRowColors(true);
-    m_list->header()->setSectionsMovable(false);
+    arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
     makeKeys();
     setNames({});
@@ -90,6 +90,12 @@ void RecordList::addHelpButton()
     help->setAutoDefault(false);
     connect(help, &QPushButton::clicked, this, [this] { sendHelpKey(window()); });
     m_buttons->addWidget(help);
+}
+
+void RecordList::setAccessKeysActive(bool active)
+{
+    for (QPushButton *button : {m_new, m_edit, m_delete})
+        button->setShortcut(active ? QKeySequence::mnemonic(button->text()) : QKeySequence());
 }
 
 QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,
@@ -197,10 +203,25 @@ void RecordList::removeSelected()
     select(qMin(row, m_model->rowCount() - 1));
 }
 
+void RecordList::arrangeColumns()
+{
+    QHeaderView *header = m_list->header();
+    const int last = m_model->columnCount() - 1;
+    header->setSectionsMovable(false);
+    // Stretched, a last number would stand far from the others of its row.
+    header->setStretchLastSection(!m_model->column(last).isNumber);
+    for (int column = 0; column <= last; ++column) {
+        if (m_model->column(column).isLongText)
+            header->setSectionResizeMode(column, QHeaderView::Stretch);
+    }
+}
+
 void RecordList::sizeColumns()
 {
     // All rows count, not only those in sight, up to a number that can be measured at once.
     m_list->header()->setResizeContentsPrecision(200);
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        m_list->resizeColumnToContents(column);
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (!m_model->column(column).isLongText)
+            m_list->resizeColumnToContents(column);
+    }
 }
