@@ -11,7 +11,10 @@
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
+#include "journal/frmBody.h"
 #include "journal/frmMealConsume.h"
+#include "journal/frmMeasurements.h"
+#include "journal/frmUserNote.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -94,9 +97,11 @@ void frmMain::makeOperateMenu()
     addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"));
     addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"));
     menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"));
-    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"));
-    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"));
+    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"),
+             &frmMain::openMeasurements);
+    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"),
+             &frmMain::addMeasurement);
+    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"), &frmMain::addNote);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
     menu->addSeparator();
@@ -259,6 +264,24 @@ void frmMain::editMeal(int id, bool hit, QTime time)
     m_session.setCurrentTime(time);
     if (hit && id != 0)
         openConsumption(id, false);
+}
+
+void frmMain::openMeasurements()
+{
+    frmMeasurements(m_session, m_messages, this).exec();
+    RePaintGraph();
+}
+
+void frmMain::addMeasurement()
+{
+    if (frmBody(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
+void frmMain::addNote()
+{
+    if (frmUserNote(m_session, m_messages, this).run(0))
+        RePaintGraph();
 }
 
 void frmMain::printChart()
