@@ -54,7 +54,10 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return row.texts.value(index.column());
     case Qt::ToolTipRole:
-        return row.toolTip.isEmpty() ? QVariant() : row.toolTip;
+        if (!row.toolTip.isEmpty())
+            return row.toolTip;
+        return row.texts.value(index.column()).size() > longText ? row.texts.value(index.column())
+                                                                 : QVariant();
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:

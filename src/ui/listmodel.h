@@ -19,7 +19,7 @@ struct ListRow
 {
     qint32 tag = 0;
     QStringList texts;
-    QString toolTip = {}; ///< for a text that a row shows shortened
+    QString toolTip = {}; ///< for a text that the row itself shortens
 };
 
 class ListModel : public QAbstractTableModel
@@ -27,10 +27,14 @@ class ListModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// Characters beyond which a text is not shown in full but in its tooltip.
+    static constexpr int longText = 50;
+
     explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
 
     void setRows(std::vector<ListRow> rows);
     qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
+    bool isNumber(int column) const { return m_columns.at(static_cast<size_t>(column)).isNumber; }
     /// The row of this tag or, compared in the first column, of this text; -1 where there is none.
     int rowOfTag(qint32 tag) const;
     int rowOfText(const QString &text) const;

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
@@ -13,6 +14,20 @@
 #include <QVBoxLayout>
 
 namespace {
+
+/// Room between the columns: a number at the right of its column would else touch the text at the
+/// left of the next.
+class ReportStyle : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
+            return widget->fontMetrics().averageCharWidth();
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 /// A list as wide as its columns, unless told otherwise, and a screenful high.
 class ReportView : public QTreeView
@@ -53,6 +68,10 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
     , m_buttons(new QHBoxLayout)
 {
+    auto *style = new ReportStyle;
+    style->setParent(this);
+    m_list->setStyle(style);
+    m_list->header()->setStyle(style);
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
     m_list->setRootIsDecorated(false);
@@ -60,6 +79,8 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setAllColumnsShowFocus(true);
     m_list->setAlternatingRowColors(true);
     m_list->header()->setSectionsMovable(false);
+    // A number stays where its header is; a text may have the room that is left.
+    m_list->header()->setStretchLastSection(!m_model->isNumber(m_model->columnCount() - 1));
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
     makeKeys();
     setNames({});
@@ -199,8 +220,11 @@ void RecordList::removeSelected()
 
 void RecordList::sizeColumns()
 {
-    // All rows count, not only those in sight, up to a number that can be measured at once.
-    m_list->header()->setResizeContentsPrecision(200);
-    for (int column = 0; column < m_model->columnCount(); ++column)
+    // All rows count, not only those in sight: nothing is cut off later, when it is scrolled to.
+    m_list->header()->setResizeContentsPrecision(-1);
+    const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
+    for (int column = 0; column < m_model->columnCount(); ++column) {
         m_list->resizeColumnToContents(column);
+        m_list->setColumnWidth(column, qMin(m_list->columnWidth(column), widest));
+    }
 }
