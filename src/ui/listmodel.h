@@ -20,7 +20,7 @@ struct ListRow
 {
     qint32 tag = 0;
     QStringList texts;
-    QString toolTip = {}; ///< plain text, for one that a row shows shortened
+    QString toolTip = {}; ///< plain text, for one that the row itself shortens
 };
 
 class ListModel : public QAbstractTableModel
@@ -28,11 +28,16 @@ class ListModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// Characters beyond which a text is not shown in full but in its tooltip.
+    static constexpr int longText = 50;
+
     explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
 
     const ListColumn &column(int column) const { return m_columns.at(static_cast<size_t>(column)); }
     void setRows(std::vector<ListRow> rows);
     qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
+    /// The rows, at most so many, that have the longest texts in a column.
+    std::vector<int> longestRows(int column, size_t count) const;
     /// The row of this tag or, compared in the first column, of this text; -1 where there is none.
     int rowOfTag(qint32 tag) const;
     int rowOfText(const QString &text) const;
@@ -43,6 +48,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    QVariant toolTip(const QModelIndex &index) const;
+
     std::vector<ListColumn> m_columns;
     std::vector<ListRow> m_rows;
 };

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
@@ -13,6 +14,20 @@
 #include <QVBoxLayout>
 
 namespace {
+
+/// Room between the columns: a number at the right of its column would else touch the text at the
+/// left of the next.
+class ReportStyle : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
+            return widget->fontMetrics().averageCharWidth();
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 /// A list as wide as its columns, unless told otherwise, and a screenful high.
 class ReportView : public QTreeView
@@ -53,6 +68,10 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
     , m_buttons(new QHBoxLayout)
 {
+    auto *style = new ReportStyle;
+    style->setParent(this);
+    m_list->setStyle(style);
+    m_list->header()->setStyle(style);
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
     m_list->setRootIsDecorated(false);
@@ -216,12 +235,21 @@ void RecordList::arrangeColumns()
     }
 }
 
+// Of all rows and not only those in sight, so that nothing is cut off when it is scrolled to; but
+// measuring thousands would take longer than reading them, and the widest is among the longest.
+int RecordList::contentsWidth(int column) const
+{
+    int width = m_list->header()->sectionSizeHint(column);
+    for (const int row : m_model->longestRows(column, 60))
+        width = qMax(width, m_list->sizeHintForIndex(m_model->index(row, column)).width());
+    return width;
+}
+
 void RecordList::sizeColumns()
 {
-    // All rows count, not only those in sight, up to a number that can be measured at once.
-    m_list->header()->setResizeContentsPrecision(200);
+    const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
     for (int column = 0; column < m_model->columnCount(); ++column) {
         if (!m_model->column(column).isLongText)
-            m_list->resizeColumnToContents(column);
+            m_list->setColumnWidth(column, qMin(contentsWidth(column), widest));
     }
 }

@@ -81,6 +81,7 @@ private:
     int selectedRow() const;
     qint32 selectedTag() const;
     void arrangeColumns();
+    int contentsWidth(int column) const;
     void sizeColumns();
 
     Messages &m_messages;
