@@ -4,11 +4,17 @@
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmDate.h"
+#include "catalogue/frmExercises.h"
+#include "catalogue/frmMealCategories.h"
+#include "catalogue/frmMeals.h"
 #include "chart/TrellumGraph.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
+#include "journal/frmBody.h"
 #include "journal/frmMealConsume.h"
+#include "journal/frmMeasurements.h"
+#include "journal/frmUserNote.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
 #include "session/installation.h"
@@ -94,9 +100,11 @@ void frmMain::makeOperateMenu()
     addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"));
     addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"));
     menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"));
-    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"));
-    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"));
+    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"),
+             &frmMain::openMeasurements);
+    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"),
+             &frmMain::addMeasurement);
+    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"), &frmMain::addNote);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
     menu->addSeparator();
@@ -111,9 +119,10 @@ void frmMain::makeOperateMenu()
 void frmMain::makeSettingsMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Settings"));
-    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"));
-    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"));
-    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"));
+    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"),
+             &frmMain::openMealCategories);
+    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"), &frmMain::openMeals);
+    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"), &frmMain::openExercises);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuCommon"), tr("C&ommon"), &frmMain::openCommonParameters);
 }
@@ -260,6 +269,24 @@ void frmMain::editMeal(int id, bool hit, QTime time)
         openConsumption(id, false);
 }
 
+void frmMain::openMeasurements()
+{
+    frmMeasurements(m_session, m_messages, this).exec();
+    RePaintGraph();
+}
+
+void frmMain::addMeasurement()
+{
+    if (frmBody(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
+void frmMain::addNote()
+{
+    if (frmUserNote(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
 void frmMain::printChart()
 {
     bool printed = false;
@@ -293,6 +320,23 @@ void frmMain::deleteTrialData()
     if (!m_messages.ask(this, tr("Are you sure?"), lines.join(Session::lineBreak())))
         return;
     deleteSampleJournal(m_session.data());
+    RePaintGraph();
+}
+
+void frmMain::openMealCategories()
+{
+    frmMealCategories(m_session, m_messages, this).run();
+}
+
+void frmMain::openMeals()
+{
+    frmMeals(m_session, m_messages, this).run();
+    RePaintGraph(); // the day's meals may have other calories now
+}
+
+void frmMain::openExercises()
+{
+    frmExercises(m_session, m_messages, this).run();
     RePaintGraph();
 }
 

@@ -50,8 +50,14 @@ private:
     void editMeal(int id, bool hit, QTime time);
     void addMealAt(QTime time);
     void openConsumption(qint32 id, bool addMode);
+    void openMeasurements();
+    void addMeasurement();
+    void addNote();
     void printChart();
     void deleteTrialData();
+    void openMealCategories();
+    void openMeals();
+    void openExercises();
     void openCommonParameters();
     void openGeneralProgress();
     void showAbout();
