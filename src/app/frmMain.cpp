@@ -4,14 +4,22 @@
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmDate.h"
+#include "catalogue/frmExercises.h"
+#include "catalogue/frmMealCategories.h"
+#include "catalogue/frmMeals.h"
 #include "chart/TrellumGraph.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
+#include "journal/frmBody.h"
 #include "journal/frmExercisePerform.h"
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsume.h"
 #include "journal/frmMealConsumes.h"
+#include "journal/frmMeasurements.h"
+#include "journal/frmUserNote.h"
+#include "progress/frmGeneralProgress.h"
+#include "progress/frmGeneralProgressSettings.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -80,7 +88,8 @@ void frmMain::makeMenus()
 {
     makeOperateMenu();
     QMenu *analyze = menuBar()->addMenu(tr("&Analyze"));
-    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"));
+    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"),
+             &frmMain::openGeneralProgress);
     makeSettingsMenu();
     makeHelpMenu();
 }
@@ -96,9 +105,11 @@ void frmMain::makeOperateMenu()
              &frmMain::showActivities);
     addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"), &frmMain::addActivity);
     menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"));
-    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"));
-    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"));
+    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"),
+             &frmMain::openMeasurements);
+    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"),
+             &frmMain::addMeasurement);
+    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"), &frmMain::addNote);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
     menu->addSeparator();
@@ -113,9 +124,10 @@ void frmMain::makeOperateMenu()
 void frmMain::makeSettingsMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Settings"));
-    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"));
-    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"));
-    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"));
+    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"),
+             &frmMain::openMealCategories);
+    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"), &frmMain::openMeals);
+    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"), &frmMain::openExercises);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuCommon"), tr("C&ommon"), &frmMain::openCommonParameters);
 }
@@ -304,6 +316,24 @@ void frmMain::addActivityAt(QTime time)
     openEditor<frmExercisePerform>(0, false);
 }
 
+void frmMain::openMeasurements()
+{
+    frmMeasurements(m_session, m_messages, this).exec();
+    RePaintGraph();
+}
+
+void frmMain::addMeasurement()
+{
+    if (frmBody(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
+void frmMain::addNote()
+{
+    if (frmUserNote(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
 void frmMain::printChart()
 {
     bool printed = false;
@@ -340,6 +370,23 @@ void frmMain::deleteTrialData()
     RePaintGraph();
 }
 
+void frmMain::openMealCategories()
+{
+    frmMealCategories(m_session, m_messages, this).run();
+}
+
+void frmMain::openMeals()
+{
+    frmMeals(m_session, m_messages, this).run();
+    RePaintGraph(); // the day's meals may have other calories now
+}
+
+void frmMain::openExercises()
+{
+    frmExercises(m_session, m_messages, this).run();
+    RePaintGraph();
+}
+
 void frmMain::openCommonParameters()
 {
     frmCommon dialog(m_session, m_messages, this);
@@ -347,6 +394,14 @@ void frmMain::openCommonParameters()
     dialog.run();
     if (dialog.OkPressed())
         RePaintGraph();
+}
+
+void frmMain::openGeneralProgress()
+{
+    frmGeneralProgressSettings settings(m_session, m_messages, this);
+    settings.exec();
+    if (settings.OkPressed())
+        showGeneralProgress(m_session, m_messages, settings.period(), this);
 }
 
 void frmMain::showAbout()

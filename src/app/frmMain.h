@@ -50,6 +50,9 @@ private:
     void addMeal();
     void chooseMeal(int id, bool hit, QTime time);
     void addMealAt(QTime time);
+    void openMeasurements();
+    void addMeasurement();
+    void addNote();
     void showActivities();
     void addActivity();
     void chooseActivity(int id, bool hit, QTime time);
@@ -60,7 +63,11 @@ private:
     void openDayList();
     void printChart();
     void deleteTrialData();
+    void openMealCategories();
+    void openMeals();
+    void openExercises();
     void openCommonParameters();
+    void openGeneralProgress();
     void showAbout();
     void showHelpContents();
     void showHelpOfMainForm();

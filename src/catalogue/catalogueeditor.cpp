@@ -7,6 +7,7 @@
 void CatalogueEditor::makeNameBox(const QString &accessibleName)
 {
     txtName = makeBox(QStringLiteral("txtName"), accessibleName);
+    txtName->setMinimumWidth(fontMetrics().averageCharWidth() * 32);
 }
 
 void CatalogueEditor::showColumn(QLineEdit *box, QLatin1StringView column)

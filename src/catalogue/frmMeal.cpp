@@ -59,7 +59,7 @@ QLayout *frmMeal::makeForm()
     form->addWidget(makeLabel(tr("&Meal Name"), txtName), 1, 0);
     form->addWidget(txtName, 1, 1, 1, 3);
     form->addWidget(makeLabel(tr("&Unit"), txtUnit), 2, 0);
-    form->addWidget(txtUnit, 2, 1);
+    form->addWidget(txtUnit, 2, 1, 1, 2);
     form->addWidget(makeLabel(tr("&Default Qty"), txtDefaultQty), 3, 0);
     form->addWidget(txtDefaultQty, 3, 1);
     form->addWidget(makeLabel(tr("&Increment"), txtIncrement), 4, 0);

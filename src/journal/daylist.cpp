@@ -1,15 +1,12 @@
 #include "journal/daylist.h"
 
 #include "data/recordset.h"
-#include "help/helpkey.h"
 #include "journal/daytotals.h"
 #include "session/session.h"
 #include "ui/pickers.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QScopeGuard>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -33,15 +30,7 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     dtpDate->setKeyboardTracking(false);
     connect(dtpDate, &QDateEdit::dateChanged, this, &DayList::showDay);
 
-    auto *btnHelp = new QPushButton(tr("&Help"), this);
-    btnHelp->setObjectName(QStringLiteral("btnHelp"));
-    btnHelp->setAutoDefault(false);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
-    m_list->addButton(btnHelp);
-    // Room to spare goes to the names, so that the figures stand together.
-    QHeaderView *header = m_list->list()->header();
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(columns.nameColumn, QHeaderView::Stretch);
+    m_list->addHelpButton();
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(makeDateRow(texts.dateCaption));
@@ -86,7 +75,6 @@ std::vector<ListRow> DayList::load() const
     DayTotals totals(m_columns.totals.size());
     for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         list.push_back(currentRow());
-        list.back().toolTip = list.back().texts.at(m_columns.nameColumn);
         std::vector<double> figures;
         for (const auto &[column, field] : m_columns.totals)
             figures.push_back(source.number(field));

@@ -88,7 +88,8 @@ void FormDialog::setForm(QLayout *form)
 {
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addStretch();
+    // Takes the room that a taller window leaves, but only what the form has no use for.
+    layout->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred));
     // Made after the fields, and so behind them on Tab.
     layout->addLayout(makeButtons());
 }
