@@ -36,7 +36,7 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     layout->addLayout(makeDateRow(texts.dateCaption));
     layout->addWidget(m_list);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 90, metrics.lineSpacing() * 26);
+    resize(metrics.averageCharWidth() * 110, metrics.lineSpacing() * 26);
 }
 
 QLayout *DayList::makeDateRow(const QString &caption)
