@@ -96,7 +96,6 @@ QWidget *frmGeneralProgress::makeSide()
     auto *side = new QWidget;
     side->setMinimumWidth(11 * line);
     lblDay->setObjectName(QStringLiteral("lblDay"));
-    lblDay->setAccessibleName(tr("The day pointed at"));
     lblDay->setTextFormat(Qt::RichText);
     lblDay->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblDay->setWordWrap(true);
