@@ -18,6 +18,7 @@
 #include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTabWidget>
@@ -32,7 +33,7 @@ namespace {
 
 constexpr double paperPoints = 9;
 constexpr int sideWidth = 16; // in lines of text
-constexpr int dayLines = 8;   // of text, so that the list below stands still
+constexpr int dayLines = 9;   // of text, so that the list below stands still
 
 QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent)
 {
@@ -198,6 +199,9 @@ void frmGeneralProgress::makeConnections()
     connect(btnPrint, &QPushButton::clicked, this, &frmGeneralProgress::print);
     connect(btnSave, &QPushButton::clicked, this, &frmGeneralProgress::save);
     connect(btnCopy, &QPushButton::clicked, this, &frmGeneralProgress::copyTable);
+    auto *copyKey = new QShortcut(QKeySequence::Copy, lvwDays);
+    copyKey->setContext(Qt::WidgetShortcut);
+    connect(copyKey, &QShortcut::activated, this, &frmGeneralProgress::copyTable);
     connect(btnClose, &QPushButton::clicked, this, &QDialog::reject);
     connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
 }
