@@ -100,6 +100,13 @@ QString LocaleText::toText(float value) const
     return localized(QString::fromLatin1(buffer.data(), end - buffer.data()));
 }
 
+QString LocaleText::toText(const Value &value) const
+{
+    const QString text = value.toText();
+    const bool isText = std::holds_alternative<QString>(value.storage());
+    return isText ? text : QString(text).replace(u'.', m_locale.decimalPoint());
+}
+
 QString LocaleText::listTime(QTime time) const
 {
     const auto number = [](int value, int digits) {

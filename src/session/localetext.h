@@ -1,7 +1,7 @@
 // Numbers, dates and times as the user's locale writes them, both ways.
 #pragma once
 
-#include "data/currency.h"
+#include "data/value.h"
 
 #include <QDate>
 #include <QLocale>
@@ -35,6 +35,8 @@ public:
     /// A stored number, at most four decimals.
     QString toText(double value) const { return toText(Currency::fromDouble(value)); }
     QString toText(int value) const { return localized(QString::number(value)); }
+    /// A value of a record: numbers as above, texts as they are, Null as the empty text.
+    QString toText(const Value &value) const;
 
     QString shortDate(QDate date) const { return m_locale.toString(date, QLocale::ShortFormat); }
     /// Day, abbreviated month and year in the order of the locale's long date.

@@ -1,14 +1,59 @@
 #include "ui/recordlist.h"
 
 #include "data/storeerror.h"
+#include "help/helpkey.h"
 #include "ui/messages.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+namespace {
+
+/// Room between the columns: a number at the right of its column would else touch the text at the
+/// left of the next.
+class ReportStyle : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
+            return widget->fontMetrics().averageCharWidth();
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+/// A list as wide as its columns, unless told otherwise, and a screenful high.
+class ReportView : public QTreeView
+{
+public:
+    using QTreeView::QTreeView;
+
+    QSize sizeHint() const override
+    {
+        constexpr int rows = 18;
+        const int width = header()->length() + verticalScrollBar()->sizeHint().width();
+        const int height = header()->sizeHint().height() + rows * fontMetrics().height() * 5 / 4;
+        return QSize(width, height) + QSize(2, 2) * frameWidth();
+    }
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QTreeView::focusInEvent(event);
+        // The first row is current now though not selected, and Down would pass it by.
+        if (!selectionModel()->hasSelection())
+            selectionModel()->clearCurrentIndex();
+    }
+};
+
+} // namespace
 
 RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
                        Actions actions, const QString &accessibleName, QWidget *parent)
@@ -17,31 +62,35 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_family(family)
     , m_actions(std::move(actions))
     , m_model(new ListModel(std::move(columns), this))
-    , m_list(new QTreeView(this))
+    , m_list(new ReportView(this))
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+    , m_buttons(new QHBoxLayout)
 {
+    auto *style = new ReportStyle;
+    style->setParent(this);
+    m_list->setStyle(style);
+    m_list->header()->setStyle(style);
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setAlternatingRowColors(true);
-    m_list->header()->setSectionsMovable(false);
+    arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
     makeKeys();
     setNames({});
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(m_new);
-    buttons->addWidget(m_edit);
-    buttons->addWidget(m_delete);
-    buttons->addStretch();
+    m_buttons->addWidget(m_new);
+    m_buttons->addWidget(m_edit);
+    m_buttons->addWidget(m_delete);
+    m_buttons->addStretch();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
-    layout->addLayout(buttons);
+    layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
 
@@ -51,6 +100,21 @@ void RecordList::setNames(const Names &names)
     m_new->setObjectName(names.newButton);
     m_edit->setObjectName(names.editButton);
     m_delete->setObjectName(names.deleteButton);
+}
+
+void RecordList::addHelpButton()
+{
+    auto *help = new QPushButton(tr("&Help"), this);
+    help->setObjectName(QStringLiteral("btnHelp"));
+    help->setAutoDefault(false);
+    connect(help, &QPushButton::clicked, this, [this] { sendHelpKey(window()); });
+    m_buttons->addWidget(help);
+}
+
+void RecordList::setAccessKeysActive(bool active)
+{
+    for (QPushButton *button : {m_new, m_edit, m_delete})
+        button->setShortcut(active ? QKeySequence::mnemonic(button->text()) : QKeySequence());
 }
 
 QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,
@@ -133,33 +197,59 @@ void RecordList::edit(qint32 id)
 void RecordList::deleteSelected()
 {
     const bool catalogue = m_family == ListFamily::Catalogue;
-    const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
-    if (nothing) {
+    // In a catalogue with rows, but none selected, the question would be about nothing either.
+    if (selectedTag() == 0)
         m_messages.error(window(), catalogue ? tr("Nothing to delete") : tr("No record selected"));
-    } else if (selectedTag() == 0) {
-        // Rows, but none selected: there is nothing that the question could be about.
-        m_messages.error(window(), tr("Nothing to delete"));
-    } else if (m_messages.ask(window(), tr("Are you sure"),
-                              tr("Are you sure you want to delete the selected record?"))) {
-        const int row = selectedRow();
-        try {
-            m_actions.remove(selectedTag());
-            refresh();
-            select(qMin(row, m_model->rowCount() - 1));
-        } catch (const StoreError &) {
-            m_messages.error(window(), catalogue
-                                           ? tr("This record can't be deleted because there are "
-                                                "records in the database, which refer to it")
-                                           : tr("This record can't be deleted from database"));
-        }
-    }
+    else if (m_messages.ask(window(), tr("Are you sure"),
+                            tr("Are you sure you want to delete the selected record?")))
+        removeSelected();
     m_list->setFocus();
+}
+
+void RecordList::removeSelected()
+{
+    const int row = selectedRow();
+    try {
+        m_actions.remove(selectedTag());
+    } catch (const StoreError &) {
+        m_messages.error(window(), m_family == ListFamily::Catalogue
+                                       ? tr("This record can't be deleted because there are "
+                                            "records in the database, which refer to it")
+                                       : tr("This record can't be deleted from database"));
+        return;
+    }
+    refresh();
+    select(qMin(row, m_model->rowCount() - 1));
+}
+
+void RecordList::arrangeColumns()
+{
+    QHeaderView *header = m_list->header();
+    const int last = m_model->columnCount() - 1;
+    header->setSectionsMovable(false);
+    // Stretched, a last number would stand far from the others of its row.
+    header->setStretchLastSection(!m_model->column(last).isNumber);
+    for (int column = 0; column <= last; ++column) {
+        if (m_model->column(column).isLongText)
+            header->setSectionResizeMode(column, QHeaderView::Stretch);
+    }
+}
+
+// Of all rows and not only those in sight, so that nothing is cut off when it is scrolled to; but
+// measuring thousands would take longer than reading them, and the widest is among the longest.
+int RecordList::contentsWidth(int column) const
+{
+    int width = m_list->header()->sectionSizeHint(column);
+    for (const int row : m_model->longestRows(column, 60))
+        width = qMax(width, m_list->sizeHintForIndex(m_model->index(row, column)).width());
+    return width;
 }
 
 void RecordList::sizeColumns()
 {
-    // All rows count, not only those in sight, up to a number that can be measured at once.
-    m_list->header()->setResizeContentsPrecision(200);
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        m_list->resizeColumnToContents(column);
+    const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (!m_model->column(column).isLongText)
+            m_list->setColumnWidth(column, qMin(contentsWidth(column), widest));
+    }
 }

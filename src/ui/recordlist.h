@@ -9,14 +9,15 @@
 #include <optional>
 
 class Messages;
+class QHBoxLayout;
 class QPushButton;
 class QTreeView;
 
 /// What the two families of list windows say and test.
 enum class ListFamily
 {
-    Catalogue, ///< "Nothing to edit", "Nothing to delete" (tests whether there are rows)
-    Journal    ///< "No record selected" (tests the selection and its tag)
+    Catalogue, ///< "Nothing to edit", "Nothing to delete"
+    Journal    ///< "No record selected"
 };
 
 /// What becomes the selected row after a refresh: by name in the catalogues, by identifier in the
@@ -56,6 +57,10 @@ public:
     RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
                Actions actions, const QString &accessibleName, QWidget *parent = nullptr);
     void setNames(const Names &names);
+    /// Puts the window's help button beside the others.
+    void addHelpButton();
+    /// In a window with several lists, the access keys go to the buttons of one of them.
+    void setAccessKeysActive(bool active);
 
     /// Rebuilds the rows; throws StoreError and keeps the old rows where they can't be read.
     void refresh(const Reselection &reselection = {});
@@ -70,10 +75,13 @@ private:
     void createRecord();
     void editSelected();
     void deleteSelected();
+    void removeSelected();
     void edit(qint32 id);
     void select(int row);
     int selectedRow() const;
     qint32 selectedTag() const;
+    void arrangeColumns();
+    int contentsWidth(int column) const;
     void sizeColumns();
 
     Messages &m_messages;
@@ -84,4 +92,5 @@ private:
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
+    QHBoxLayout *m_buttons;
 };

@@ -1,0 +1,60 @@
+#include "catalogue/cataloguelist.h"
+
+#include "session/session.h"
+
+#include <QScopeGuard>
+#include <QVBoxLayout>
+
+CatalogueList::CatalogueList(Session &session, Messages &messages, Recordset &source,
+                             const QString &name, const QString &caption,
+                             std::vector<ListColumn> columns, QWidget *parent)
+    : QDialog(parent)
+    , m_session(session)
+    , m_messages(messages)
+    , m_source(source)
+    , m_list(new RecordList(std::move(columns), ListFamily::Catalogue, messages,
+                            {[this] { return rows(); }, [this](qint32 id) { return edit(id); },
+                             [this](qint32 id) { remove(id); }},
+                            caption, this))
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    m_list->addHelpButton();
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_list);
+}
+
+void CatalogueList::setHead(QLayout *head)
+{
+    static_cast<QVBoxLayout *>(layout())->insertLayout(0, head);
+}
+
+void CatalogueList::run()
+{
+    load();
+    m_list->setFocus();
+    exec();
+}
+
+std::vector<ListRow> CatalogueList::readRows(Recordset &records, QLatin1StringView tag,
+                                             std::initializer_list<QLatin1StringView> columns) const
+{
+    std::vector<ListRow> rows;
+    rows.reserve(records.rowCount());
+    for (; !records.isEof(); records.moveNext()) {
+        ListRow row{records.integer(tag), {}};
+        for (const QLatin1StringView column : columns)
+            row.texts += m_session.text().toText(records.value(column));
+        rows.push_back(std::move(row));
+    }
+    records.close();
+    return rows;
+}
+
+void CatalogueList::remove(qint32 id)
+{
+    const auto close = qScopeGuard([this] { m_source.close(); });
+    m_source.reopen({Value(id)});
+    if (!m_source.isEof())
+        m_source.remove();
+}

@@ -1,0 +1,153 @@
+#include "catalogue/frmExercise.h"
+
+#include "catalogue/frmWeightAdjustment.h"
+#include "catalogue/weightadjustment.h"
+#include "session/session.h"
+#include "ui/messages.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals;
+
+frmExercise::frmExercise(Session &session, Messages &messages, QWidget *parent)
+    : CatalogueEditor(session, messages, session.data().rsExercise, QStringLiteral("frmExercise"),
+                      tr("Activity Description"), parent)
+{
+    makeControls();
+    setForm(makeForm());
+    makeChecks();
+    makeConnections();
+}
+
+void frmExercise::makeControls()
+{
+    makeNameBox(tr("Activity Name"));
+    txtCaloriesConsume = makeBox(QStringLiteral("txtCaloriesConsume"), tr("Calories Consume"));
+    lblPerWhat = new QLabel(this);
+    lblPerWhat->setObjectName(QStringLiteral("lblPerWhat"));
+    btnWeightAdjust = new QPushButton(tr("&For Me"), this);
+    btnWeightAdjust->setObjectName(QStringLiteral("btnWeightAdjust"));
+    btnWeightAdjust->setToolTip(tr("Weight Adjustment Calculator"));
+    btnWeightAdjust->setAutoDefault(false);
+    chkWeightDependent = new QCheckBox(tr("&Weight Dependent"), this);
+    chkWeightDependent->setObjectName(QStringLiteral("chkWeightDependent"));
+    txtDefaultQty = makeBox(QStringLiteral("txtDefaultQty"), tr("Default Qty"));
+    txtUnit = makeBox(QStringLiteral("txtUnit"), tr("Unit"));
+}
+
+QLayout *frmExercise::makeForm()
+{
+    auto *form = new QGridLayout;
+    form->addWidget(makeLabel(tr("Activity &Name"), txtName), 0, 0);
+    form->addWidget(txtName, 0, 1, 1, 3);
+    form->addWidget(makeLabel(tr("Ca&lories Consume"), txtCaloriesConsume), 1, 0);
+    form->addWidget(txtCaloriesConsume, 1, 1);
+    form->addWidget(lblPerWhat, 1, 2);
+    form->addWidget(btnWeightAdjust, 1, 3);
+    form->addWidget(chkWeightDependent, 2, 1, 1, 3);
+    form->addWidget(makeLabel(tr("&Default Qty"), txtDefaultQty), 3, 0);
+    form->addWidget(txtDefaultQty, 3, 1);
+    form->addWidget(makeLabel(tr("&Unit"), txtUnit), 4, 0);
+    form->addWidget(txtUnit, 4, 1);
+    form->setColumnStretch(2, 1);
+    return form;
+}
+
+void frmExercise::makeChecks()
+{
+    checkSpecified(txtName, tr("The Name should be specified"));
+    addCheck(txtCaloriesConsume, tr("The Calories Consume should be specified"),
+             [this] { return !txtCaloriesConsume->text().isEmpty(); });
+    checkNumeric(txtCaloriesConsume, tr("The Calories Consume field contains illegal data"));
+    checkSpecified(txtUnit, tr("The Unit should be specified"));
+    checkNumericOrEmpty(txtDefaultQty, tr("The Default Quantity field contains illegal data"));
+}
+
+void frmExercise::makeConnections()
+{
+    connect(txtCaloriesConsume, &QLineEdit::textChanged, this,
+            [this] { m_caloriesChanged = true; });
+    connect(chkWeightDependent, &QCheckBox::clicked, this, [this] {
+        m_caloriesChanged = true;
+        showDependence();
+    });
+    connect(btnWeightAdjust, &QPushButton::clicked, this, &frmExercise::adjustToWeight);
+}
+
+void frmExercise::Populate()
+{
+    if (!source().isEof()) {
+        showColumn(txtName, "Name"_L1);
+        showColumn(txtCaloriesConsume, "CaloriesConsume"_L1);
+        showColumn(txtUnit, "Unit"_L1);
+        chkWeightDependent->setChecked(source().integer("WeightDependent"_L1) == 1);
+        showColumn(txtDefaultQty, "DefaultQty"_L1);
+    }
+    showDependence();
+    m_caloriesChanged = false;
+    m_caloriesAdjusted = false;
+}
+
+void frmExercise::showDependence()
+{
+    const bool dependent = chkWeightDependent->isChecked();
+    btnWeightAdjust->setEnabled(dependent);
+    lblPerWhat->setText(dependent ? tr("per unit, for my body") : tr("per unit"));
+}
+
+bool frmExercise::Validate()
+{
+    if (!RecordEditor::Validate())
+        return false;
+    const bool doubtful =
+        chkWeightDependent->isChecked() && m_caloriesChanged && !m_caloriesAdjusted;
+    return !doubtful ||
+           messages().ask(this, tr("Are you sure?"),
+                          tr("This activity is body weight dependent. Are you sure you've "
+                             "specified the Calories Consume value exactly for your body weight? "
+                             "If No, please press 'For Me' button and use our weight adjustment "
+                             "calculator."));
+}
+
+void frmExercise::Gather()
+{
+    source().set("Name"_L1, Value(txtName->text()));
+    source().set("Unit"_L1, Value(txtUnit->text()));
+    source().set("WeightDependent"_L1, Value(chkWeightDependent->isChecked() ? 1 : 0));
+    source().set("DefaultQty"_L1, numberOrNull(txtDefaultQty));
+    // Untouched calories keep their base, which may have been given for another weight.
+    if (!m_caloriesChanged)
+        return;
+    source().set("CaloriesConsume"_L1, Value(number(txtCaloriesConsume)));
+    source().set("CaloriesConsumeBase"_L1, Value(caloriesForReferenceBody()));
+}
+
+double frmExercise::caloriesForReferenceBody() const
+{
+    const double calories = number(txtCaloriesConsume).toDouble();
+    if (!chkWeightDependent->isChecked())
+        return calories;
+    const CommonParameters &user = session().parameters();
+    return baseCalories(calories, user.weight, user.isMetric());
+}
+
+QString frmExercise::refusedStoreMessage() const
+{
+    return tr("Can't store this record in database. Please check whether there is already "
+              "Activity with the same name in the database");
+}
+
+void frmExercise::adjustToWeight()
+{
+    frmWeightAdjustment calculator(session(), messages(), this);
+    calculator.setCaloriesConsume(txtCaloriesConsume->text());
+    if (!calculator.run())
+        return;
+    txtCaloriesConsume->setText(session().text().toText(int(calculator.caloriesAdjusted())));
+    m_caloriesChanged = true;
+    m_caloriesAdjusted = true;
+}

@@ -1,0 +1,37 @@
+#include "catalogue/frmMealCategory.h"
+
+#include "session/session.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::Literals;
+
+frmMealCategory::frmMealCategory(Session &session, Messages &messages, QWidget *parent)
+    : CatalogueEditor(session, messages, session.data().rsMealCategory,
+                      QStringLiteral("frmMealCategory"), tr("Meal Category"), parent)
+{
+    makeNameBox(tr("Meal Category Name"));
+    auto *form = new QFormLayout;
+    form->addRow(makeLabel(tr("Meal Category &Name"), txtName), txtName);
+    setForm(form);
+    checkSpecified(txtName, tr("The Name should be specified"));
+}
+
+void frmMealCategory::Populate()
+{
+    if (!source().isEof())
+        showColumn(txtName, "Name"_L1);
+}
+
+void frmMealCategory::Gather()
+{
+    source().set("Name"_L1, Value(txtName->text()));
+}
+
+QString frmMealCategory::refusedStoreMessage() const
+{
+    return tr("Can't store this record in database. Please check whether there is already Meal "
+              "Category with the same name in the database");
+}

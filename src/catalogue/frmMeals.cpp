@@ -1,0 +1,88 @@
+#include "catalogue/frmMeals.h"
+
+#include "catalogue/frmMeal.h"
+#include "session/session.h"
+#include "ui/datacombo.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScopedValueRollback>
+
+using namespace Qt::Literals;
+
+frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
+    : CatalogueList(session, messages, session.data().rsMeal, QStringLiteral("frmMeals"),
+                    tr("Meals"),
+                    {{tr("Meal Name"), {}},
+                     {tr("Unit"), tr("What the meal is counted in")},
+                     {tr("Fat"), tr("Fat per unit"), true},
+                     {tr("CarboHyd."), tr("Carbohydrate per unit"), true},
+                     {tr("Protein"), tr("Protein per unit"), true},
+                     {tr("Calor."), tr("Calories per unit"), true},
+                     {tr("Def."), tr("Default quantity: proposed for a new entry"), true},
+                     {tr("Increm."), tr("Increment: step by which the quantity is changed"), true}},
+                    parent)
+    , dcbMealCategory(new DataCombo(this))
+{
+    dcbMealCategory->setObjectName(QStringLiteral("dcbMealCategory"));
+    dcbMealCategory->setAccessibleName(tr("Meal Category"));
+    auto *label = new QLabel(tr("Meal Cate&gory"), this);
+    label->setBuddy(dcbMealCategory);
+    auto *head = new QHBoxLayout;
+    head->addWidget(label);
+    head->addWidget(dcbMealCategory);
+    head->addStretch();
+    setHead(head);
+    connect(dcbMealCategory, &DataCombo::boundValueChanged, this, &frmMeals::categoryChanged);
+}
+
+void frmMeals::load()
+{
+    loadCategories();
+    if (dcbMealCategory->count() > 0)
+        dcbMealCategory->setBoundValue(dcbMealCategory->itemData(0).toInt());
+}
+
+void frmMeals::loadCategories()
+{
+    Recordset &categories = session().data().rsMealCategorySorted;
+    categories.reopen();
+    dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
+    categories.close();
+}
+
+void frmMeals::categoryChanged()
+{
+    if (!m_switchingCategory)
+        list()->refresh();
+}
+
+std::vector<ListRow> frmMeals::rows()
+{
+    const std::optional<qint32> category = dcbMealCategory->boundValue();
+    if (!category)
+        return {};
+    Recordset &meals = session().data().rsMealSorted;
+    meals.reopen({Value(*category)});
+    return readRows(meals, "MealID"_L1,
+                    {"Name"_L1, "Unit"_L1, "Fat"_L1, "Carbohydrate"_L1, "Protein"_L1, "Calories"_L1,
+                     "DefaultQty"_L1, "Increment"_L1});
+}
+
+std::optional<Reselection> frmMeals::edit(qint32 id)
+{
+    frmMeal editor(session(), messages(), this);
+    editor.setCategoryId(dcbMealCategory->boundValue().value_or(0));
+    const bool stored = editor.run(id);
+    if (editor.categoriesChanged()) {
+        loadCategories();
+        dcbMealCategory->setDisplayedText(editor.newCategoryName());
+    }
+    if (!stored)
+        return std::nullopt;
+    if (dcbMealCategory->boundValue() != editor.categoryId()) {
+        const QScopedValueRollback switching(m_switchingCategory, true);
+        dcbMealCategory->setBoundValue(editor.categoryId());
+    }
+    return Reselection{editor.storedName()};
+}

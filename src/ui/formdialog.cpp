@@ -1,0 +1,117 @@
+#include "ui/formdialog.h"
+
+#include "help/helpkey.h"
+#include "session/session.h"
+#include "ui/messages.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+FormDialog::FormDialog(Session &session, Messages &messages, const QString &name,
+                       const QString &caption, QWidget *parent)
+    : QDialog(parent)
+    , m_session(session)
+    , m_messages(messages)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+}
+
+void FormDialog::focusFirstField()
+{
+    QWidget *first = nextInFocusChain();
+    while (first != this && (first->focusPolicy() & Qt::TabFocus) == 0)
+        first = first->nextInFocusChain();
+    first->setFocus();
+}
+
+bool FormDialog::Validate()
+{
+    for (const FieldCheck &check : m_checks) {
+        if (check.passes())
+            continue;
+        refuse(check.field, check.message);
+        return false;
+    }
+    return true;
+}
+
+void FormDialog::refuse(QWidget *field, const QString &message)
+{
+    m_messages.error(this, message);
+    field->setFocus();
+    if (auto *box = qobject_cast<QLineEdit *>(field))
+        box->selectAll();
+}
+
+void FormDialog::addCheck(QWidget *field, const QString &message, std::function<bool()> passes)
+{
+    m_checks.push_back({field, message, std::move(passes)});
+}
+
+void FormDialog::checkSpecified(QLineEdit *box, const QString &message)
+{
+    addCheck(box, message, [box] { return !box->text().trimmed().isEmpty(); });
+}
+
+void FormDialog::checkNumeric(QLineEdit *box, const QString &message)
+{
+    addCheck(box, message, [this, box] { return m_session.text().isNumeric(box->text()); });
+}
+
+void FormDialog::checkNumericOrEmpty(QLineEdit *box, const QString &message)
+{
+    addCheck(box, message, [this, box] {
+        return box->text().isEmpty() || m_session.text().isNumeric(box->text());
+    });
+}
+
+QLineEdit *FormDialog::makeBox(const QString &name, const QString &accessibleName)
+{
+    auto *box = new QLineEdit(this);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+QLabel *FormDialog::makeLabel(const QString &caption, QWidget *field)
+{
+    auto *label = new QLabel(caption, this);
+    label->setBuddy(field);
+    return label;
+}
+
+void FormDialog::setForm(QLayout *form)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    // Takes the room that a taller window leaves, but only what the form has no use for.
+    layout->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred));
+    // Made after the fields, and so behind them on Tab.
+    layout->addLayout(makeButtons());
+}
+
+QLayout *FormDialog::makeButtons()
+{
+    btnOK = new QPushButton(tr("&OK"), this);
+    btnOK->setObjectName(QStringLiteral("btnOK"));
+    btnOK->setDefault(true);
+    btnCancel = new QPushButton(tr("&Cancel"), this);
+    btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    btnHelp = new QPushButton(tr("&Help"), this);
+    btnHelp->setObjectName(QStringLiteral("btnHelp"));
+    btnHelp->setAutoDefault(false);
+    connect(btnOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(btnOK);
+    buttons->addWidget(btnCancel);
+    buttons->addWidget(btnHelp);
+    return buttons;
+}

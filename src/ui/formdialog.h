@@ -1,0 +1,68 @@
+// What every dialog with fields to check shares.
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <vector>
+
+class Messages;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class Session;
+
+/// A modal form with OK, Cancel and Help. A window states its fields and its checks in the order
+/// in which they are tried; what OK does once they pass is accept(), which begins with Validate().
+class FormDialog : public QDialog
+{
+    Q_OBJECT
+
+protected:
+    struct FieldCheck
+    {
+        QWidget *field;
+        QString message;
+        std::function<bool()> passes;
+    };
+
+    FormDialog(Session &session, Messages &messages, const QString &name, const QString &caption,
+               QWidget *parent);
+
+    /// Tries the checks in their order; reports the first that fails and moves the focus there.
+    virtual bool Validate();
+
+    void addCheck(QWidget *field, const QString &message, std::function<bool()> passes);
+    /// Fails for blanks alone.
+    void checkSpecified(QLineEdit *box, const QString &message);
+    /// Fails for what is no number in the user's locale.
+    void checkNumeric(QLineEdit *box, const QString &message);
+    /// The same, but an empty box passes.
+    void checkNumericOrEmpty(QLineEdit *box, const QString &message);
+    /// Says what is wrong with a field and moves the focus there.
+    void refuse(QWidget *field, const QString &message);
+
+    /// A text box for a number or a short text, named for tests and screen readers.
+    QLineEdit *makeBox(const QString &name, const QString &accessibleName);
+    /// A field's label with its access key.
+    QLabel *makeLabel(const QString &caption, QWidget *field);
+    /// Puts the form and, below it, the OK, Cancel and Help buttons into the dialog. The Tab key
+    /// goes through the fields in the order in which they were made with the dialog as parent.
+    void setForm(QLayout *form);
+    /// For the opening; left to itself, a dialog would give the focus to its default button.
+    void focusFirstField();
+
+    Session &session() const { return m_session; }
+    Messages &messages() const { return m_messages; }
+
+    QPushButton *btnOK = nullptr; ///< these three are made by setForm()
+    QPushButton *btnCancel = nullptr;
+    QPushButton *btnHelp = nullptr;
+
+private:
+    QLayout *makeButtons();
+
+    Session &m_session;
+    Messages &m_messages;
+    std::vector<FieldCheck> m_checks;
+};
