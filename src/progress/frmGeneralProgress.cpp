@@ -1,9 +1,9 @@
 #include "progress/frmGeneralProgress.h"
 
-#include "help/helpkey.h"
 #include "progress/ProgressChart.h"
 #include "progress/progresspages.h"
 #include "session/session.h"
+#include "ui/helpbutton.h"
 #include "ui/listmodel.h"
 #include "ui/messages.h"
 #include "ui/paper.h"
@@ -61,7 +61,7 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     , btnSave(makeButton(QStringLiteral("btnSave"), tr("&Save Picture"), this))
     , btnCopy(makeButton(QStringLiteral("btnCopy"), tr("C&opy Table"), this))
     , btnClose(makeButton(QStringLiteral("btnClose"), tr("C&lose"), this))
-    , btnHelp(makeButton(QStringLiteral("btnHelp"), tr("&Help"), this))
+    , btnHelp(makeHelpButton(this))
 {
     setObjectName(QStringLiteral("frmGeneralProgress"));
     setWindowTitle(tr("General Progress"));
@@ -203,7 +203,6 @@ void frmGeneralProgress::makeConnections()
     copyKey->setContext(Qt::WidgetShortcut);
     connect(copyKey, &QShortcut::activated, this, &frmGeneralProgress::copyTable);
     connect(btnClose, &QPushButton::clicked, this, &QDialog::reject);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
 }
 
 void frmGeneralProgress::sizeToScreen()
