@@ -44,6 +44,12 @@ def meals_in_chart(program):
     return [meal.name for meal in chart.find_all("push button") if meal.name.startswith("Meal at ")]
 
 
+def progress_chart_in(window):
+    return wait_for(lambda: [e for e in window.descendants()
+                             if e.name.startswith("General progress chart")],
+                    "the progress chart")[0]
+
+
 @step
 def first_start(program):
     said = program.text_of(program.message())
@@ -118,6 +124,50 @@ def date_set(program):
     dialog.find("push button", "OK").press()
     program.gone(dialog)
     wait_for(lambda: date_shown(program) != before, "the day picked to be shown")
+
+
+@step
+def progress_parameters(program):
+    program.menu("Analyze", "General Progress")
+    dialog = program.window("General Progress Parameters")
+    check(dialog.find("radio button", "3 Months").is_checked, "3 months are not proposed")
+
+
+@step
+def too_little_for_six_months(program):
+    dialog = program.window("General Progress Parameters")
+    dialog.find("radio button", "6 Months").press()
+    dialog.find("push button", "OK").press()
+    question = program.message()
+    check(question.name == "Not enough data", f"the question is titled {question.name!r}")
+
+
+@step
+def progress_chart(program):
+    program.answer("No")
+    dialog = program.window("General Progress Parameters")
+    dialog.find("radio button", "1 Month").press()
+    dialog.find("push button", "OK").press()
+    program.gone(dialog)
+    chart = progress_chart_in(program.window("General Progress"))
+    check("Weight: -" in chart.name, f"the chart is called {chart.name!r}")
+    told = chart.description
+    program.keys("Left")
+    wait_for(lambda: chart.description != told, "the day before to be told of")
+
+
+@step
+def progress_table(program):
+    window = program.window("General Progress")
+    program.keys("alt+t")
+    window.find("push button", "Copy Table").press()
+
+
+@step
+def progress_closed(program):
+    window = program.window("General Progress")
+    window.find("push button", "Close").press()
+    program.gone(window)
 
 
 @step
