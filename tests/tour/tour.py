@@ -155,7 +155,7 @@ def new_meal(program):
     program.window("Meals").find("push button", "New").press()
     editor = program.window("Meal Description - New")
     editor.find("combo box", "Meal Category").choose("Trail Food")
-    for field, text in {"Meal Name": "Trail mix", "Unit": "handful", "Default Qty": "1",
+    for field, text in {"Meal Name": "Summit mix", "Unit": "handful", "Default Qty": "1",
                         "Increment": "0.5", "Fat by Weight": "10", "Carbohydrate by Weight": "20",
                         "Protein by Weight": "5", "Calories per Unit": "250"}.items():
         editor.find("text", field).type(text)
