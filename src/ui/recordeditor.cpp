@@ -1,5 +1,6 @@
 #include "ui/recordeditor.h"
 
+#include "data/storeerror.h"
 #include "session/session.h"
 #include "ui/messages.h"
 
@@ -49,6 +50,8 @@ bool RecordEditor::store()
     try {
         if (appendsRecord())
             m_source.addNew();
+        else if (m_source.isEof())
+            throw StoreError(StoreError::Kind::Gone, "the record was deleted by another program");
         Gather();
         if (!confirmStore()) {
             m_source.cancelUpdate();

@@ -266,7 +266,7 @@ void tst_activities::calculatorRefuses()
             refuses("", "450", "txtWeight", "For Weight field contains illegal value");
             refuses("0.0", "450", "txtWeight", "For Weight should be other than 0");
             refuses("0.0001", "450", "txtCaloriesConsume",
-                    "The calories for your weight are beyond 32767");
+                    "The calories for your weight are out of range (-32768 to 32767)");
             QVERIFY(!calculator.OK());
             typeInto(box(window, "txtWeight"), "35");
             press(window, "btnOK");

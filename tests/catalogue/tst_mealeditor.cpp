@@ -3,6 +3,7 @@
 #include "testjournal.h"
 
 #include "catalogue/frmMeal.h"
+#include "catalogue/frmMealCategory.h"
 #include "ui/datacombo.h"
 
 #include <QLabel>
@@ -52,11 +53,11 @@ private slots:
     void storesWhatIsTyped();
     void checksInOrder();
     void showsWhatIsStoredUntilItIsEdited();
-    void typedSharesAreStored();
     void mealWithoutNutrientsNeedsItsShares();
     void takenNameKeepsTheInput();
     void labelNamesTheUnit();
     void createsACategory();
+    void vanishedRecordIsRefused();
 };
 
 void tst_mealeditor::storesWhatIsTyped_data()
@@ -171,27 +172,6 @@ void tst_mealeditor::showsWhatIsStoredUntilItIsEdited()
     QCOMPARE(journal.row("select Unit, Calories, FatBC from Meal"), "slice|95|1");
 }
 
-void tst_mealeditor::typedSharesAreStored()
-{
-    TestJournal journal;
-    journal.exec("insert into MealCategory (Name) values ('Drinks')");
-    RecordedMessages messages;
-    frmMeal editor(*journal.session, messages);
-    editor.setCategoryId(1);
-    inDialog(
-        "frmMeal", [&] { editor.run(0); },
-        [&](QWidget &window) {
-            typeInto(box(window, "txtName"), "Wine");
-            typeInto(box(window, "txtUnit"), "glass");
-            typeFigures(window, {"0", "4", "0", "120"});
-            QCOMPARE(byCalories(window), "0|120|0");
-            typeInto(box(window, "txtCarboHydrateBC"), "16");
-            QCOMPARE(box(window, "txtCarboHydrate").text(), "4");
-            press(window, "btnOK");
-        });
-    QCOMPARE(journal.row("select Calories, Carbohydrate, CarbohydrateBC from Meal"), "120|4|16");
-}
-
 void tst_mealeditor::mealWithoutNutrientsNeedsItsShares()
 {
     TestJournal journal;
@@ -210,10 +190,12 @@ void tst_mealeditor::mealWithoutNutrientsNeedsItsShares()
             QVERIFY(messages.takeText().startsWith("Can't store this record in database."));
             QVERIFY(box(window, "txtFatBC").hasFocus());
             for (const char *share : {"txtFatBC", "txtCarboHydrateBC", "txtProteinBC"})
-                typeInto(box(window, share), "0");
+                typeInto(box(window, share), "7");
+            QCOMPARE(box(window, "txtCalories").text(), "0"); // nothing runs the other way
             press(window, "btnOK");
         });
-    QCOMPARE(journal.row("select count(*), max(Name) from Meal"), "1|Water");
+    QCOMPARE(journal.row("select Name, Calories, FatBC + CarbohydrateBC + ProteinBC from Meal"),
+             "Water|0|21");
 }
 
 void tst_mealeditor::takenNameKeepsTheInput()
@@ -298,6 +280,22 @@ void tst_mealeditor::createsACategory()
     QVERIFY(!editor.isStored());
     QVERIFY(editor.categoriesChanged());
     QCOMPARE(editor.newCategoryName(), "Apples");
+}
+
+void tst_mealeditor::vanishedRecordIsRefused()
+{
+    TestJournal journal;
+    RecordedMessages messages;
+    frmMealCategory editor(*journal.session, messages);
+    inDialog(
+        "frmMealCategory", [&] { editor.run(5); },
+        [&](QWidget &window) {
+            typeInto(box(window, "txtName"), "Bread");
+            press(window, "btnOK");
+            QVERIFY(messages.takeText().startsWith("Can't store this record in database."));
+            QVERIFY(window.isVisible());
+        });
+    QVERIFY(!editor.isStored());
 }
 
 QTEST_MAIN(tst_mealeditor)
