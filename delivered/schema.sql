@@ -99,5 +99,5 @@ CREATE INDEX MealConsumeByMeal ON MealConsume (MealID);
 CREATE INDEX ExercisePerformByDate ON ExercisePerform (PerformDate, timeBeg);
 CREATE INDEX ExercisePerformByExercise ON ExercisePerform (ExerciseID);
 CREATE INDEX BodyByDate ON Body (DateMeasured);
-CREATE INDEX UserNoteByFirstDate ON UserNote (DateFrom);
-CREATE INDEX UserNoteByLastDate ON UserNote (DateTo);
+CREATE INDEX UserNoteByFirstDate ON UserNote (DateFrom, DateTo);
+CREATE INDEX UserNoteByLastDate ON UserNote (DateTo, DateFrom);

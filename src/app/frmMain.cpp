@@ -11,7 +11,15 @@
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
+#include "journal/frmBody.h"
+#include "journal/frmExercisePerform.h"
+#include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsume.h"
+#include "journal/frmMealConsumes.h"
+#include "journal/frmMeasurements.h"
+#include "journal/frmUserNote.h"
+#include "progress/frmGeneralProgress.h"
+#include "progress/frmGeneralProgressSettings.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -80,7 +88,8 @@ void frmMain::makeMenus()
 {
     makeOperateMenu();
     QMenu *analyze = menuBar()->addMenu(tr("&Analyze"));
-    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"));
+    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"),
+             &frmMain::openGeneralProgress);
     makeSettingsMenu();
     makeHelpMenu();
 }
@@ -88,15 +97,19 @@ void frmMain::makeMenus()
 void frmMain::makeOperateMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Operate"));
-    addEntry(menu, QStringLiteral("mnuMealConsume"), tr("&Meal Consumed List"));
+    addEntry(menu, QStringLiteral("mnuMealConsume"), tr("&Meal Consumed List"),
+             &frmMain::showMeals);
     addEntry(menu, QStringLiteral("mnuAddMeal"), tr("&Add Meal"), &frmMain::addMeal);
     menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"));
-    addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"));
+    addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"),
+             &frmMain::showActivities);
+    addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"), &frmMain::addActivity);
     menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"));
-    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"));
-    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"));
+    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"),
+             &frmMain::openMeasurements);
+    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"),
+             &frmMain::addMeasurement);
+    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"), &frmMain::addNote);
     menu->addSeparator();
     addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
     menu->addSeparator();
@@ -183,8 +196,10 @@ void frmMain::makeConnections()
     connect(m_view->btnPrev, &QPushButton::clicked, this, &frmMain::showPreviousDay);
     connect(m_view->btnNext, &QPushButton::clicked, this, &frmMain::showNextDay);
     connect(m_view->btnHelp, &QPushButton::clicked, this, &frmMain::showHelpOfMainForm);
-    connect(m_view->graph, &TrellumGraph::mealItemChosen, this, &frmMain::editMeal);
+    connect(m_view->graph, &TrellumGraph::mealItemChosen, this, &frmMain::chooseMeal);
     connect(m_view->graph, &TrellumGraph::freeMealPlaceChosen, this, &frmMain::addMealAt);
+    connect(m_view->graph, &TrellumGraph::activityItemChosen, this, &frmMain::chooseActivity);
+    connect(m_view->graph, &TrellumGraph::freeActivityPlaceChosen, this, &frmMain::addActivityAt);
     connect(&m_session, &Session::dayChanged, this, &frmMain::RePaintGraph);
     connect(&m_session, &Session::journalChanged, this, &frmMain::RePaintGraph);
 }
@@ -235,30 +250,88 @@ void frmMain::setDate()
     RePaintGraph();
 }
 
-void frmMain::openConsumption(qint32 id, bool addMode)
+template<typename Editor>
+void frmMain::openEditor(qint32 id, bool addMode)
 {
-    frmMealConsume editor(m_session, m_messages, this);
+    Editor editor(m_session, m_messages, this);
     editor.setAddMode(addMode);
     if (editor.run(id))
         RePaintGraph();
 }
 
+template<typename List>
+void frmMain::openDayList()
+{
+    List(m_session, m_messages, this).run();
+    RePaintGraph();
+}
+
+void frmMain::showMeals()
+{
+    openDayList<frmMealConsumes>();
+}
+
 void frmMain::addMeal()
 {
-    openConsumption(0, true);
+    openEditor<frmMealConsume>(0, true);
+}
+
+void frmMain::chooseMeal(int id, bool hit, QTime time)
+{
+    m_session.setCurrentTime(time);
+    if (hit && id != 0)
+        openEditor<frmMealConsume>(id, false);
+    else
+        showMeals();
 }
 
 void frmMain::addMealAt(QTime time)
 {
     m_session.setCurrentTime(time);
-    openConsumption(0, false);
+    openEditor<frmMealConsume>(0, false);
 }
 
-void frmMain::editMeal(int id, bool hit, QTime time)
+void frmMain::showActivities()
+{
+    openDayList<frmExercisePerforms>();
+}
+
+void frmMain::addActivity()
+{
+    openEditor<frmExercisePerform>(0, true);
+}
+
+void frmMain::chooseActivity(int id, bool hit, QTime time)
 {
     m_session.setCurrentTime(time);
     if (hit && id != 0)
-        openConsumption(id, false);
+        openEditor<frmExercisePerform>(id, false);
+    else
+        showActivities();
+}
+
+void frmMain::addActivityAt(QTime time)
+{
+    m_session.setCurrentTime(time);
+    openEditor<frmExercisePerform>(0, false);
+}
+
+void frmMain::openMeasurements()
+{
+    frmMeasurements(m_session, m_messages, this).exec();
+    RePaintGraph();
+}
+
+void frmMain::addMeasurement()
+{
+    if (frmBody(m_session, m_messages, this).run(0))
+        RePaintGraph();
+}
+
+void frmMain::addNote()
+{
+    if (frmUserNote(m_session, m_messages, this).run(0))
+        RePaintGraph();
 }
 
 void frmMain::printChart()
@@ -321,6 +394,14 @@ void frmMain::openCommonParameters()
     dialog.run();
     if (dialog.OkPressed())
         RePaintGraph();
+}
+
+void frmMain::openGeneralProgress()
+{
+    frmGeneralProgressSettings settings(m_session, m_messages, this);
+    settings.exec();
+    if (settings.OkPressed())
+        showGeneralProgress(m_session, m_messages, settings.period(), this);
 }
 
 void frmMain::showAbout()

@@ -46,16 +46,28 @@ private:
     void showPreviousDay();
     void showNextDay();
     void setDate();
+    void showMeals();
     void addMeal();
-    void editMeal(int id, bool hit, QTime time);
+    void chooseMeal(int id, bool hit, QTime time);
     void addMealAt(QTime time);
-    void openConsumption(qint32 id, bool addMode);
+    void openMeasurements();
+    void addMeasurement();
+    void addNote();
+    void showActivities();
+    void addActivity();
+    void chooseActivity(int id, bool hit, QTime time);
+    void addActivityAt(QTime time);
+    template<typename Editor>
+    void openEditor(qint32 id, bool addMode);
+    template<typename List>
+    void openDayList();
     void printChart();
     void deleteTrialData();
     void openMealCategories();
     void openMeals();
     void openExercises();
     void openCommonParameters();
+    void openGeneralProgress();
     void showAbout();
     void showHelpContents();
     void showHelpOfMainForm();

@@ -69,7 +69,7 @@ private:
     void paintSwatch(const Swatch &swatch);
     void paintPart(Part part, const QRectF &rect);
     void paintCut(const QRectF &rect, double y);
-    void paintText(const PlacedText &text);
+    void paintText(const PlacedText &text) { paintPlacedText(p, text, c, m_fonts); }
     void plate(const QRectF &rect, QColor color);
     void hatch(const QRectF &rect);
 
@@ -268,13 +268,6 @@ void DayChartPainter::plate(const QRectF &rect, QColor color)
     p.fillRect(rect, color);
 }
 
-void DayChartPainter::paintText(const PlacedText &text)
-{
-    p.setFont(m_fonts.font(text.role));
-    p.setPen(c.tone(text.tone));
-    p.drawText(text.rect, int(text.alignment) | Qt::TextSingleLine | Qt::TextDontClip, text.text);
-}
-
 } // namespace
 
 ChartFonts::ChartFonts(const QFont &base, int baseDpi, QPaintDevice *device)
@@ -307,6 +300,15 @@ TextMetrics metricsOf(const ChartFonts &fonts, QPaintDevice *device)
             [metrics](const QString &text, TextRole role) {
                 return std::ceil(metrics[size_t(role)].horizontalAdvance(text));
             }};
+}
+
+void paintPlacedText(QPainter &painter, const PlacedText &text, const ChartColors &colors,
+                     const ChartFonts &fonts)
+{
+    painter.setFont(fonts.font(text.role));
+    painter.setPen(colors.tone(text.tone));
+    painter.drawText(text.rect, int(text.alignment) | Qt::TextSingleLine | Qt::TextDontClip,
+                     text.text);
 }
 
 void paintDayChart(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,

@@ -26,6 +26,9 @@ struct ChartFonts
 
 TextMetrics metricsOf(const ChartFonts &fonts, QPaintDevice *device);
 
+void paintPlacedText(QPainter &painter, const PlacedText &text, const ChartColors &colors,
+                     const ChartFonts &fonts);
+
 enum class Medium
 {
     Screen,

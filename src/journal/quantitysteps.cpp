@@ -5,9 +5,18 @@ Currency mealStepUp(Currency quantity, Currency increment)
     return quantity + increment;
 }
 
-float mealStepDown(Currency quantity, Currency increment)
+float mealStepDown(float quantity, Currency increment)
 {
-    const auto single = static_cast<float>(quantity.toDouble());
-    const Currency stepped = Currency::fromDouble(double(single)) - increment;
+    const Currency stepped = Currency::fromDouble(double(quantity)) - increment;
     return static_cast<float>(stepped.toDouble());
+}
+
+float activityStepUp(float quantity)
+{
+    return quantity + 1.0F;
+}
+
+float activityStepDown(float quantity)
+{
+    return quantity - 1.0F;
 }

@@ -11,10 +11,13 @@
 struct CommonParameters
 {
     qint16 weight = 0;        ///< whole kilograms or pounds, after the unit system
-    QString measurement;      ///< "M" metric; anything else is imperial
+    QString measurement;      ///< "M" metric, "I" imperial
     double metabolicRate = 0; ///< background calories per hour
 
+    // Not opposites of each other: of a code that is neither, the common parameters make imperial
+    // and the windows of body measurements metric.
     bool isMetric() const { return measurement == QLatin1String("M"); }
+    bool isImperial() const { return measurement == QLatin1String("I"); }
 };
 
 /// Made by start-up and handed to each window by reference; there are no globals.

@@ -1,13 +1,13 @@
 #include "ui/datacombo.h"
 
-#include "data/namecollation.h"
 #include "ui/namefilter.h"
 
-#include <QAbstractItemView>
 #include <QCompleter>
-#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QTimer>
+#include <QWheelEvent>
 
 DataCombo::DataCombo(QWidget *parent)
     : QComboBox(parent)
@@ -20,21 +20,35 @@ DataCombo::DataCombo(QWidget *parent)
     setMinimumContentsLength(30);
 
     m_filter->setSourceModel(model());
-    auto *completer = new QCompleter(m_filter, this);
-    completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    completer->setMaxVisibleItems(maxVisibleItems());
-    setCompleter(completer);
+    auto *matches = new QCompleter(m_filter, this);
+    matches->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    matches->setMaxVisibleItems(maxVisibleItems());
+    setCompleter(matches);
+    matches->popup()->installEventFilter(this);
+    for (QAbstractItemView *list : {matches->popup(), view()}) {
+        // Otherwise each of thousands of names would be measured at every key.
+        if (auto *names = qobject_cast<QListView *>(list))
+            names->setUniformItemSizes(true);
+    }
 
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString &text) {
-        m_filter->setPart(text);
-        resolveText(text);
-        // The line edit opens the list of matches after this signal.
-        QTimer::singleShot(0, this, &DataCombo::highlightFirstMatch);
-    });
+    connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::offerMatches);
+    // A match that the arrow keys reach is in the box, and so it is the choice.
+    connect(
+        matches, qOverload<const QString &>(&QCompleter::highlighted), this,
+        [this](const QString &name) { announceIfChanged(idOfRow(m_filter->sourceRowOf(name))); });
     connect(this, &QComboBox::activated, this, &DataCombo::chooseRow);
 }
 
-// Enter or Tab takes the match that stands first, seen before it is taken.
+void DataCombo::offerMatches(const QString &part)
+{
+    m_typed = part;
+    m_filter->setPart(part);
+    resolveText(part);
+    // The line edit opens the list of matches after this.
+    QTimer::singleShot(0, this, &DataCombo::highlightFirstMatch);
+}
+
+// What Enter or Tab would take is seen before it is taken.
 void DataCombo::highlightFirstMatch()
 {
     QAbstractItemView *popup = completer()->popup();
@@ -43,6 +57,37 @@ void DataCombo::highlightFirstMatch()
     // Blocked, since the line edit would replace the typed text by what is highlighted.
     const QSignalBlocker blocker(completer());
     popup->setCurrentIndex(popup->model()->index(0, 0));
+}
+
+bool DataCombo::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool inMatches = event->type() == QEvent::KeyPress && watched == completer()->popup();
+    if (!inMatches)
+        return QComboBox::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Tab:
+        takeMatch(true);
+        return true;
+    case Qt::Key_Backtab:
+        takeMatch(false);
+        return true;
+    case Qt::Key_Escape:
+        completer()->popup()->hide();
+        setDisplayedText(m_typed);
+        return true;
+    default:
+        return QComboBox::eventFilter(watched, event);
+    }
+}
+
+void DataCombo::takeMatch(bool forward)
+{
+    QAbstractItemView *popup = completer()->popup();
+    const QString name = popup->currentIndex().data().toString();
+    popup->hide();
+    if (!name.isEmpty())
+        chooseRow(findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    focusNextPrevChild(forward);
 }
 
 void DataCombo::setRows(Recordset &rows, QLatin1StringView idColumn, QLatin1StringView nameColumn)
@@ -67,34 +112,32 @@ void DataCombo::setDisplayedText(const QString &text)
     resolveText(text);
 }
 
+std::optional<qint32> DataCombo::idOfRow(int row) const
+{
+    return row < 0 ? std::nullopt : std::optional<qint32>(itemData(row).toInt());
+}
+
 void DataCombo::chooseRow(int row)
 {
     setCurrentIndex(row);
-    if (row < 0) {
-        clearEditText();
-        announceIfChanged(std::nullopt);
-        return;
-    }
-    setEditText(itemText(row));
-    announceIfChanged(itemData(row).toInt());
+    setEditText(itemText(row)); // none for no row
+    if (!hasFocus())
+        lineEdit()->home(false); // the beginning of a long name tells more than its end
+    announceIfChanged(idOfRow(row));
 }
 
 void DataCombo::resolveText(const QString &text)
 {
-    int match = -1;
-    for (int row = 0; row < count() && match < 0; ++row) {
-        if (compareNames(itemText(row), text) == 0)
-            match = row;
-    }
-    const QString typed = text;
-    const int cursor = lineEdit()->cursorPosition();
-    {
+    const int match = m_filter->sourceRowOf(text);
+    if (match != currentIndex()) {
+        const QString shown = text;
+        const int cursor = lineEdit()->cursorPosition();
         const QSignalBlocker blocker(this);
         setCurrentIndex(match);
-        setEditText(typed); // the text stays as typed
+        setEditText(shown); // the text stays as it is written
         lineEdit()->setCursorPosition(cursor);
     }
-    announceIfChanged(match < 0 ? std::nullopt : std::optional<qint32>(itemData(match).toInt()));
+    announceIfChanged(idOfRow(match));
 }
 
 void DataCombo::announceIfChanged(std::optional<qint32> id)
@@ -108,5 +151,11 @@ void DataCombo::announceIfChanged(std::optional<qint32> id)
 void DataCombo::focusInEvent(QFocusEvent *event)
 {
     QComboBox::focusInEvent(event);
-    lineEdit()->selectAll();
+    if (event->reason() == Qt::OtherFocusReason)
+        lineEdit()->selectAll(); // as on Tab, so that typing begins anew
+}
+
+void DataCombo::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
 }

@@ -10,9 +10,13 @@
 class NameFilter;
 
 /// A combo box whose list comes from a result set: it shows a name and is bound to the row's
-/// identifier. Typing any part of a name, without regard to case or accents, offers the names
-/// that hold it. A typed text counts as a choice only when it is a whole name of the list; it is
-/// never replaced by another one.
+/// identifier. A text counts as a choice only when it is a whole name of the list; it is never
+/// replaced by another one.
+///
+/// Typing any part of a name, without regard to case or accents, offers the names that hold it,
+/// the first of them highlighted. Enter takes the highlighted name, Tab takes it and goes on to the
+/// next field, Escape goes back to what was typed. F4 and Alt+Down open the whole list. The wheel
+/// does nothing: a choice is not changed in passing.
 class DataCombo : public QComboBox
 {
     Q_OBJECT
@@ -32,18 +36,25 @@ public:
     void setDisplayedText(const QString &text);
     QString displayedText() const { return currentText(); }
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 Q_SIGNALS:
     void boundValueChanged();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void offerMatches(const QString &part);
     void highlightFirstMatch();
+    void takeMatch(bool forward);
+    std::optional<qint32> idOfRow(int row) const;
     void chooseRow(int row);
     void resolveText(const QString &text);
     void announceIfChanged(std::optional<qint32> id);
 
     NameFilter *m_filter;
+    QString m_typed; ///< while the matches are offered, which put their own texts into the box
     std::optional<qint32> m_boundValue;
 };

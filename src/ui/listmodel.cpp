@@ -1,6 +1,9 @@
 #include "ui/listmodel.h"
 
+#include <QTextDocument>
+
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -36,6 +39,22 @@ int ListModel::rowOfText(const QString &text) const
     return positionOf(m_rows, [&text](const ListRow &row) { return row.texts.value(0) == text; });
 }
 
+std::vector<int> ListModel::longestRows(int column, size_t count) const
+{
+    std::vector<int> rows(m_rows.size());
+    std::iota(rows.begin(), rows.end(), 0);
+    count = std::min(count, rows.size());
+    const auto length = [&](int row) {
+        const QStringList &texts = m_rows[static_cast<size_t>(row)].texts;
+        return column < texts.size() ? texts[column].size() : 0;
+    };
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(count);
+    std::partial_sort(rows.begin(), end, rows.end(),
+                      [&](int a, int b) { return length(a) > length(b); });
+    rows.erase(end, rows.end());
+    return rows;
+}
+
 int ListModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -49,15 +68,12 @@ int ListModel::columnCount(const QModelIndex &parent) const
 QVariant ListModel::data(const QModelIndex &index, int role) const
 {
     const ListRow &row = m_rows.at(static_cast<size_t>(index.row()));
-    const ListColumn &column = m_columns.at(static_cast<size_t>(index.column()));
+    const ListColumn &column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
         return row.texts.value(index.column());
     case Qt::ToolTipRole:
-        if (!row.toolTip.isEmpty())
-            return row.toolTip;
-        return row.texts.value(index.column()).size() > longText ? row.texts.value(index.column())
-                                                                 : QVariant();
+        return toolTip(index);
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:
@@ -65,11 +81,23 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
     }
 }
 
+QVariant ListModel::toolTip(const QModelIndex &index) const
+{
+    const ListRow &row = m_rows.at(static_cast<size_t>(index.row()));
+    QString text = row.toolTip;
+    if (text.isEmpty())
+        text = row.texts.value(index.column());
+    if (row.toolTip.isEmpty() && text.size() <= longText)
+        return {};
+    // Rich text is what tooltips wrap; the text's own markup is not interpreted.
+    return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
+
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal)
         return {};
-    const ListColumn &column = m_columns.at(static_cast<size_t>(section));
+    const ListColumn &column = this->column(section);
     switch (role) {
     case Qt::DisplayRole:
         return column.header;

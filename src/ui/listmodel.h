@@ -9,8 +9,9 @@
 struct ListColumn
 {
     QString header;
-    QString meaning; ///< the header's tooltip: what the short header stands for
+    QString meaning = {}; ///< the header's tooltip: what the short header stands for
     bool isNumber = false;
+    bool isLongText = false; ///< cut off at the width that the other columns leave
 };
 
 /// One record: its identifier as the hidden tag (0 for a row that is none, such as totals) and a
@@ -19,7 +20,7 @@ struct ListRow
 {
     qint32 tag = 0;
     QStringList texts;
-    QString toolTip = {}; ///< for a text that the row itself shortens
+    QString toolTip = {}; ///< plain text, for one that the row itself shortens
 };
 
 class ListModel : public QAbstractTableModel
@@ -32,9 +33,11 @@ public:
 
     explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
 
+    const ListColumn &column(int column) const { return m_columns.at(static_cast<size_t>(column)); }
     void setRows(std::vector<ListRow> rows);
     qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
-    bool isNumber(int column) const { return m_columns.at(static_cast<size_t>(column)).isNumber; }
+    /// The rows, at most so many, that have the longest texts in a column.
+    std::vector<int> longestRows(int column, size_t count) const;
     /// The row of this tag or, compared in the first column, of this text; -1 where there is none.
     int rowOfTag(qint32 tag) const;
     int rowOfText(const QString &text) const;
@@ -45,6 +48,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    QVariant toolTip(const QModelIndex &index) const;
+
     std::vector<ListColumn> m_columns;
     std::vector<ListRow> m_rows;
 };

@@ -1,7 +1,13 @@
 #include "ui/messages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
 
 namespace {
 
@@ -21,6 +27,39 @@ int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const 
     return box.exec();
 }
 
+/// Whether a message box of this text, which may quote a long note, would leave no room on the
+/// screen for its button.
+bool isTooTall(const QString &text)
+{
+    const QFontMetrics metrics(QApplication::font());
+    const QRect width(0, 0, 60 * metrics.averageCharWidth(), 0);
+    return metrics.boundingRect(width, Qt::TextWordWrap, text).height() >
+           QApplication::primaryScreen()->availableSize().height() / 2;
+}
+
+/// A message box, but for its text, which scrolls.
+void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &title,
+                    const QString &text)
+{
+    QDialog box(parent);
+    box.setWindowTitle(title);
+    auto *picture = new QLabel(&box);
+    picture->setPixmap(QMessageBox(icon, {}, {}).iconPixmap());
+    auto *quoted = new QPlainTextEdit(withPlainLineFeeds(text), &box);
+    quoted->setReadOnly(true);
+    quoted->setTabChangesFocus(true);
+    quoted->setAccessibleName(title);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &box);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+    auto *grid = new QGridLayout(&box);
+    grid->addWidget(picture, 0, 0, Qt::AlignTop);
+    grid->addWidget(quoted, 0, 1);
+    grid->addWidget(buttons, 1, 0, 1, 2);
+    box.resize(70 * box.fontMetrics().averageCharWidth(), 20 * box.fontMetrics().height());
+    buttons->button(QDialogButtonBox::Ok)->setFocus();
+    box.exec();
+}
+
 } // namespace
 
 void Messages::error(QWidget *parent, const QString &text)
@@ -38,7 +77,10 @@ void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const 
     const auto boxIcon = icon == Icon::Information ? QMessageBox::Information
                          : icon == Icon::Critical  ? QMessageBox::Critical
                                                    : QMessageBox::Warning;
-    runBox(parent, boxIcon, title, text, QMessageBox::Ok, QMessageBox::Ok);
+    if (isTooTall(text))
+        runScrolledBox(parent, boxIcon, title, text);
+    else
+        runBox(parent, boxIcon, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool MessageBoxes::ask(QWidget *parent, const QString &title, const QString &text)

@@ -21,8 +21,23 @@ void NameFilter::setSourceModel(QAbstractItemModel *model)
 void NameFilter::setPart(const QString &part)
 {
     m_part = foldedForSearch(part.trimmed());
-    invalidate();
-    sort(0);
+    if (sortColumn() < 0)
+        sort(0);
+    else
+        invalidate();
+}
+
+int NameFilter::sourceRowOf(const QString &name) const
+{
+    const QString folded = foldedForSearch(name);
+    const int rows = sourceModel()->rowCount();
+    for (int row = 0; row < rows; ++row) {
+        // The folded names alone, which are at hand, tell most of them apart.
+        if (foldedName(row) == folded &&
+            compareNames(sourceModel()->index(row, 0).data().toString(), name) == 0)
+            return row;
+    }
+    return -1;
 }
 
 const QString &NameFilter::foldedName(int row) const

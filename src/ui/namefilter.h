@@ -16,6 +16,8 @@ public:
     explicit NameFilter(QObject *parent = nullptr);
 
     void setPart(const QString &part);
+    /// The source row of this name, case apart; -1 where there is none.
+    int sourceRowOf(const QString &name) const;
     void setSourceModel(QAbstractItemModel *model) override;
 
 protected:

@@ -78,9 +78,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setAlternatingRowColors(true);
-    m_list->header()->setSectionsMovable(false);
-    // A number stays where its header is; a text may have the room that is left.
-    m_list->header()->setStretchLastSection(!m_model->isNumber(m_model->columnCount() - 1));
+    arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
     makeKeys();
     setNames({});
@@ -111,6 +109,12 @@ void RecordList::addHelpButton()
     help->setAutoDefault(false);
     connect(help, &QPushButton::clicked, this, [this] { sendHelpKey(window()); });
     m_buttons->addWidget(help);
+}
+
+void RecordList::setAccessKeysActive(bool active)
+{
+    for (QPushButton *button : {m_new, m_edit, m_delete})
+        button->setShortcut(active ? QKeySequence::mnemonic(button->text()) : QKeySequence());
 }
 
 QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,
@@ -218,13 +222,34 @@ void RecordList::removeSelected()
     select(qMin(row, m_model->rowCount() - 1));
 }
 
+void RecordList::arrangeColumns()
+{
+    QHeaderView *header = m_list->header();
+    const int last = m_model->columnCount() - 1;
+    header->setSectionsMovable(false);
+    // Stretched, a last number would stand far from the others of its row.
+    header->setStretchLastSection(!m_model->column(last).isNumber);
+    for (int column = 0; column <= last; ++column) {
+        if (m_model->column(column).isLongText)
+            header->setSectionResizeMode(column, QHeaderView::Stretch);
+    }
+}
+
+// Of all rows and not only those in sight, so that nothing is cut off when it is scrolled to; but
+// measuring thousands would take longer than reading them, and the widest is among the longest.
+int RecordList::contentsWidth(int column) const
+{
+    int width = m_list->header()->sectionSizeHint(column);
+    for (const int row : m_model->longestRows(column, 60))
+        width = qMax(width, m_list->sizeHintForIndex(m_model->index(row, column)).width());
+    return width;
+}
+
 void RecordList::sizeColumns()
 {
-    // All rows count, not only those in sight: nothing is cut off later, when it is scrolled to.
-    m_list->header()->setResizeContentsPrecision(-1);
     const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        m_list->resizeColumnToContents(column);
-        m_list->setColumnWidth(column, qMin(m_list->columnWidth(column), widest));
+        if (!m_model->column(column).isLongText)
+            m_list->setColumnWidth(column, qMin(contentsWidth(column), widest));
     }
 }

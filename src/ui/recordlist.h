@@ -59,6 +59,8 @@ public:
     void setNames(const Names &names);
     /// Puts the window's help button beside the others.
     void addHelpButton();
+    /// In a window with several lists, the access keys go to the buttons of one of them.
+    void setAccessKeysActive(bool active);
 
     /// Rebuilds the rows; throws StoreError and keeps the old rows where they can't be read.
     void refresh(const Reselection &reselection = {});
@@ -78,6 +80,8 @@ private:
     void select(int row);
     int selectedRow() const;
     qint32 selectedTag() const;
+    void arrangeColumns();
+    int contentsWidth(int column) const;
     void sizeColumns();
 
     Messages &m_messages;

@@ -68,10 +68,12 @@ private:
 void tst_mainwindow::init()
 {
     m_journal = std::make_unique<TestJournal>();
-    m_journal->exec("insert into MealCategory values (1, 'a');"
+    m_journal->exec("begin;"
+                    "insert into MealCategory values (1, 'a');"
                     "insert into Meal values (1, 1, 'a', 'b', 1, 1, 100, 1, 1, 1, 50, 30, 20);"
                     "insert into MealConsume values (-1, 1, 46224, 0.5, 3), (1, 1, 46225, 0.5, 3),"
-                    " (2, 1, 46226, 0.5, 3)");
+                    " (2, 1, 46226, 0.5, 3);"
+                    "commit");
     m_messages = std::make_unique<RecordedMessages>();
     m_window = std::make_unique<frmMain>(*m_journal->session, *m_messages);
     m_window->show();

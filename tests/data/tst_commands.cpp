@@ -4,6 +4,7 @@
 #include "testjournal.h"
 
 #include <QRandomGenerator>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::Literals;
@@ -68,7 +69,8 @@ private:
 void tst_commands::init()
 {
     m_journal = std::make_unique<TestJournal>();
-    m_journal->exec("insert into MealCategory (Name) values ('Soups'), ('bread'), ('Fruit');"
+    m_journal->exec("begin;"
+                    "insert into MealCategory (Name) values ('Soups'), ('bread'), ('Fruit');"
                     "insert into Meal values"
                     " (1, 2, 'rye bread', 'slice', 1, 0.5, 90, 1, 18, 3, 10, 70, 10),"
                     " (2, 2, 'Bagel', 'piece', 1, 1, 250, 2, 50, 9, 2.5, 3.5, -2.5),"
@@ -86,7 +88,8 @@ void tst_commands::init()
                     " (-1, 46220, 70, 90, 80, 95, 'M'), (1, 46225, 71.3, 91, 81, 96, 'M'),"
                     " (2, 46225, 154, 36, 32, 37.5, 'I'), (3, 46230, 155, 36.2, 32.1, 38, 'I');"
                     "insert into UserNote values (-1, 46210, 46212, 'early'),"
-                    " (1, 46220, 46225, 'middle'), (2, 46230, 46230, 'one day');");
+                    " (1, 46220, 46225, 'middle'), (2, 46230, 46230, 'one day');"
+                    "commit");
 }
 
 QString tst_commands::selected(Recordset &rows, QLatin1StringView column,
@@ -399,6 +402,10 @@ void tst_commands::deletesSampleRowsAlone()
 void tst_commands::selectionsUseIndexes()
 {
     using namespace commands;
+    // Two list a whole catalogue by name. Two walk the notes in their order rather than sort
+    // them: their index holds both days, so that only the notes found are read.
+    const QSet<const Command *> walkAnIndex = {&MealCategorySorted, &ExerciseSorted,
+                                               &UserNoteSorted, &GPNotes};
     for (const Command *command : {&MealCategory,
                                    &MealCategorySorted,
                                    &commands::Meal,
@@ -431,9 +438,10 @@ void tst_commands::selectionsUseIndexes()
         QVERIFY(!plan.isEmpty());
         for (const QString &line : plan) {
             const QString step = line.section(u'|', 3);
-            const bool scansTable = step.startsWith(u"SCAN "_qs) && !step.contains(u"INDEX"_qs) &&
-                                    !step.contains(u"subquery"_qs);
-            QVERIFY2(!scansTable, qPrintable(QString::fromLatin1(command->name) + u": "_qs + step));
+            const bool scans = step.startsWith(u"SCAN "_qs) && !step.contains(u"subquery"_qs);
+            const bool isWalk = walkAnIndex.contains(command) && step.contains(u" INDEX "_qs);
+            QVERIFY2(!scans || isWalk,
+                     qPrintable(QString::fromLatin1(command->name) + u": "_qs + step));
         }
     }
 }

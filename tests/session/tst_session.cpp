@@ -104,7 +104,7 @@ void tst_session::movesTheSampleJournal()
     QFETCH(int, days);
     TestJournal journal;
     journal.exec(
-        "update Common set installDate = 46000;"
+        "begin; update Common set installDate = 46000;"
         "insert into Exercise values (1, 'a', 'b', 1, 1, 1, 0);"
         "insert into MealCategory values (1, 'a');"
         "insert into Meal values (1, 1, 'a', 'b', 1, 1, 1, 1, 1, 1, 1, 1, 1);"
@@ -112,6 +112,7 @@ void tst_session::movesTheSampleJournal()
         "insert into MealConsume values (-1, 1, 45990, 0, 1), (1, 1, 46001, 0, 1);"
         "insert into ExercisePerform values (-1, 1, 45990, 0, 1, 1), (1, 1, 46001, 0, 1, 1);"
         "insert into UserNote values (-1, 45980, 45990, 'a'), (1, 46001, 46002, 'b');"
+        "commit;"
         "create temp table Steps (days);"
         "create temp trigger Log after update on Body when new.BodyID = -1"
         " begin insert into Steps values (new.DateMeasured - old.DateMeasured); end");

@@ -14,7 +14,7 @@ const QMap<QString, QStringList> &plan()
     static const QMap<QString, QStringList> folders{
         {"app",
          QStringList{"help", "progress", "journal", "catalogue", "settings", "chart"} + windows},
-        {"progress", QStringList{"chart"} + windows},
+        {"progress", QStringList{"chart", "settings"} + windows},
         {"journal", QStringList{"catalogue", "settings"} + windows},
         {"catalogue", QStringList{"settings"} + windows},
         {"settings", windows},

@@ -1,0 +1,115 @@
+#include "journal/daylist.h"
+
+#include "data/recordset.h"
+#include "journal/daytotals.h"
+#include "session/session.h"
+#include "ui/pickers.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScopeGuard>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+DayList::DayList(Session &session, Messages &messages, const Texts &texts, const Columns &columns,
+                 QWidget *parent)
+    : QDialog(parent)
+    , m_session(session)
+    , m_messages(messages)
+    , m_columns(columns)
+    , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
+    , m_list(new RecordList(columns.columns, ListFamily::Journal, messages,
+                            {[this] { return load(); }, [this](qint32 id) { return edit(id); },
+                             [this](qint32 id) { remove(id); }},
+                            texts.caption, this))
+{
+    setObjectName(texts.name);
+    setWindowTitle(texts.caption);
+    dtpDate->setAccessibleName(texts.dateName);
+    // A typed date counts when it is finished: half of one may be some other day.
+    dtpDate->setKeyboardTracking(false);
+    connect(dtpDate, &QDateEdit::dateChanged, this, &DayList::showDay);
+
+    m_list->addHelpButton();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(makeDateRow(texts.dateCaption));
+    layout->addWidget(m_list);
+    const QFontMetrics metrics = fontMetrics();
+    resize(metrics.averageCharWidth() * 90, metrics.lineSpacing() * 26);
+}
+
+QLayout *DayList::makeDateRow(const QString &caption)
+{
+    auto *label = new QLabel(caption, this);
+    label->setBuddy(dtpDate);
+    auto *row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(dtpDate);
+    row->addStretch();
+    return row;
+}
+
+void DayList::run()
+{
+    {
+        const QSignalBlocker blocker(dtpDate);
+        dtpDate->setDate(m_session.currentDate());
+    }
+    m_list->refresh();
+    m_list->list()->setFocus();
+    exec();
+}
+
+void DayList::showDay(QDate day)
+{
+    m_session.setCurrentDate(day);
+    m_list->refresh();
+}
+
+std::vector<ListRow> DayList::load() const
+{
+    Recordset &source = rows();
+    const auto close = qScopeGuard([&source] { source.close(); });
+    std::vector<ListRow> list;
+    DayTotals totals(m_columns.totals.size());
+    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+        list.push_back(currentRow());
+        std::vector<double> figures;
+        for (const auto &[column, field] : m_columns.totals)
+            figures.push_back(source.number(field));
+        totals.addRow(figures);
+    }
+    if (totals.areShown()) {
+        list.emplace_back();
+        list.push_back(totalsRow(totals));
+    }
+    return list;
+}
+
+ListRow DayList::totalsRow(const DayTotals &totals) const
+{
+    ListRow row;
+    row.texts.resize(static_cast<qsizetype>(m_columns.columns.size()));
+    row.texts[m_columns.itemCount] = tr("   Total (%1 items)").arg(totals.count());
+    for (size_t i = 0; i < m_columns.totals.size(); ++i) {
+        if (const std::optional<qint32> total = totals.totals()[i])
+            row.texts[m_columns.totals[i].first] = QString::number(*total);
+    }
+    return row;
+}
+
+std::optional<Reselection> DayList::edit(qint32 id)
+{
+    const qint32 stored = editRecord(id);
+    if (stored == 0)
+        return std::nullopt;
+    m_session.announceJournalChange();
+    return Reselection{{}, stored};
+}
+
+void DayList::remove(qint32 id)
+{
+    removeRecord(id);
+    m_session.announceJournalChange();
+}

@@ -1,0 +1,66 @@
+// What the two lists of a day share.
+#pragma once
+
+#include "ui/recordlist.h"
+
+#include <QDialog>
+
+class QDateEdit;
+class Recordset;
+class Session;
+
+/// A list window of the journal that shows one day: a date picker, which moves the session's
+/// current date, and the day's rows in the order of their time; below two or more of them a blank
+/// row and a row of totals, which are no records.
+class DayList : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows the list of the current date modally. Throws StoreError where it can't be read.
+    void run();
+
+protected:
+    struct Texts
+    {
+        QString name; ///< of the window
+        QString caption;
+        QString dateCaption; ///< with its access key
+        QString dateName;
+    };
+    struct Columns
+    {
+        std::vector<ListColumn> columns;
+        int itemCount; ///< the column that shows how many rows are added up
+        /// Columns with totals and the fields that fill them.
+        std::vector<std::pair<int, QLatin1StringView>> totals;
+    };
+
+    DayList(Session &session, Messages &messages, const Texts &texts, const Columns &columns,
+            QWidget *parent);
+
+    /// The result set of the day's rows; it takes the day as its parameter.
+    virtual Recordset &rows() const = 0;
+    /// The row that the result set stands on.
+    virtual ListRow currentRow() const = 0;
+    /// Opens the editor, 0 for a new record; the stored identifier, 0 where nothing was stored.
+    virtual qint32 editRecord(qint32 id) = 0;
+    virtual void removeRecord(qint32 id) = 0;
+
+    Session &session() const { return m_session; }
+    Messages &messages() const { return m_messages; }
+
+private:
+    QLayout *makeDateRow(const QString &caption);
+    std::vector<ListRow> load() const;
+    ListRow totalsRow(const class DayTotals &totals) const;
+    std::optional<Reselection> edit(qint32 id);
+    void remove(qint32 id);
+    void showDay(QDate day);
+
+    Session &m_session;
+    Messages &m_messages;
+    Columns m_columns;
+    QDateEdit *dtpDate;
+    RecordList *m_list;
+};

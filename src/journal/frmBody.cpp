@@ -1,0 +1,123 @@
+#include "journal/frmBody.h"
+
+#include "data/identifiers.h"
+#include "session/session.h"
+#include "settings/units.h"
+#include "ui/messages.h"
+#include "ui/pickers.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::Literals;
+
+frmBody::frmBody(Session &session, Messages &messages, QWidget *parent)
+    : RecordEditor(session, messages, session.data().rsBody, QStringLiteral("frmBody"),
+                   tr("Body Measurement"), parent)
+    , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
+    , txtWeight(makeBox(QStringLiteral("txtWeight"), tr("Weight")))
+    , lblWeightUnit(new QLabel(this))
+    , txtBreast(makeBox(QStringLiteral("txtBreast"), tr("Breast")))
+    , txtWaist(makeBox(QStringLiteral("txtWaist"), tr("Waist")))
+    , txtHips(makeBox(QStringLiteral("txtHips"), tr("Hips")))
+    , lblGirthUnit(new QLabel(this))
+{
+    const bool metric = !session.parameters().isImperial();
+    lblWeightUnit->setObjectName(QStringLiteral("lblWeightUnit"));
+    lblWeightUnit->setText(units::weightLabel(metric));
+    lblGirthUnit->setObjectName(QStringLiteral("lblGirthUnit"));
+    lblGirthUnit->setText(units::girthLabel(metric));
+    dtpDate->setAccessibleName(tr("Date"));
+    txtWeight->setAccessibleDescription(lblWeightUnit->text());
+    for (QLineEdit *girth : {txtBreast, txtWaist, txtHips})
+        girth->setAccessibleDescription(lblGirthUnit->text());
+    setForm(makeForm());
+    makeChecks();
+}
+
+QLayout *frmBody::makeForm()
+{
+    auto *form = new QGridLayout;
+    form->addWidget(makeLabel(tr("&Date"), dtpDate), 0, 0);
+    form->addWidget(dtpDate, 0, 1);
+    form->addWidget(makeLabel(tr("&Weight"), txtWeight), 1, 0);
+    form->addWidget(txtWeight, 1, 1);
+    form->addWidget(lblWeightUnit, 1, 2);
+    form->addWidget(makeLabel(tr("&Breast"), txtBreast), 2, 0);
+    form->addWidget(txtBreast, 2, 1);
+    form->addWidget(makeLabel(tr("W&aist"), txtWaist), 3, 0);
+    form->addWidget(txtWaist, 3, 1);
+    form->addWidget(makeLabel(tr("Hi&ps"), txtHips), 4, 0);
+    form->addWidget(txtHips, 4, 1);
+    form->addWidget(lblGirthUnit, 2, 2, 3, 1); // one unit for the three
+    form->setColumnStretch(1, 1);
+    return form;
+}
+
+void frmBody::makeChecks()
+{
+    checkNumeric(txtWeight, tr("The Weight is not specified or contains illegal data"));
+    checkNumeric(txtBreast, tr("The Breast measurement is not specified or contains illegal data"));
+    checkNumeric(txtWaist, tr("The Waist measurement is not specified or contains illegal data"));
+    checkNumeric(txtHips, tr("The Hips measurement is not specified or contains illegal data"));
+}
+
+void frmBody::Populate()
+{
+    dtpDate->setDate(session().currentDate());
+    if (source().isEof())
+        return;
+    const LocaleText &text = session().text();
+    dtpDate->setDate(source().date("DateMeasured"_L1));
+    txtWeight->setText(text.toText(source().number("Weight"_L1)));
+    txtWaist->setText(text.toText(source().number("Waist"_L1)));
+    txtBreast->setText(text.toText(source().number("Breast"_L1)));
+    txtHips->setText(text.toText(source().number("Hips"_L1)));
+}
+
+void frmBody::Gather()
+{
+    if (recordId() == 0) {
+        source().set("BodyID"_L1, Value(int(NewBodyID(session().data()))));
+        source().set("Measurement"_L1, Value(session().parameters().measurement));
+    }
+    const auto number = [this](const QLineEdit *box) {
+        return Value(*session().text().toCurrency(box->text()));
+    };
+    source().set("DateMeasured"_L1, Value(dtpDate->date()));
+    source().set("Weight"_L1, number(txtWeight));
+    source().set("Breast"_L1, number(txtBreast));
+    source().set("Waist"_L1, number(txtWaist));
+    source().set("Hips"_L1, number(txtHips));
+}
+
+// The identifier of another measurement on the gathered date, 0 where there is none.
+qint32 frmBody::otherMeasurement()
+{
+    Recordset &check = session().data().rsBodyCheck;
+    check.reopen({source().value("DateMeasured"_L1), Value(recordId())});
+    const qint32 other = check.isEof() ? 0 : check.integer("BodyID"_L1);
+    check.close();
+    return other;
+}
+
+bool frmBody::confirmStore()
+{
+    const qint32 other = otherMeasurement();
+    if (other == 0)
+        return true;
+    if (!messages().ask(this, tr("Same date"),
+                        tr("There is already Body Measurement for this date in the database. Do "
+                           "you want to replace it?")))
+        return false;
+    // At once: it stays deleted even where the store that follows is refused.
+    session().data().run(commands::BodyDelete, {Value(other)});
+    return true;
+}
+
+void frmBody::recordStored()
+{
+    m_storedId = source().integer("BodyID"_L1);
+    RecordEditor::recordStored();
+}

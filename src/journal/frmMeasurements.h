@@ -1,0 +1,43 @@
+// The body measurements and the notes from a date on.
+#pragma once
+
+#include "ui/listmodel.h"
+
+#include <QDialog>
+
+class Messages;
+class QDateEdit;
+class QLabel;
+class RecordList;
+class Session;
+
+/// The measurements and notes window: two lists side by side, independent of each other but for
+/// the date from which both show their rows, a month before the session's current date at first.
+class frmMeasurements : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmMeasurements(Session &session, Messages &messages, QWidget *parent = nullptr);
+
+private:
+    RecordList *makeMeasurementList();
+    RecordList *makeNoteList();
+    QLayout *makeDateRow();
+    QWidget *makeMeasurementPane();
+    QWidget *makeNotePane();
+    QLabel *makeHeading(const QString &caption, QWidget *list);
+    void makeConnections();
+    void refresh();
+    void directAccessKeys(const QWidget *focus);
+    std::vector<ListRow> measurements() const;
+    std::vector<ListRow> notes() const;
+
+    Session &m_session;
+    Messages &m_messages;
+    QDateEdit *dtpDate;
+    QLabel *lblWeightIn;
+    QLabel *lblLinearIn;
+    RecordList *m_measurements;
+    RecordList *m_notes;
+};

@@ -1,0 +1,37 @@
+// Records a note on a period of days, or changes one.
+#pragma once
+
+#include "ui/recordeditor.h"
+
+class QDateEdit;
+class QPlainTextEdit;
+
+/// The user note editor. The periods of two notes never share a day: a note that would overlap
+/// another one is refused. In the text, Enter begins a new line and Ctrl+Enter presses OK.
+class frmUserNote : public RecordEditor
+{
+    Q_OBJECT
+
+public:
+    frmUserNote(Session &session, Messages &messages, QWidget *parent = nullptr);
+
+    /// UserNoteID of the stored row, 0 before.
+    qint32 storedId() const { return m_storedId; }
+
+protected:
+    void Populate() override;
+    void Gather() override;
+    bool confirmStore() override;
+    void recordStored() override;
+
+private:
+    void makeControls();
+    QLayout *makeForm();
+    void makeChecks();
+    QString note() const;
+
+    QDateEdit *dtpDateFrom;
+    QDateEdit *dtpDateTo;
+    QPlainTextEdit *txtNote;
+    qint32 m_storedId = 0;
+};

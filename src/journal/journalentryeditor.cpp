@@ -1,0 +1,164 @@
+#include "journal/journalentryeditor.h"
+
+#include "session/session.h"
+#include "ui/datacombo.h"
+#include "ui/icons.h"
+#include "ui/pickers.h"
+#include "ui/updownspinner.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::Literals;
+
+JournalEntryEditor::JournalEntryEditor(Session &session, Messages &messages, Recordset &source,
+                                       const Journal &journal, const QString &name,
+                                       const QString &caption, QWidget *parent)
+    : RecordEditor(session, messages, source, name, caption, parent)
+    , m_journal(journal)
+{
+}
+
+void JournalEntryEditor::setAddMode(bool on)
+{
+    m_addMode = on;
+    if (!on)
+        return;
+    btnOK->setText(tr("&Add"));
+    btnOK->setIcon(icon(QStringLiteral("Plus"), palette()));
+    btnCancel->setText(tr("&Close"));
+    btnCancel->setIcon(icon(QStringLiteral("Exit"), palette()));
+}
+
+DataCombo *JournalEntryEditor::makeChooser(const QString &name, const QString &accessibleName)
+{
+    auto *chooser = new DataCombo(this);
+    chooser->setObjectName(name);
+    chooser->setAccessibleName(accessibleName);
+    return chooser;
+}
+
+QPushButton *JournalEntryEditor::makeNewButton(const QString &name, const QString &caption)
+{
+    auto *button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setToolTip(tr("New record"));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QTimeEdit *JournalEntryEditor::makeTime(const QString &name, const QString &accessibleName)
+{
+    QTimeEdit *picker = makeTimePicker(session(), name, this);
+    picker->setAccessibleName(accessibleName);
+    return picker;
+}
+
+void JournalEntryEditor::makeQuantity()
+{
+    txtQty = makeBox(QStringLiteral("txtQty"), tr("Quantity"));
+    updSpin = new UpDownSpinner(txtQty, tr("Quantity"), this);
+    updSpin->setObjectName(QStringLiteral("updSpin"));
+    lblUnit = new QLabel(this);
+    lblUnit->setObjectName(QStringLiteral("lblUnit"));
+    lblUnit->setTextFormat(Qt::PlainText);
+    connect(txtQty, &QLineEdit::textChanged, this, [this] { recalculate(); });
+    connect(updSpin, &UpDownSpinner::upPressed, this, [this] { stepQuantity(true); });
+    connect(updSpin, &UpDownSpinner::downPressed, this, [this] { stepQuantity(false); });
+}
+
+QLayout *JournalEntryEditor::quantityLayout()
+{
+    auto *layout = new QHBoxLayout;
+    layout->setSpacing(0);
+    layout->addWidget(txtQty);
+    layout->addWidget(updSpin);
+    return layout;
+}
+
+QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,
+                                      const QString &name)
+{
+    auto *label = new QLabel(caption, this);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto *figure = new QLabel(this);
+    figure->setObjectName(name);
+    figure->setAccessibleName(caption);
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QFont bold = figure->font();
+    bold.setBold(true);
+    figure->setFont(bold);
+    const int column = grid->count() == 0 ? 0 : grid->columnCount();
+    grid->addWidget(label, 0, column);
+    grid->addWidget(figure, 1, column);
+    grid->setColumnStretch(column, 1);
+    return figure;
+}
+
+void JournalEntryEditor::checkTime(QTimeEdit *picker, const QString &message)
+{
+    addCheck(picker, message, [picker] { return takeTypedTime(*picker); });
+    // A click on the button must find the time as it was typed: with the focus gone from its
+    // picker it would have been completed out of sight.
+    btnOK->setFocusPolicy(Qt::TabFocus);
+}
+
+void JournalEntryEditor::checkQuantity()
+{
+    checkSpecified(txtQty, tr("The Quantity should be specified"));
+    checkNumeric(txtQty, tr("The Quantity field contains illegal data"));
+}
+
+void JournalEntryEditor::showChoice(const Recordset *row)
+{
+    lblUnit->setText(row ? row->text("Unit"_L1) : QString());
+    if (!row)
+        txtQty->clear();
+    else if (!isLoading())
+        txtQty->setText(row->isNull("DefaultQty"_L1)
+                            ? QStringLiteral("1")
+                            : session().text().toText(row->currency("DefaultQty"_L1)));
+    recalculate();
+}
+
+std::optional<Currency> JournalEntryEditor::quantity() const
+{
+    return session().text().toCurrency(txtQty->text());
+}
+
+void JournalEntryEditor::stepQuantity(bool up)
+{
+    if (!quantity())
+        return;
+    try {
+        txtQty->setText(steppedQuantity(up));
+    } catch (const OverflowError &) {
+        // At the end of the decimal's range there is no next step.
+    }
+}
+
+void JournalEntryEditor::Gather()
+{
+    if (recordId() == 0) {
+        source().set(m_journal.idColumn, Value(int(m_journal.newId(session().data()))));
+        source().set(m_journal.dateColumn, Value(session().currentDate()));
+    }
+    source().set("Qty"_L1, Value(*quantity()));
+}
+
+void JournalEntryEditor::recordStored()
+{
+    m_storedId = source().integer(m_journal.idColumn);
+    session().setCurrentTime(entryTime());
+    if (!m_addMode) {
+        RecordEditor::recordStored();
+        return;
+    }
+    clearChoosers();
+    txtQty->clear();
+    lblUnit->clear();
+    focusFirstField();
+    session().announceJournalChange();
+}

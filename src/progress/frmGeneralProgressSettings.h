@@ -1,0 +1,43 @@
+// The choice of the period whose progress is shown.
+#pragma once
+
+#include "progress/progressperiod.h"
+
+#include <QDialog>
+
+class Messages;
+class QBoxLayout;
+class QDateEdit;
+class QRadioButton;
+class Session;
+
+/// Asks for the first day and for a length of one, three or six months, and warns where the
+/// journal holds little in that period.
+class frmGeneralProgressSettings : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmGeneralProgressSettings(Session &session, Messages &messages, QWidget *parent = nullptr);
+
+    bool OkPressed() const { return m_okPressed; }
+    /// What was chosen, once OkPressed.
+    const progress::Period &period() const { return m_period; }
+
+private:
+    void accept() override;
+    QRadioButton *makeLength(const QString &name, const QString &caption);
+    QBoxLayout *makeForm();
+    QBoxLayout *makeButtons();
+    qint16 chosenMonths() const;
+    bool wantsChartAnyway(const QString &question);
+
+    Session &m_session;
+    Messages &m_messages;
+    QDateEdit *dtpDate;
+    QRadioButton *opt1Month;
+    QRadioButton *opt3Month;
+    QRadioButton *opt6Month;
+    progress::Period m_period;
+    bool m_okPressed = false;
+};

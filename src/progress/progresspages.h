@@ -1,0 +1,32 @@
+// General progress on paper and in picture files: the chart and, beside it, the notes' texts.
+#pragma once
+
+#include "progress/progresspainter.h"
+
+#include <QImage>
+
+class QIODevice;
+class QPagedPaintDevice;
+
+namespace progress {
+
+/// What a page shows; the fonts' sizes are taken from the base font.
+struct PageContents
+{
+    const DaySeries &series;
+    const ProgressTexts &texts;
+    QString heading;
+    QFont font;
+};
+
+/// The chart with the notes beside it on the first page, notes that find no room there on more.
+void paintPages(QPainter &painter, QPagedPaintDevice &paper, const PageContents &contents);
+
+/// A picture with the chart in that size, widened by as many columns as the notes need. The
+/// resolution is in dots per inch.
+QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution);
+
+/// The same as a PDF, A4 or Letter after the locale. False where the device can't be written.
+bool writePdf(QIODevice &device, const PageContents &contents);
+
+} // namespace progress

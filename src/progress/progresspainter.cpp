@@ -1,0 +1,302 @@
+#include "progress/progresspainter.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace progress {
+
+namespace {
+
+class ProgressPainter
+{
+public:
+    ProgressPainter(QPainter &painter, const ChartGeometry &geometry, const ProgressColors &colors,
+                    const daychart::ChartFonts &fonts)
+        : p(painter)
+        , g(geometry)
+        , c(colors)
+        , m_fonts(fonts)
+        , m_hairline(std::max(1.0, em(0.055)))
+    {
+    }
+
+    void paint();
+    void paintMark(const Mark &mark, Series series, double larger = 1);
+    void paintNote(const NoteSpan &note, const QColor &fill, const QColor &edge, const QColor &ink);
+
+private:
+    double em(double count) const { return count * g.unit; }
+    QPen pen(const QColor &color, double lines = 1, Qt::PenStyle style = Qt::SolidLine) const
+    {
+        return {color, lines * m_hairline, style, Qt::FlatCap, Qt::RoundJoin};
+    }
+    QPen averagePen() const { return pen(c.base.ink, 1, Qt::DashLine); }
+    QPen bridgePen(Series series) const
+    {
+        QPen bridge = pen(c.line(series), 1.4);
+        bridge.setDashPattern({2, 2});
+        return bridge;
+    }
+    void horizontal(double y) { p.drawLine(QPointF(g.plot.left(), y), QPointF(g.plot.right(), y)); }
+    double markRadius() const { return std::clamp(0.42 * g.days.dayWidth, em(0.11), em(0.26)); }
+
+    void paintFrame();
+    void paintLane(const Lane &lane);
+    void paintColumns();
+    void paintLine(const SeriesLine &line);
+    void paintBeyond(const Mark &mark, double radius);
+    void paintSample(const LegendEntry &entry);
+    void hatch(const QRectF &rect);
+
+    QPainter &p;
+    const ChartGeometry &g;
+    const ProgressColors &c;
+    const daychart::ChartFonts &m_fonts;
+    double m_hairline;
+};
+
+/// A shape of its own for each line.
+QPainterPath shapeOf(Series series, QPointF at, double radius)
+{
+    QPainterPath path;
+    switch (series) {
+    case Series::Weight:
+    case Series::Breast:
+        path.addEllipse(at, radius, radius);
+        break;
+    case Series::Waist:
+        path.addRect(at.x() - 0.9 * radius, at.y() - 0.9 * radius, 1.8 * radius, 1.8 * radius);
+        break;
+    case Series::Hips:
+        path.addPolygon(
+            QPolygonF({at + QPointF(0, -1.25 * radius), at + QPointF(1.15 * radius, 0.8 * radius),
+                       at + QPointF(-1.15 * radius, 0.8 * radius)}));
+        path.closeSubpath();
+        break;
+    }
+    return path;
+}
+
+void ProgressPainter::paint()
+{
+    p.fillRect(g.area, c.base.ground);
+    p.setRenderHint(QPainter::Antialiasing, false);
+    for (const NoteSpan &note : g.notes)
+        p.fillRect(note.reach, c.noteReach);
+    paintFrame();
+    if (!g.isEmpty) {
+        for (const Lane *lane : {&g.weight, &g.girths, &g.balance})
+            paintLane(*lane);
+        paintColumns();
+    }
+    for (const SeriesLine &line : g.lines)
+        paintLine(line);
+    for (const NoteSpan &note : g.notes)
+        paintNote(note, c.note, c.noteEdge, c.base.ink);
+    for (const LegendEntry &entry : g.legend)
+        paintSample(entry);
+    for (const PlacedText &text : g.texts)
+        paintPlacedText(p, text, c.base, m_fonts);
+    for (const SeriesLine &line : g.lines)
+        paintPlacedText(p, line.label, c.base, m_fonts);
+}
+
+void ProgressPainter::paintFrame()
+{
+    p.setPen(pen(c.base.axis));
+    horizontal(g.plot.bottom());
+    for (const double x : g.weekLines)
+        p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(0.25)));
+    for (const double x : g.monthLines)
+        p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(2.2)));
+}
+
+void ProgressPainter::paintLane(const Lane &lane)
+{
+    const auto verticals = [&](const std::vector<double> &places) {
+        for (const double x : places)
+            p.drawLine(QPointF(x, lane.area.top()), QPointF(x, lane.area.bottom()));
+    };
+    p.setPen(pen(c.base.grid));
+    verticals(g.weekLines);
+    for (const double y : lane.grid)
+        horizontal(y);
+    p.setPen(pen(c.month));
+    verticals(g.monthLines);
+}
+
+void ProgressPainter::paintColumns()
+{
+    for (const QRectF &strip : g.notRecorded)
+        hatch(strip);
+    for (const BalanceColumn &column : g.columns) {
+        // Narrow columns keep their distance by their exact edges, not by whole pixels.
+        p.setRenderHint(QPainter::Antialiasing, true);
+        p.fillRect(column.rect, column.isSurplus ? c.surplus : c.deficit);
+    }
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(pen(c.base.axis));
+    horizontal(g.balance.scale.y(0));
+    if (g.hasAverage) {
+        p.setPen(averagePen());
+        horizontal(g.averageY);
+    }
+}
+
+/// Days without figures: lines drawn one by one, because a brush's pattern would keep the size of
+/// a screen's pixels on paper.
+void ProgressPainter::hatch(const QRectF &rect)
+{
+    p.fillRect(rect, c.base.ground);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(pen(c.base.muted));
+    QList<QLineF> lines;
+    const double slope = rect.height();
+    for (double x = rect.left(); x + slope <= rect.right(); x += em(0.36))
+        lines.append(QLineF(x, rect.bottom(), x + slope, rect.top()));
+    p.drawLines(lines);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void ProgressPainter::paintLine(const SeriesLine &line)
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(pen(c.line(line.series), 2));
+    p.drawLines(QList<QLineF>(line.measured.begin(), line.measured.end()));
+    p.setPen(bridgePen(line.series));
+    p.drawLines(QList<QLineF>(line.bridges.begin(), line.bridges.end()));
+    for (const Mark &mark : line.marks)
+        paintMark(mark, line.series);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void ProgressPainter::paintMark(const Mark &mark, Series series, double larger)
+{
+    const double radius = larger * markRadius();
+    if (mark.kind == Mark::Kind::AboveScale || mark.kind == Mark::Kind::BelowScale) {
+        paintBeyond(mark, radius);
+        return;
+    }
+    const bool isMeasured = mark.kind == Mark::Kind::Measured;
+    p.setPen(pen(c.line(series), 1.4));
+    p.setBrush(isMeasured ? c.line(series) : c.base.ground);
+    p.drawPath(shapeOf(series, mark.at, radius));
+    p.setBrush(Qt::NoBrush);
+}
+
+/// A chevron at the edge of the lane, pointing to where the value is.
+void ProgressPainter::paintBeyond(const Mark &mark, double radius)
+{
+    radius = std::max(radius, em(0.17));
+    const double down = mark.kind == Mark::Kind::AboveScale ? 1 : -1;
+    p.setPen(pen(c.base.muted, 1.4));
+    p.drawPolyline(QPolygonF({mark.at + QPointF(-radius, down * 1.6 * radius),
+                              mark.at + QPointF(0, down * 0.4 * radius),
+                              mark.at + QPointF(radius, down * 1.6 * radius)}));
+}
+
+void ProgressPainter::paintNote(const NoteSpan &note, const QColor &fill, const QColor &edge,
+                                const QColor &ink)
+{
+    // A line of the ground parts two notes that touch.
+    const QRectF bar = note.bar.width() > 4 * m_hairline
+                           ? note.bar.adjusted(m_hairline / 2, 0, -m_hairline / 2, 0)
+                           : note.bar;
+    p.fillRect(bar, fill);
+    p.fillRect(QRectF(bar.left(), bar.bottom() - 1.5 * m_hairline, bar.width(), 1.5 * m_hairline),
+               edge);
+    if (!note.hasRoom)
+        return;
+    p.setFont(m_fonts.caption);
+    p.setPen(ink);
+    p.drawText(bar, Qt::AlignCenter | Qt::TextDontClip, note.letter);
+}
+
+void ProgressPainter::paintSample(const LegendEntry &entry)
+{
+    const QRectF &rect = entry.sample;
+    const Mark mark = {0, Mark::Kind::Measured, rect.center()};
+    const double usual = em(0.24) / markRadius();
+    const QPointF left(rect.left(), rect.center().y());
+    const QPointF right(rect.right(), rect.center().y());
+    p.setRenderHint(QPainter::Antialiasing, true);
+    switch (entry.kind) {
+    case LegendKind::Line:
+        p.setPen(pen(c.line(entry.series), 2));
+        p.drawLine(left, right);
+        paintMark(mark, entry.series, usual);
+        break;
+    case LegendKind::Measured:
+        paintMark(mark, Series::Weight, usual);
+        break;
+    case LegendKind::FilledIn:
+        p.setPen(bridgePen(Series::Weight));
+        p.drawLine(left, right);
+        paintMark({0, Mark::Kind::FilledIn, rect.center()}, Series::Weight, usual);
+        break;
+    case LegendKind::BeyondScale:
+        p.setPen(bridgePen(Series::Weight));
+        p.drawLine(left + QPointF(0, em(0.25)), right + QPointF(0, em(0.25)));
+        paintMark({0, Mark::Kind::AboveScale, rect.center() - QPointF(0, em(0.35))}, Series::Weight,
+                  usual);
+        break;
+    case LegendKind::Average:
+        p.setPen(averagePen());
+        p.drawLine(left, right);
+        break;
+    case LegendKind::Surplus:
+    case LegendKind::Deficit:
+        p.fillRect(rect, entry.kind == LegendKind::Surplus ? c.surplus : c.deficit);
+        break;
+    case LegendKind::NotRecorded:
+        hatch(QRectF(rect.left() - em(0.15), rect.center().y() - em(0.18), em(1.1), em(0.36)));
+        break;
+    }
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace
+
+void paintProgressChart(QPainter &painter, const ChartGeometry &geometry,
+                        const ProgressColors &colors, const daychart::ChartFonts &fonts)
+{
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    ProgressPainter(painter, geometry, colors, fonts).paint();
+    painter.restore();
+}
+
+void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ProgressColors &colors,
+                   const daychart::ChartFonts &fonts, const Emphasis &emphasis)
+{
+    painter.save();
+    ProgressPainter chart(painter, geometry, colors, fonts);
+    if (emphasis.note && *emphasis.note < geometry.notes.size()) {
+        NoteSpan note = geometry.notes[*emphasis.note];
+        note.hasRoom = true;
+        QColor tint = colors.base.highlight;
+        tint.setAlphaF(0.16F);
+        painter.fillRect(note.reach, tint);
+        chart.paintNote(note, colors.base.highlight, colors.base.highlight,
+                        colors.base.onHighlight);
+    }
+    if (emphasis.day) {
+        const double x = geometry.days.center(*emphasis.day);
+        painter.setRenderHint(QPainter::Antialiasing, true);
+        painter.setPen(QPen(colors.base.highlight, std::max(1.0, 0.09 * geometry.unit)));
+        painter.drawLine(QPointF(x, geometry.lanesTop),
+                         QPointF(x, geometry.plot.bottom() + 0.25 * geometry.unit));
+        for (const SeriesLine &line : geometry.lines) {
+            for (const Mark &mark : line.marks) {
+                if (mark.day == *emphasis.day)
+                    chart.paintMark(mark, line.series, 1.5);
+            }
+        }
+    }
+    painter.restore();
+}
+
+} // namespace progress

@@ -1,0 +1,46 @@
+#include "progress/progressscale.h"
+
+#include "chart/scales.h"
+#include "data/valuehelpers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace progress {
+
+std::vector<double> ValueScale::ticks(double apart) const
+{
+    const double distance = height() * step / (high - low);
+    const double every =
+        distance >= apart ? step : step * std::ceil(daychart::roundStep(apart / distance));
+    std::vector<double> values;
+    const double tolerance = 1e-6;
+    const double last = std::floor(high / every + tolerance);
+    for (double i = std::ceil(low / every - tolerance); i <= last; ++i)
+        values.push_back(i * every);
+    return values;
+}
+
+ValueScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY)
+{
+    const auto minimum = double(range.minimum);
+    const auto maximum = double(range.maximum);
+    // SnapToStep counts steps in 16 bits: values that lie far from zero and close together get
+    // a coarser step than their distance alone would ask for.
+    constexpr double mostSteps = 30000;
+    const double magnitude = std::max(std::abs(minimum), std::abs(maximum));
+    if (minimum == maximum)
+        leastStep = std::max(leastStep, 1.0); // a single value tells of no finer one
+    const Currency step =
+        Currency::fromDouble(std::max({leastStep, daychart::roundStep((maximum - minimum) / steps),
+                                       daychart::roundStep(magnitude / mostSteps)}));
+    Currency low = SnapToStep(range.minimum, true, step);
+    Currency high = SnapToStep(range.maximum, false, step);
+    if (low == high) {
+        low = low - step;
+        high = high + step;
+    }
+    return {low.toDouble(), high.toDouble(), step.toDouble(), topY, bottomY};
+}
+
+} // namespace progress

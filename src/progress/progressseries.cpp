@@ -1,0 +1,160 @@
+#include "progress/progressseries.h"
+
+#include "data/numbers.h"
+#include "data/valuehelpers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+using namespace Qt::Literals;
+
+namespace progress {
+
+namespace {
+
+constexpr double hoursPerDay = 24;
+
+float toSingle(double value)
+{
+    const auto single = static_cast<float>(value);
+    if (!std::isfinite(single))
+        throw OverflowError("a measurement is outside the range of single precision");
+    return single;
+}
+
+void loadBody(deData &data, DaySeries &series)
+{
+    Recordset &rows = data.rsGPBody;
+    rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
+    for (; !rows.isEof(); rows.moveNext()) {
+        Day &day = series.at(series.dayOf(rows.date("DateMeasured"_L1)));
+        day.waist = toSingle(rows.number("Waist"_L1));
+        day.breast = toSingle(rows.number("Breast"_L1));
+        day.hips = toSingle(rows.number("Hips"_L1));
+        day.weight = toSingle(rows.number("Weight"_L1));
+        day.source = BodySource::Measured;
+        for (const float girth : {day.waist, day.breast, day.hips})
+            series.girths.widen(girth);
+        series.weights.widen(day.weight);
+    }
+    rows.close();
+}
+
+void loadCalories(deData &data, DaySeries &series, double metabolicRate)
+{
+    Recordset &rows = data.rsGPCalories;
+    rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
+    for (; !rows.isEof(); rows.moveNext()) {
+        Day &day = series.at(series.dayOf(rows.date("curDate"_L1)));
+        day.calories = roundToInt16(rows.number("calories"_L1) - metabolicRate * hoursPerDay);
+        day.hasCalories = true;
+        series.calories.widen(day.calories);
+    }
+    rows.close();
+}
+
+void loadNotes(deData &data, DaySeries &series)
+{
+    Recordset &rows = data.rsGPNotes;
+    rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
+    series.notes.reserve(rows.rowCount());
+    for (; !rows.isEof(); rows.moveNext())
+        series.notes.push_back(
+            {rows.text("NoteText"_L1), rows.date("DateFrom"_L1), rows.date("DateTo"_L1)});
+    rows.close();
+}
+
+} // namespace
+
+float Day::value(Series series) const
+{
+    switch (series) {
+    case Series::Breast:
+        return breast;
+    case Series::Waist:
+        return waist;
+    case Series::Hips:
+        return hips;
+    case Series::Weight:
+        break;
+    }
+    return weight;
+}
+
+void Range::widen(float value)
+{
+    maximum = MaxOf(maximum, value);
+    minimum = MinOf(minimum, value);
+}
+
+DaySeries::DaySeries(const Period &period)
+    : m_period(period)
+    , m_nDays(toInt16(period.dateFrom.daysTo(period.dateTo) + 1))
+{
+    if (m_nDays > mostDays)
+        throw std::out_of_range("a period of more days than the series holds");
+}
+
+qint16 DaySeries::dayOf(QDate date) const
+{
+    return toInt16(m_period.dateFrom.daysTo(date) + 1);
+}
+
+size_t DaySeries::indexOf(qint16 day)
+{
+    if (day < 1 || day > mostDays)
+        throw std::out_of_range("a day outside the period");
+    return size_t(day) - 1;
+}
+
+bool DaySeries::hasCalories() const
+{
+    return std::any_of(m_days.begin(), m_days.end(),
+                       [](const Day &day) { return day.hasCalories; });
+}
+
+void DaySeries::Approximate()
+{
+    bool isInGap = false;
+    qint16 first = 0;
+    for (qint16 day = 1; day <= m_nDays; ++day) {
+        if (!at(day).isMeasured() && !isInGap) {
+            first = day;
+            isInGap = true;
+        } else if (at(day).isMeasured() && isInGap) {
+            const auto last = qint16(day - 1);
+            isInGap = false;
+            if (last - first <= 1 && first != 1 && last != m_nDays)
+                ApproximateSpan(first, last);
+        }
+    }
+}
+
+void DaySeries::ApproximateSpan(qint16 first, qint16 last)
+{
+    const Day &before = at(qint16(first - 1));
+    const Day &after = at(qint16(last + 1));
+    const auto steps = float(last - first + 2);
+    for (float Day::*value : {&Day::breast, &Day::waist, &Day::hips, &Day::weight}) {
+        // Only the earlier value is divided, not the difference: the series is defined so, and
+        // the values filled in do not lie on a straight line between the two measurements.
+        const float step = after.*value - before.*value / steps;
+        for (qint16 day = first; day <= last; ++day) {
+            at(day).*value = toSingle(double(float(day - first + 1) * step + before.*value));
+            at(day).source = BodySource::FilledIn;
+        }
+    }
+}
+
+DaySeries loadSeries(deData &data, const Period &period, double metabolicRate)
+{
+    DaySeries series(period);
+    loadBody(data, series);
+    loadCalories(data, series, metabolicRate);
+    series.Approximate();
+    loadNotes(data, series);
+    return series;
+}
+
+} // namespace progress

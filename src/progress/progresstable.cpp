@@ -1,0 +1,55 @@
+#include "progress/progresstable.h"
+
+namespace progress {
+
+namespace {
+
+QStringList rowOf(const DaySeries &series, qint16 day, const ProgressTexts &texts)
+{
+    const Day &record = series.at(day);
+    QStringList row = {texts.plain().shortDate(series.date(day))};
+    for (const Series which : allSeries)
+        row += record.isKnown(which) ? texts.plain().toText(record.value(which)) : QString();
+    row += record.source == BodySource::Measured   ? ProgressTexts::tr("measured")
+           : record.source == BodySource::FilledIn ? ProgressTexts::tr("filled in")
+                                                   : QString();
+    row += record.hasCalories ? texts.plain().toText(int(record.calories)) : QString();
+    QStringList notes;
+    for (const size_t note : notesOn(series, series.date(day)))
+        notes += ProgressTexts::tr("%1: %2").arg(noteLetter(note), series.notes[note].NoteText);
+    row += notes.join(QStringLiteral("; "));
+    return row;
+}
+
+QString lineOf(const QStringList &cells)
+{
+    QStringList plain;
+    for (const QString &cell : cells)
+        plain += cell.simplified(); // a note may hold tabs and line breaks
+    return plain.join(u'\t') + u'\n';
+}
+
+} // namespace
+
+QString Table::toTabSeparated() const
+{
+    QString text = lineOf(header);
+    for (const QStringList &row : rows)
+        text += lineOf(row);
+    return text;
+}
+
+Table tableOf(const DaySeries &series, const ProgressTexts &texts)
+{
+    Table table;
+    table.header = {ProgressTexts::tr("Date")};
+    for (const Series which : allSeries)
+        table.header += texts.nameWithUnit(which);
+    table.header += {ProgressTexts::tr("Source"), ProgressTexts::tr("Balance (kcal)"),
+                     ProgressTexts::tr("Note")};
+    for (qint16 day = 1; day <= series.nDays(); ++day)
+        table.rows.push_back(rowOf(series, day, texts));
+    return table;
+}
+
+} // namespace progress

@@ -1,0 +1,72 @@
+// The words and figures of general progress: on the chart, beside it and in the table.
+#pragma once
+
+#include "progress/progresssummary.h"
+#include "session/localetext.h"
+
+#include <QCoreApplication>
+
+namespace progress {
+
+/// A figure in the line of figures.
+struct Figure
+{
+    QString name;
+    QString value;
+};
+
+class ProgressTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(progress::ProgressTexts)
+
+public:
+    ProgressTexts(const LocaleText &text, bool isMetric)
+        : m_text(text)
+        , m_isMetric(isMetric)
+    {
+    }
+
+    const QLocale &locale() const { return m_text.locale(); }
+    const LocaleText &plain() const { return m_text; }
+
+    QString name(Series series) const;
+    /// "kg", "lb", "cm" or "inch".
+    QString unit(Series series) const;
+    /// "Waist (cm)"
+    QString nameWithUnit(Series series) const;
+    QString girthsTitle() const;
+    QString balanceTitle() const;
+
+    /// At most two decimals.
+    QString number(double value) const;
+    /// The same with its sign, also when it is positive.
+    QString change(double value) const;
+    /// Of a scale with that step.
+    QString tick(double value, double step) const;
+    QString notKnown() const { return QStringLiteral("–"); }
+
+    std::vector<Figure> figures(const Summary &summary) const;
+    /// The line of figures as a sentence for a screen reader.
+    QString summaryWords(const Summary &summary) const;
+
+    /// "22 Apr 2026 – 22 Jul 2026"; a single day is said once.
+    QString days(QDate first, QDate last) const;
+    QString longDate(QDate date) const;
+
+    /// Everything that is known of a day, a line for each figure, missing ones said to be missing.
+    QString dayWords(const DaySeries &series, qint16 day) const;
+
+private:
+    QString valueWords(const Day &day, Series series) const;
+    QString balanceWords(const Day &day) const;
+
+    const LocaleText &m_text;
+    bool m_isMetric;
+};
+
+/// The letter of a note by its place in the list.
+QString noteLetter(size_t note);
+/// The places of the notes that a date lies in.
+std::vector<size_t> notesOn(const DaySeries &series, QDate date);
+
+} // namespace progress
