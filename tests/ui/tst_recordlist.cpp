@@ -156,7 +156,7 @@ void tst_recordlist::columnsShowTheirWidestText()
     // One that would push all others out of sight is told by its tooltip.
     QVERIFY(view.columnWidth(0) < metrics.horizontalAdvance(rows[1450].texts[0]) / 2);
     const QModelIndex longOne = f.list.model()->index(1450, 0);
-    QCOMPARE(longOne.data(Qt::ToolTipRole).toString(), rows[1450].texts[0]);
+    QVERIFY(longOne.data(Qt::ToolTipRole).toString().contains(rows[1450].texts[0]));
     QCOMPARE(f.list.model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole), "What was eaten");
 }
 
