@@ -71,7 +71,8 @@ void frmExercise::makeConnections()
 {
     connect(txtCaloriesConsume, &QLineEdit::textChanged, this,
             [this] { m_caloriesChanged = true; });
-    connect(chkWeightDependent, &QCheckBox::clicked, this, [this] {
+    // Not clicked(): screen readers toggle the box.
+    connect(chkWeightDependent, &QCheckBox::toggled, this, [this] {
         m_caloriesChanged = true;
         showDependence();
     });

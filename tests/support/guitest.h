@@ -70,8 +70,16 @@ inline void typeInto(QWidget &field, const QString &text)
         QTest::keyClicks(&field, text);
 }
 
+/// Gives a window the focus, as a window manager would.
+inline void activate(QWidget &window)
+{
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("%s does not get the focus", qPrintable(window.objectName()));
+}
+
 /// Runs `open`, which shows a modal dialog of the given name, and `steps` on that dialog as soon
-/// as it is visible; a dialog that the steps leave open is rejected. Dialogs may be nested: call
+/// as it has the focus; a dialog that the steps leave open is rejected. Dialogs may be nested: call
 /// it again from within the steps. Fails where the dialog does not appear within five seconds.
 inline void inDialog(const char *name, const std::function<void()> &open,
                      const std::function<void(QWidget &)> &steps)
@@ -90,6 +98,7 @@ inline void inDialog(const char *name, const std::function<void()> &open,
         }
         poll.stop();
         appeared = true;
+        activate(*dialog);
         steps(*dialog);
         if (dialog->isVisible())
             dialog->close();
@@ -97,4 +106,6 @@ inline void inDialog(const char *name, const std::function<void()> &open,
     poll.start(5);
     open();
     QVERIFY2(appeared, name);
+    if (QWidget *opener = QApplication::activeModalWidget())
+        activate(*opener);
 }

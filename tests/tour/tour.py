@@ -50,6 +50,12 @@ def progress_chart_in(window):
                     "the progress chart")[0]
 
 
+def leave_window(program, title):
+    window = program.window(title)
+    program.keys("Escape")
+    program.gone(window)
+
+
 @step
 def first_start(program):
     said = program.text_of(program.message())
@@ -171,7 +177,90 @@ def progress_closed(program):
 
 
 @step
+def meal_categories(program):
+    program.menu("Settings", "Meal Categories")
+    categories = program.window("Meal Categories")
+    check(categories.find_all("table cell", "Fruit") or categories.find_all("tree item", "Fruit"),
+          f"no fruit:\n{categories.outline()}")
+
+
+@step
+def new_category(program):
+    program.keys("Insert")
+    program.window("Meal Category - New").find("text", "Meal Category Name").type("Trail Food")
+
+
+@step
+def meals(program):
+    editor = program.window("Meal Category - New")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    leave_window(program, "Meal Categories")
+    program.menu("Settings", "Meal")
+    program.window("Meals").find("combo box", "Meal Category").choose("Nuts and Seeds")
+
+
+@step
+def new_meal(program):
+    program.window("Meals").find("push button", "New").press()
+    editor = program.window("Meal Description - New")
+    editor.find("combo box", "Meal Category").choose("Trail Food")
+    for field, text in {"Meal Name": "Summit mix", "Unit": "handful", "Default Qty": "1",
+                        "Increment": "0.5", "Fat by Weight": "10", "Carbohydrate by Weight": "20",
+                        "Protein by Weight": "5", "Calories per Unit": "250"}.items():
+        editor.find("text", field).type(text)
+    fat = editor.find("text", "Fat by Calories").text
+    check(fat == "118.4211", f"10 g of fat in 250 calories make {fat}")
+
+
+@step
+def meal_listed(program):
+    editor = program.window("Meal Description - New")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    category = program.window("Meals").find("combo box", "Meal Category").name
+    check(category == "Trail Food", f"the list shows {category!r}")
+
+
+@step
+def activities(program):
+    leave_window(program, "Meals")
+    program.menu("Settings", "Activities")
+    program.window("Activities")
+
+
+@step
+def new_activity(program):
+    program.keys("Insert")
+    editor = program.window("Activity Description - New")
+    editor.find("check box", "Weight Dependent").press()
+    for field, text in {"Activity Name": "Log rolling", "Calories Consume": "450",
+                        "Default Qty": "0.5", "Unit": "hour"}.items():
+        editor.find("text", field).type(text)
+
+
+@step
+def weight_adjustment(program):
+    editor = program.window("Activity Description - New")
+    editor.find("push button", "For Me").press()
+    program.window("Weight Adjustment")
+
+
+@step
+def activity_listed(program):
+    calculator = program.window("Weight Adjustment")
+    calculator.find("push button", "OK").press()
+    program.gone(calculator)
+    editor = program.window("Activity Description - New")
+    calories = editor.find("text", "Calories Consume").text
+    check(calories == "463", f"450 calories for 68.04 kg are {calories} for 70 kg")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+
+
+@step
 def delete_trial_data(program):
+    leave_window(program, "Activities")
     program.menu("Operate", "Delete Trial Data")
     question = program.message()
     check(question.name == "Are you sure?", f"the question is titled {question.name!r}")
