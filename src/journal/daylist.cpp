@@ -90,8 +90,9 @@ std::vector<ListRow> DayList::load() const
 ListRow DayList::totalsRow(const DayTotals &totals) const
 {
     ListRow row;
+    row.isTotal = true;
     row.texts.resize(static_cast<qsizetype>(m_columns.columns.size()));
-    row.texts[m_columns.itemCount] = tr("   Total (%1 items)").arg(totals.count());
+    row.texts[m_columns.nameColumn] = tr("   Total (%1 items)").arg(totals.count());
     for (size_t i = 0; i < m_columns.totals.size(); ++i) {
         if (const std::optional<qint32> total = totals.totals()[i])
             row.texts[m_columns.totals[i].first] = QString::number(*total);

@@ -31,7 +31,7 @@ protected:
     struct Columns
     {
         std::vector<ListColumn> columns;
-        int itemCount; ///< the column that shows how many rows are added up
+        int nameColumn; ///< in the row of totals it tells how many items are added up
         /// Columns with totals and the fields that fill them.
         std::vector<std::pair<int, QLatin1StringView>> totals;
     };

@@ -1,5 +1,6 @@
 #include "ui/listmodel.h"
 
+#include <QFont>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -76,6 +77,11 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
         return toolTip(index);
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case Qt::FontRole: {
+        QFont font;
+        font.setBold(true);
+        return row.isTotal ? QVariant(font) : QVariant();
+    }
     default:
         return {};
     }

@@ -21,6 +21,7 @@ struct ListRow
     qint32 tag = 0;
     QStringList texts;
     QString toolTip = {}; ///< plain text, for one that the row itself shortens
+    bool isTotal = false; ///< stands out from the rows that it adds up
 };
 
 class ListModel : public QAbstractTableModel

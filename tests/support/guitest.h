@@ -78,6 +78,29 @@ inline void activate(QWidget &window)
         qFatal("%s does not get the focus", qPrintable(window.objectName()));
 }
 
+/// A key as it comes from the keyboard: to the open popup or else the widget that has the focus.
+inline void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                     const QString &text = {})
+{
+    const auto receiver = [] {
+        QWidget *const popup = QApplication::activePopupWidget();
+        if (!popup)
+            return QApplication::focusWidget();
+        return popup->focusWidget() ? popup->focusWidget() : popup;
+    };
+    QVERIFY2(QTest::qWaitFor([&] { return receiver() != nullptr; }), "no focus");
+    if (text.isEmpty())
+        QTest::keyClick(receiver(), key, modifiers);
+    else
+        QTest::sendKeyEvent(QTest::Click, receiver(), key, text, modifiers);
+    QCoreApplication::processEvents();
+}
+inline void typeKeys(const QString &text)
+{
+    for (const QChar c : text)
+        pressKey(Qt::Key(c.toUpper().unicode()), Qt::NoModifier, c);
+}
+
 /// Runs `open`, which shows a modal dialog of the given name, and `steps` on that dialog as soon
 /// as it has the focus; a dialog that the steps leave open is rejected. Dialogs may be nested: call
 /// it again from within the steps. Fails where the dialog does not appear within five seconds.
