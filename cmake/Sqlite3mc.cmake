@@ -17,7 +17,7 @@ function(corvana_fetch_sqlite3mc result)
     endif()
     message(STATUS "Fetching the database engine (${SQLITE3MC_PACKAGE})")
     execute_process(
-      COMMAND ${NPM} pack --silent ${SQLITE3MC_PACKAGE}
+      COMMAND ${NPM} pack --loglevel=error ${SQLITE3MC_PACKAGE}
       WORKING_DIRECTORY ${folder}
       OUTPUT_QUIET ERROR_VARIABLE error RESULT_VARIABLE failed)
     if(failed)

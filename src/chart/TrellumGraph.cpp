@@ -136,7 +136,7 @@ void TrellumGraph::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture());
     paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_pointed, false);
-    if (!hasFocus())
+    if (!hasFocus() || !m_byKeyboard)
         return;
     paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_cursor, true);
     const double line = 0.12 * m_geometry.unit;
@@ -182,6 +182,7 @@ void TrellumGraph::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
+    m_byKeyboard = false;
     m_pressed = targetAt(m_geometry, event->position());
     m_pressedAt = event->position();
     if (m_pressed.kind == Target::Kind::None)
@@ -244,6 +245,7 @@ std::optional<Cursor> TrellumGraph::cursorAfter(const QKeyEvent &key) const
 
 void TrellumGraph::keyPressEvent(QKeyEvent *event)
 {
+    m_byKeyboard = true;
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -262,6 +264,9 @@ void TrellumGraph::keyPressEvent(QKeyEvent *event)
 void TrellumGraph::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+        m_byKeyboard = true;
     if (m_cursor.target.kind == Target::Kind::None)
         m_cursor = stepped(m_shown, m_cursor, Step::First);
     moveCursor(m_cursor);

@@ -96,6 +96,7 @@ private:
     daychart::ChartColors m_colors;
     QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little
     daychart::Cursor m_cursor;  ///< of the keyboard
+    bool m_byKeyboard = false;  ///< the cursor is shown only while the keyboard is used
     daychart::Cursor m_pointed; ///< under the pointer
     daychart::Target m_pressed;
     QPointF m_pressedAt;

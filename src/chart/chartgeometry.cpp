@@ -54,6 +54,8 @@ public:
 
 private:
     double em(double count) const { return count * g.unit; }
+    /// The least distance of labelled values: fewer than eight to a lane, however high it is.
+    double ticksApart() const { return std::max(em(2.2), (m_plotBottom - m_plotTop) / 16); }
     double width(const QString &text, TextRole role = TextRole::Plain) const
     {
         return m_metrics.width(text, role);
@@ -96,7 +98,6 @@ private:
 
 constexpr double margin = 0.75;
 constexpr double labelGap = 0.4;
-constexpr double ticksApart = 2.2;
 
 void Layout::layRows()
 {
@@ -117,7 +118,7 @@ void Layout::scaleMeals()
         });
     g.meals.scale =
         mealScale(m_day, m_plotTop + labelRoom, g.balanceZeroY - (negative ? labelRoom : 0));
-    m_mealStep = std::max(1.0, roundStep(em(ticksApart) / g.meals.scale.perValue));
+    m_mealStep = std::max(1.0, roundStep(ticksApart() / g.meals.scale.perValue));
     g.meals.gridLines = ticksBetween(g.meals.scale, m_mealStep, m_plotTop, g.balanceZeroY);
 }
 
@@ -140,7 +141,7 @@ void Layout::scaleBurn()
         m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
         g.activities.scale = fitted();
     }
-    m_burnStep = roundStep(em(ticksApart) / g.activities.scale.perValue);
+    m_burnStep = roundStep(ticksApart() / g.activities.scale.perValue);
     g.activities.gridLines =
         ticksBetween(g.activities.scale, m_burnStep, top - em(0.5), m_plotBottom);
 }
@@ -158,9 +159,8 @@ void Layout::scaleBalance()
         scaleAround(g.balanceZeroY, low, high, m_plotTop + inset, m_plotBottom - inset);
     m_balancePerValue = scale.perValue;
     if (scale.perValue > 0)
-        m_balanceStep = std::max(1.0, roundStep(em(ticksApart) / scale.perValue));
-    g.balanceMarks =
-        ticksBetween(scale, m_balanceStep, m_plotTop + em(0.4), m_plotBottom - em(0.4));
+        m_balanceStep = std::max(1.0, roundStep(ticksApart() / scale.perValue));
+    g.balanceMarks = ticksBetween(scale, m_balanceStep, scale.y(high), scale.y(low));
 }
 
 std::vector<LegendRow> Layout::legend(Lane which) const

@@ -177,8 +177,10 @@ void DayChartPainter::hatch(const QRectF &rect)
 {
     const double apart = em(0.3);
     m_lines.clear();
-    for (double sum = std::ceil((rect.left() + rect.top()) / apart) * apart;
-         sum < rect.right() + rect.bottom(); sum += apart) {
+    const int first = int(std::ceil((rect.left() + rect.top()) / apart));
+    const int last = int(std::floor((rect.right() + rect.bottom()) / apart));
+    for (int i = first; i <= last; ++i) {
+        const double sum = i * apart;
         const double from = std::max(rect.left(), sum - rect.bottom());
         const double to = std::min(rect.right(), sum - rect.top());
         m_lines.append(QLineF(from, sum - from, to, sum - to));

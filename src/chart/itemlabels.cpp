@@ -100,8 +100,14 @@ std::vector<ItemLabel> mealLabels(const DayData &day, const std::vector<MealColu
         const bool hangs = column.top() > lane.scale.zeroY - gap;
         const double bottom =
             hangs ? column.bottom() + metrics.lineHeight + gap : column.top() - gap;
-        if (const auto rect = room.tryAbove(item, text, column.center().x(), bottom))
-            labels.push_back({item, {*rect, text}});
+        // Between higher neighbours a label finds room only on the side of the lower one.
+        const double half = room.sizeOf(text).width() / 2;
+        for (const double x : {column.center().x(), column.right() - half, column.left() + half}) {
+            if (const auto rect = room.tryAbove(item, text, x, bottom)) {
+                labels.push_back({item, {*rect, text}});
+                break;
+            }
+        }
     }
     return labels;
 }

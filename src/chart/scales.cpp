@@ -46,8 +46,9 @@ std::vector<double> ticksBetween(const ValueScale &scale, double step, double to
     const double tolerance = 1e-6;
     const double first = std::ceil((scale.zeroY - bottomY) / scale.perValue / step - tolerance);
     const double last = std::floor((scale.zeroY - topY) / scale.perValue / step + tolerance);
-    for (double i = first; i <= last; ++i)
-        ticks.push_back(i * step);
+    const int count = int(last - first) + 1;
+    for (int i = 0; i < count; ++i)
+        ticks.push_back((first + i) * step);
     return ticks;
 }
 

@@ -8,13 +8,15 @@
 namespace {
 
 // "dddd, d. MMMM yyyy" becomes "d. MMM yyyy": the locale's own order and punctuation, without the
-// day of the week and with the month abbreviated.
+// day of the week, and what ties it to the rest, and with the month abbreviated.
 QString mediumFormatOf(const QLocale &locale)
 {
-    static const QRegularExpression weekday(
-        QStringLiteral("^'?[^dMy']*'?\\s*d{3,4}[^dMy']*|[^dMy']*\\bd{3,4}[^dMy']*$"));
+    static const QRegularExpression weekdayFirst(QStringLiteral("^d{3,4}(?:'[^']*'|[^dMy'])*"));
+    static const QRegularExpression weekdayLast(
+        QStringLiteral("[\\s,\\x{60C}-]*(?:'[^']*'\\s*)?d{3,4}(?:'[^']*'|[^dMy'])*$"));
     QString format = locale.dateFormat(QLocale::LongFormat);
-    format.remove(weekday);
+    format.remove(weekdayFirst);
+    format.remove(weekdayLast);
     format.replace(QLatin1String("MMMM"), QLatin1String("MMM"));
     return format;
 }
@@ -41,7 +43,9 @@ QString LocaleText::plainNumber(const QString &text) const
     QString plain;
     const QString trimmed = text.trimmed();
     for (const QChar c : trimmed) {
-        if (c.digitValue() >= 0)
+        if (c.category() == QChar::Other_Format)
+            continue; // marks of the writing direction
+        if (c.isDigit())
             plain += QChar(u'0' + c.digitValue());
         else if (c == point)
             plain += u'.';
@@ -71,9 +75,20 @@ std::optional<double> LocaleText::toDouble(const QString &text) const
     return plainNumber(text).toDouble();
 }
 
-QString LocaleText::toText(Currency value) const
+// The locale's digits and decimal separator for the ASCII ones of a number without groups.
+QString LocaleText::localized(const QString &plain) const
 {
-    return value.toText().replace(u'.', m_locale.decimalPoint());
+    const QString zero = m_locale.zeroDigit();
+    QString text;
+    for (const QChar c : plain) {
+        if (c == u'.')
+            text += m_locale.decimalPoint();
+        else if (c.isDigit() && zero.size() == 1)
+            text += QChar(static_cast<char16_t>(zero.front().unicode() + c.digitValue()));
+        else
+            text += c;
+    }
+    return text;
 }
 
 QString LocaleText::toText(float value) const
@@ -82,8 +97,7 @@ QString LocaleText::toText(float value) const
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed)
             .ptr;
-    return QString::fromLatin1(buffer.data(), end - buffer.data())
-        .replace(u'.', m_locale.decimalPoint());
+    return localized(QString::fromLatin1(buffer.data(), end - buffer.data()));
 }
 
 QString LocaleText::toText(const Value &value) const
@@ -95,13 +109,13 @@ QString LocaleText::toText(const Value &value) const
 
 QString LocaleText::listTime(QTime time) const
 {
+    const auto number = [](int value, int digits) {
+        return QString::number(value).rightJustified(digits, u'0');
+    };
+    const QString minutes = u':' + number(time.minute(), 2);
     if (m_is24HourClock)
-        return QStringLiteral("%1:%2")
-            .arg(time.hour(), 2, 10, QChar(u'0'))
-            .arg(time.minute(), 2, 10, QChar(u'0'));
+        return localized(number(time.hour(), 2) + minutes);
     const int hour = (time.hour() + 11) % 12 + 1;
-    return QStringLiteral("%1:%2 %3")
-        .arg(hour)
-        .arg(time.minute(), 2, 10, QChar(u'0'))
-        .arg(time.hour() < 12 ? QStringLiteral("am") : QStringLiteral("pm"));
+    return localized(number(hour, 1) + minutes) +
+           (time.hour() < 12 ? QStringLiteral(" am") : QStringLiteral(" pm"));
 }

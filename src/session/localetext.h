@@ -20,20 +20,21 @@ public:
 
     const QLocale &locale() const { return m_locale; }
 
-    /// Reads an optional sign, digits and the locale's decimal separator, blanks around them
-    /// allowed. std::nullopt for anything else and for a number beyond the decimal's range.
+    /// Reads an optional sign, digits (the locale's or ASCII ones) and the locale's decimal
+    /// separator, blanks around them allowed. std::nullopt for anything else and for a number
+    /// beyond the decimal's range.
     std::optional<Currency> toCurrency(const QString &text) const;
     /// The same numbers as a double.
     std::optional<double> toDouble(const QString &text) const;
     bool isNumeric(const QString &text) const { return toCurrency(text).has_value(); }
 
     /// At most four decimals, no trailing zeros.
-    QString toText(Currency value) const;
+    QString toText(Currency value) const { return localized(value.toText()); }
     /// The shortest decimal text that reads back as the same single-precision number.
     QString toText(float value) const;
     /// A stored number, at most four decimals.
     QString toText(double value) const { return toText(Currency::fromDouble(value)); }
-    QString toText(int value) const { return QString::number(value); }
+    QString toText(int value) const { return localized(QString::number(value)); }
     /// A value of a record: numbers as above, texts as they are, Null as the empty text.
     QString toText(const Value &value) const;
 
@@ -48,6 +49,7 @@ public:
 
 private:
     QString plainNumber(const QString &text) const;
+    QString localized(const QString &plain) const;
 
     QLocale m_locale;
     QString m_mediumDateFormat;

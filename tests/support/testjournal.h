@@ -31,6 +31,7 @@ inline void makeEmptyJournal(const QString &path)
     if (!schema.open(QIODevice::ReadOnly))
         qFatal("the schema can't be read");
     const auto connection = Connection::create(path);
+    WriteTransaction transaction(*connection); // one, for speed
     connection->exec(schema.readAll().constData());
     SQLite::Statement common(connection->database(),
                              "insert into Common (weight, metabolicRate, Measurement, NextBodyID, "
@@ -38,6 +39,7 @@ inline void makeEmptyJournal(const QString &path)
                              "installDate) values (70, 59, 'M', 1, 1, 1, 1, ?)");
     bindValue(common, 1, Value(QDate(2026, 1, 1)));
     common.exec();
+    transaction.commit();
 }
 
 /// An open session on such a file; today is Wednesday, 22 July 2026, 12:30.

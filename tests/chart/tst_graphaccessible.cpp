@@ -154,4 +154,4 @@ void TestGraphAccessible::childrenFollowTheItems()
 }
 
 QTEST_MAIN(TestGraphAccessible)
-#include "test_graphaccessible.moc"
+#include "tst_graphaccessible.moc"

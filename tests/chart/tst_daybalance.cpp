@@ -115,4 +115,4 @@ void TestDayBalance::outlierIsLimited()
 }
 
 QTEST_APPLESS_MAIN(TestDayBalance)
-#include "test_daybalance.moc"
+#include "tst_daybalance.moc"

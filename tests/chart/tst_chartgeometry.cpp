@@ -359,4 +359,4 @@ void TestChartGeometry::noRoomAtAll()
 }
 
 QTEST_APPLESS_MAIN(TestChartGeometry)
-#include "test_chartgeometry.moc"
+#include "tst_chartgeometry.moc"

@@ -101,4 +101,4 @@ void TestChartNavigation::shiftsTheFreePlace()
 }
 
 QTEST_APPLESS_MAIN(TestChartNavigation)
-#include "test_chartnavigation.moc"
+#include "tst_chartnavigation.moc"
