@@ -6,6 +6,7 @@
 #include <QDateEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +47,7 @@ private slots:
     void tellsOfTheOtherNoteAndLosesAnIdentifier();
     void editedNoteDoesNotOverlapItself();
     void refusedStoreLeavesTheInput();
+    void messageOfALongNoteFitsTheScreen();
 
 private:
     bool edit(qint32 id, const std::function<void(QWidget &)> &steps);
@@ -258,6 +260,29 @@ void tst_notes::refusedStoreLeavesTheInput()
         press(dialog, "btnOK");
     }));
     QCOMPARE(stored(), QStringList{u"3|22|22|new"_s});
+}
+
+void tst_notes::messageOfALongNoteFitsTheScreen()
+{
+    addNote(9, 22, 22, u"A line of a note.\n"_s.repeated(300));
+    MessageBoxes boxes;
+    frmUserNote editor(*m_journal->session, boxes);
+    inDialog(
+        "frmUserNote", [&] { editor.run(0); },
+        [&](QWidget &dialog) {
+            typeInto(control<QPlainTextEdit>(dialog, "txtNote"), u"new"_s);
+            inDialog(
+                "message", [&] { press(dialog, "btnOK"); },
+                [](QWidget &message) {
+                    QCOMPARE(message.windowTitle(), u"Intersection"_s);
+                    QVERIFY(message.height() < message.screen()->availableSize().height());
+                    auto &text = control<QPlainTextEdit>(message, "text");
+                    QVERIFY(text.toPlainText().endsWith(u"smaller pieces"));
+                    QTest::keyClick(&message, Qt::Key_Return);
+                    QVERIFY(!message.isVisible());
+                });
+        });
+    QCOMPARE(stored().size(), 1);
 }
 
 QTEST_MAIN(tst_notes)
