@@ -42,8 +42,6 @@ private slots:
     void keepsEveryCharacterOfAStoredNote();
     void refusesWhatIsIncomplete_data();
     void refusesWhatIsIncomplete();
-    void periodsNeverShareADay_data();
-    void periodsNeverShareADay();
     void tellsOfTheOtherNoteAndLosesAnIdentifier();
     void editedNoteDoesNotOverlapItself();
     void refusedStoreLeavesTheInput();
@@ -169,39 +167,6 @@ void tst_notes::refusesWhatIsIncomplete()
     QCOMPARE(m_messages.said.front().title, u"Error"_s);
     QCOMPARE(m_messages.said.front().text, message);
     QCOMPARE(counter(), u"1"_s);
-}
-
-void tst_notes::periodsNeverShareADay_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<bool>("fits");
-
-    // The stored note goes from the 10th to the 14th.
-    QTest::newRow("ends the day before") << 6 << 9 << true;
-    QTest::newRow("begins the day after") << 15 << 15 << true;
-    QTest::newRow("ends on its first day") << 6 << 10 << false;
-    QTest::newRow("begins on its last day") << 14 << 18 << false;
-    QTest::newRow("lies inside") << 11 << 13 << false;
-    QTest::newRow("contains it") << 9 << 15 << false;
-    QTest::newRow("the same days") << 10 << 14 << false;
-}
-
-void tst_notes::periodsNeverShareADay()
-{
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(bool, fits);
-    addNote(9, 10, 14, u"other"_s);
-    const bool isStored = edit(0, [&](QWidget &dialog) {
-        setPeriod(dialog, from, to);
-        typeInto(control<QPlainTextEdit>(dialog, "txtNote"), u"new"_s);
-        press(dialog, "btnOK");
-        QCOMPARE(dialog.isVisible(), !fits);
-    });
-    QCOMPARE(isStored, fits);
-    QCOMPARE(stored().size(), fits ? 2 : 1);
-    QCOMPARE(m_messages.said.empty(), fits);
 }
 
 void tst_notes::tellsOfTheOtherNoteAndLosesAnIdentifier()

@@ -132,6 +132,9 @@ void tst_common::unitSwitchKeepsTheWeight()
         QCOMPARE(control<QLabel>(dialog, "lblWeightUnit").text(), u"kg"_s);
         QCOMPARE(field(dialog, "txtWeight"), u"150"_s);
         QCOMPARE(field(dialog, "txtMetabolicRate"), u"88"_s); // (150 x 8.7 + 830) / 24
+        choose(dialog, imperialItem);
+        QCOMPARE(field(dialog, "txtMetabolicRate"), u"59"_s); // 150 lb are 68.04 kg
+        choose(dialog, metricItem);
         press(dialog, "btnOK");
     }));
     QCOMPARE(stored(), u"150|88|M"_s);
