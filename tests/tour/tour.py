@@ -14,7 +14,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
-from drive import Program, wait_for  # noqa: E402
+from drive import Program, wait_for, xdotool  # noqa: E402
 
 STEPS = []
 
@@ -109,7 +109,68 @@ def chart_follows(program):
 
 
 @step
+def measurements_and_notes(program):
+    program.menu("Operate", "Body Measurement and Notes")
+    window = program.window("Body Measurement and Notes")
+    check(window.find_all("label", "Weight (kg)"), f"no kilograms:\n{window.outline()}")
+
+
+@step
+def new_measurement(program):
+    window = program.window("Body Measurement and Notes")
+    window.find_all("push button", "New")[0].press()
+    editor = program.window("Body Measurement - New")
+    for field, text in {"Weight": "72.1", "Breast": "95", "Waist": "82.5", "Hips": "101"}.items():
+        editor.find("text", field).type(text)
+    editor.find("push button", "OK").press()
+    question = program.message()
+    check(question.name == "Same date", f"the question is titled {question.name!r}")
+
+
+@step
+def measurement_replaced(program):
+    program.answer("Yes")
+    window = program.window("Body Measurement and Notes")
+    wait_for(lambda: "82.5" in window.outline(), "the new measurement in the list")
+
+
+@step
+def new_note(program):
+    window = program.window("Body Measurement and Notes")
+    window.find_all("push button", "New")[1].press()
+    editor = program.window("User Note - New")
+    editor.find("text", "User Note Text").type("Began to jog.")
+    program.keys("Return")
+    xdotool("type", "--delay", 20, "Ten minutes by the river, and I am still alive.")
+
+
+@step
+def notes_intersect(program):
+    program.keys("ctrl+Return")
+    refusal = program.message()
+    check(refusal.name == "Intersection", f"the message is titled {refusal.name!r}")
+    said = program.text_of(refusal)
+    check("old jeans" in said and "not allowed" in said, f"the message is {said!r}")
+
+
+@step
+def note_stored(program):
+    program.answer("OK")
+    editor = program.window("User Note - New")
+    for picker in editor.find_all("spin button"):
+        picker.focus()
+        program.keys("End", "Up")  # the year
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    window = program.window("Body Measurement and Notes")
+    wait_for(lambda: "Began to jog. Ten" in window.outline(), "the new note in the list")
+
+
+@step
 def previous_day(program):
+    window = program.window("Body Measurement and Notes")
+    program.keys("Escape")
+    program.gone(window)
     before = date_shown(program)
     main_window(program).find("push button", "Previous").press()
     wait_for(lambda: date_shown(program) != before, "the day before to be shown")
