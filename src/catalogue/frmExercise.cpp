@@ -53,6 +53,8 @@ QLayout *frmExercise::makeForm()
     form->addWidget(txtDefaultQty, 3, 1);
     form->addWidget(makeLabel(tr("&Unit"), txtUnit), 4, 0);
     form->addWidget(txtUnit, 4, 1);
+    // The label beside them grows with the box ticked, and not at their expense.
+    form->setColumnMinimumWidth(1, fontMetrics().averageCharWidth() * 16);
     form->setColumnStretch(2, 1);
     return form;
 }
