@@ -167,10 +167,48 @@ def note_stored(program):
 
 
 @step
+def add_activity(program):
+    program.menu("Operate", "Add Activity")
+    dialog = program.window("Activity Performed - New")
+    dialog.find("combo box", "Activity").choose("Walking the dog")
+    dialog.find("combo box", "Activity").focus()
+    program.keys("Tab", "Tab", *"0610", "Tab", *"0640")
+
+
+@step
+def activity_stored(program):
+    dialog = program.window("Activity Performed - New")
+    dialog.find("push button", "Add").press()
+    quantity = dialog.find("text", "Quantity")
+    wait_for(lambda: quantity.text == "", "the form to be cleared for the next activity")
+    dialog.find("push button", "Close").press()
+    program.gone(dialog)
+
+
+@step
+def meals_of_the_day(program):
+    program.menu("Operate", "Meal Consumed List")
+    rows = [cell.name for cell in program.window("Meal Consumed List").find_all("table cell")]
+    check("Banana" in rows, f"the banana is missing in {rows}")
+
+
+@step
+def activities_of_the_day(program):
+    program.keys("Escape")
+    program.menu("Operate", "Activities Performed List")
+    rows = [cell.name for cell in
+            program.window("Activities Performed List").find_all("table cell")]
+    check("06:10" in rows and "06:40" in rows, f"the walk is missing in {rows}")
+
+
+@step
 def previous_day(program):
     window = program.window("Body Measurement and Notes")
     program.keys("Escape")
     program.gone(window)
+
+
+    program.keys("Escape")
     before = date_shown(program)
     main_window(program).find("push button", "Previous").press()
     wait_for(lambda: date_shown(program) != before, "the day before to be shown")
