@@ -11,7 +11,7 @@ namespace {
 
 constexpr int queryRounds = 200;
 
-// Through the result set, every value read as a window would, and through the bare engine.
+// The rows read into a result set, and stepped through with the bare engine.
 void compareQuery(Table &table, const QString &what, deData &data, Recordset &rows,
                   const QList<int> &parameters)
 {

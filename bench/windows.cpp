@@ -159,6 +159,7 @@ void measureAddMode(Table &table, Program &program)
 
 } // namespace
 
+// A further window gets a function above and a line here.
 void measureWindows(Table &table, const QString &fullJournal)
 {
     Program program(fullJournal);

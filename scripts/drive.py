@@ -79,6 +79,14 @@ class Element:
     def showing(self):
         return self.is_in(Atspi.StateType.SHOWING)
 
+    @property
+    def is_checked(self):
+        return self.is_in(Atspi.StateType.CHECKED)
+
+    @property
+    def description(self):
+        return self.accessible.get_description() or ""
+
     def children(self):
         count = self.accessible.get_child_count()
         found = (self.accessible.get_child_at_index(i) for i in range(count))

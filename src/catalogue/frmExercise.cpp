@@ -53,6 +53,8 @@ QLayout *frmExercise::makeForm()
     form->addWidget(txtDefaultQty, 3, 1);
     form->addWidget(makeLabel(tr("&Unit"), txtUnit), 4, 0);
     form->addWidget(txtUnit, 4, 1);
+    // The label beside them grows with the box ticked, and not at their expense.
+    form->setColumnMinimumWidth(1, fontMetrics().averageCharWidth() * 16);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -71,7 +73,8 @@ void frmExercise::makeConnections()
 {
     connect(txtCaloriesConsume, &QLineEdit::textChanged, this,
             [this] { m_caloriesChanged = true; });
-    connect(chkWeightDependent, &QCheckBox::clicked, this, [this] {
+    // Not clicked(): screen readers toggle the box.
+    connect(chkWeightDependent, &QCheckBox::toggled, this, [this] {
         m_caloriesChanged = true;
         showDependence();
     });

@@ -50,6 +50,7 @@ void frmMeal::makeControls()
 QLayout *frmMeal::makeForm()
 {
     lblCalories = makeLabel(QString(), txtCalories);
+    lblCalories->setObjectName(QStringLiteral("lblCalories"));
     showCaloriesLabel();
 
     auto *form = new QGridLayout;

@@ -41,6 +41,8 @@ void frmMeals::load()
     loadCategories();
     if (dcbMealCategory->count() > 0)
         dcbMealCategory->setBoundValue(dcbMealCategory->itemData(0).toInt());
+    // The names of another category may be longer.
+    resize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 110, 0}));
 }
 
 void frmMeals::loadCategories()

@@ -68,7 +68,8 @@ void frmWeightAdjustment::accept()
             adjustedCalories(*text.toDouble(txtCaloriesConsume->text()),
                              *text.toDouble(txtWeight->text()), session().parameters().weight);
     } catch (const OverflowError &) {
-        refuse(txtCaloriesConsume, tr("The calories for your weight are beyond 32767"));
+        refuse(txtCaloriesConsume,
+               tr("The calories for your weight are out of range (-32768 to 32767)"));
         return;
     }
     m_ok = true;

@@ -57,6 +57,7 @@ frmMeasurements::frmMeasurements(Session &session, Messages &messages, QWidget *
     panes->setHandleWidth(2 * fontMetrics().averageCharWidth());
     panes->addWidget(makeMeasurementPane());
     panes->addWidget(makeNotePane());
+    panes->widget(0)->lower();     // read first; a splitter puts each before those it has
     panes->setStretchFactor(1, 1); // the notes take what the measurements don't need
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(makeDateRow());

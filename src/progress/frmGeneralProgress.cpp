@@ -1,9 +1,9 @@
 #include "progress/frmGeneralProgress.h"
 
-#include "help/helpkey.h"
 #include "progress/ProgressChart.h"
 #include "progress/progresspages.h"
 #include "session/session.h"
+#include "ui/helpbutton.h"
 #include "ui/listmodel.h"
 #include "ui/messages.h"
 #include "ui/paper.h"
@@ -18,6 +18,7 @@
 #include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTabWidget>
@@ -32,7 +33,7 @@ namespace {
 
 constexpr double paperPoints = 9;
 constexpr int sideWidth = 16; // in lines of text
-constexpr int dayLines = 8;   // of text, so that the list below stands still
+constexpr int dayLines = 9;   // of text, so that the list below stands still
 
 QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent)
 {
@@ -60,7 +61,7 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     , btnSave(makeButton(QStringLiteral("btnSave"), tr("&Save Picture"), this))
     , btnCopy(makeButton(QStringLiteral("btnCopy"), tr("C&opy Table"), this))
     , btnClose(makeButton(QStringLiteral("btnClose"), tr("C&lose"), this))
-    , btnHelp(makeButton(QStringLiteral("btnHelp"), tr("&Help"), this))
+    , btnHelp(makeHelpButton(this))
 {
     setObjectName(QStringLiteral("frmGeneralProgress"));
     setWindowTitle(tr("General Progress"));
@@ -96,7 +97,6 @@ QWidget *frmGeneralProgress::makeSide()
     auto *side = new QWidget;
     side->setMinimumWidth(11 * line);
     lblDay->setObjectName(QStringLiteral("lblDay"));
-    lblDay->setAccessibleName(tr("The day pointed at"));
     lblDay->setTextFormat(Qt::RichText);
     lblDay->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblDay->setWordWrap(true);
@@ -199,8 +199,10 @@ void frmGeneralProgress::makeConnections()
     connect(btnPrint, &QPushButton::clicked, this, &frmGeneralProgress::print);
     connect(btnSave, &QPushButton::clicked, this, &frmGeneralProgress::save);
     connect(btnCopy, &QPushButton::clicked, this, &frmGeneralProgress::copyTable);
+    auto *copyKey = new QShortcut(QKeySequence::Copy, lvwDays);
+    copyKey->setContext(Qt::WidgetShortcut);
+    connect(copyKey, &QShortcut::activated, this, &frmGeneralProgress::copyTable);
     connect(btnClose, &QPushButton::clicked, this, &QDialog::reject);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
 }
 
 void frmGeneralProgress::sizeToScreen()

@@ -1,6 +1,5 @@
 #include "progress/frmGeneralProgressSettings.h"
 
-#include "help/helpkey.h"
 #include "session/session.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
@@ -9,32 +8,24 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 using namespace progress;
 
 frmGeneralProgressSettings::frmGeneralProgressSettings(Session &session, Messages &messages,
                                                        QWidget *parent)
-    : QDialog(parent)
-    , m_session(session)
-    , m_messages(messages)
+    : FormDialog(session, messages, QStringLiteral("frmGeneralProgressSettings"),
+                 tr("General Progress Parameters"), parent)
     , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
     , opt1Month(makeLength(QStringLiteral("opt1Month"), tr("&1 Month")))
     , opt3Month(makeLength(QStringLiteral("opt3Month"), tr("&3 Months")))
     , opt6Month(makeLength(QStringLiteral("opt6Month"), tr("&6 Months")))
 {
-    setObjectName(QStringLiteral("frmGeneralProgressSettings"));
-    setWindowTitle(tr("General Progress Parameters"));
     dtpDate->setAccessibleName(tr("Date From"));
     dtpDate->setDate(session.currentDate().addMonths(-1));
     opt3Month->setChecked(true);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(makeForm());
-    layout->addStretch();
-    layout->addLayout(makeButtons());
-    dtpDate->setFocus();
+    setForm(makeForm());
+    focusFirstField();
 }
 
 QRadioButton *frmGeneralProgressSettings::makeLength(const QString &name, const QString &caption)
@@ -44,12 +35,10 @@ QRadioButton *frmGeneralProgressSettings::makeLength(const QString &name, const 
     return option;
 }
 
-QBoxLayout *frmGeneralProgressSettings::makeForm()
+QLayout *frmGeneralProgressSettings::makeForm()
 {
-    auto *label = new QLabel(tr("&Date From"), this);
-    label->setBuddy(dtpDate);
     auto *date = new QHBoxLayout;
-    date->addWidget(label);
+    date->addWidget(makeLabel(tr("&Date From"), dtpDate));
     date->addWidget(dtpDate, 1);
 
     auto *length = new QGroupBox(tr("For Period"), this);
@@ -63,27 +52,6 @@ QBoxLayout *frmGeneralProgressSettings::makeForm()
     return form;
 }
 
-QBoxLayout *frmGeneralProgressSettings::makeButtons()
-{
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    const auto add = [&](const QString &name, const QString &caption) {
-        auto *button = new QPushButton(caption, this);
-        button->setObjectName(name);
-        buttons->addWidget(button);
-        return button;
-    };
-    auto *btnOK = add(QStringLiteral("btnOK"), tr("&OK"));
-    btnOK->setDefault(true);
-    auto *btnCancel = add(QStringLiteral("btnCancel"), tr("&Cancel"));
-    auto *btnHelp = add(QStringLiteral("btnHelp"), tr("&Help"));
-    btnHelp->setAutoDefault(false);
-    connect(btnOK, &QPushButton::clicked, this, &frmGeneralProgressSettings::accept);
-    connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
-    return buttons;
-}
-
 qint16 frmGeneralProgressSettings::chosenMonths() const
 {
     if (opt1Month->isChecked())
@@ -93,13 +61,13 @@ qint16 frmGeneralProgressSettings::chosenMonths() const
 
 bool frmGeneralProgressSettings::wantsChartAnyway(const QString &question)
 {
-    return m_messages.ask(this, tr("Not enough data"), question);
+    return messages().ask(this, tr("Not enough data"), question);
 }
 
 void frmGeneralProgressSettings::accept()
 {
     m_period = periodOfMonths(dtpDate->date(), chosenMonths());
-    deData &store = m_session.data();
+    deData &store = session().data();
     const Coverage coverage = checkCoverage(store, m_period);
     if (!coverage.isEnough &&
         !wantsChartAnyway(tr("Present data cover less then 30% of selected time period. The Chart "

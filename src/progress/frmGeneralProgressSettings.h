@@ -2,18 +2,14 @@
 #pragma once
 
 #include "progress/progressperiod.h"
+#include "ui/formdialog.h"
 
-#include <QDialog>
-
-class Messages;
-class QBoxLayout;
 class QDateEdit;
 class QRadioButton;
-class Session;
 
 /// Asks for the first day and for a length of one, three or six months, and warns where the
 /// journal holds little in that period.
-class frmGeneralProgressSettings : public QDialog
+class frmGeneralProgressSettings : public FormDialog
 {
     Q_OBJECT
 
@@ -27,13 +23,10 @@ public:
 private:
     void accept() override;
     QRadioButton *makeLength(const QString &name, const QString &caption);
-    QBoxLayout *makeForm();
-    QBoxLayout *makeButtons();
+    QLayout *makeForm();
     qint16 chosenMonths() const;
     bool wantsChartAnyway(const QString &question);
 
-    Session &m_session;
-    Messages &m_messages;
     QDateEdit *dtpDate;
     QRadioButton *opt1Month;
     QRadioButton *opt3Month;

@@ -102,9 +102,8 @@ QString LocaleText::toText(float value) const
 
 QString LocaleText::toText(const Value &value) const
 {
-    const QString text = value.toText();
     const bool isText = std::holds_alternative<QString>(value.storage());
-    return isText ? text : QString(text).replace(u'.', m_locale.decimalPoint());
+    return isText ? value.toText() : localized(value.toText());
 }
 
 QString LocaleText::listTime(QTime time) const

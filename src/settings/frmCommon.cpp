@@ -42,10 +42,9 @@ frmCommon::frmCommon(Session &session, Messages &messages, QWidget *parent)
                  tr("The Background Calories Consume is not specified or specified incorrect"));
 
     connect(txtWeight, &QLineEdit::textChanged, this, &frmCommon::UpdateBackgroundCalories);
-    connect(cbxMeasurement, &QComboBox::currentIndexChanged, this, [this] {
-        UpdateBackgroundCalories();
-        ShowWeightUnit();
-    });
+    connect(cbxMeasurement, &QComboBox::currentIndexChanged, this, &frmCommon::unitPicked);
+    // Picking the item that is shown already computes anew, too.
+    connect(cbxMeasurement, &QComboBox::activated, this, &frmCommon::unitPicked);
 }
 
 QLayout *frmCommon::makeForm()
@@ -95,6 +94,12 @@ void frmCommon::Populate()
 bool frmCommon::isMetricChosen() const
 {
     return cbxMeasurement->currentIndex() == metricItem;
+}
+
+void frmCommon::unitPicked()
+{
+    UpdateBackgroundCalories();
+    ShowWeightUnit();
 }
 
 void frmCommon::UpdateBackgroundCalories()

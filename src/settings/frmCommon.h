@@ -34,6 +34,7 @@ protected:
 private:
     QLayout *makeForm();
     bool isMetricChosen() const;
+    void unitPicked();
     void UpdateBackgroundCalories();
     void ShowWeightUnit();
 

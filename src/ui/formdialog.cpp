@@ -1,7 +1,7 @@
 #include "ui/formdialog.h"
 
-#include "help/helpkey.h"
 #include "session/session.h"
+#include "ui/helpbutton.h"
 #include "ui/messages.h"
 
 #include <QHBoxLayout>
@@ -101,12 +101,9 @@ QLayout *FormDialog::makeButtons()
     btnOK->setDefault(true);
     btnCancel = new QPushButton(tr("&Cancel"), this);
     btnCancel->setObjectName(QStringLiteral("btnCancel"));
-    btnHelp = new QPushButton(tr("&Help"), this);
-    btnHelp->setObjectName(QStringLiteral("btnHelp"));
-    btnHelp->setAutoDefault(false);
+    btnHelp = makeHelpButton(this);
     connect(btnOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(btnHelp, &QPushButton::clicked, this, [this] { sendHelpKey(this); });
 
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();

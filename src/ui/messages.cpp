@@ -42,10 +42,12 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
                     const QString &text)
 {
     QDialog box(parent);
+    box.setObjectName(QStringLiteral("message"));
     box.setWindowTitle(title);
     auto *picture = new QLabel(&box);
     picture->setPixmap(QMessageBox(icon, {}, {}).iconPixmap());
     auto *quoted = new QPlainTextEdit(withPlainLineFeeds(text), &box);
+    quoted->setObjectName(QStringLiteral("text"));
     quoted->setReadOnly(true);
     quoted->setTabChangesFocus(true);
     quoted->setAccessibleName(title);

@@ -1,7 +1,7 @@
 #include "ui/recordlist.h"
 
 #include "data/storeerror.h"
-#include "help/helpkey.h"
+#include "ui/helpbutton.h"
 #include "ui/messages.h"
 
 #include <QHBoxLayout>
@@ -104,11 +104,7 @@ void RecordList::setNames(const Names &names)
 
 void RecordList::addHelpButton()
 {
-    auto *help = new QPushButton(tr("&Help"), this);
-    help->setObjectName(QStringLiteral("btnHelp"));
-    help->setAutoDefault(false);
-    connect(help, &QPushButton::clicked, this, [this] { sendHelpKey(window()); });
-    m_buttons->addWidget(help);
+    m_buttons->addWidget(makeHelpButton(this));
 }
 
 void RecordList::setAccessKeysActive(bool active)

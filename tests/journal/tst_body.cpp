@@ -58,8 +58,6 @@ private slots:
     void yesReplacesTheOther();
     void otherStaysDeletedWhenTheStoreFails();
     void refusesARecordThatIsGone();
-    void stopsAtTheEndOfTheIdentifiers();
-    void cancelStoresNothing();
 
 private:
     // Opens the editor, does the steps; whether something was stored.
@@ -264,29 +262,6 @@ void tst_body::refusesARecordThatIsGone()
         QCOMPARE(m_messages.takeText(), refused);
     }));
     QCOMPARE(stored(), u"10|0|80|100|90|95|M"_s);
-}
-
-void tst_body::stopsAtTheEndOfTheIdentifiers()
-{
-    m_journal->exec("update Common set NextBodyID = 32767");
-    QVERIFY(!edit(0, [this](QWidget &dialog) {
-        enter(dialog, {u"70"_s, u"98"_s, u"85"_s, u"94"_s});
-        press(dialog, "btnOK");
-        QCOMPARE(m_messages.takeText(), refused);
-    }));
-    QCOMPARE(stored(), QString());
-    QCOMPARE(m_journal->row("select NextBodyID from Common"), u"32768"_s);
-}
-
-void tst_body::cancelStoresNothing()
-{
-    addMeasurement(10, 0);
-    QVERIFY(!edit(10, [](QWidget &dialog) {
-        typeInto(control<QLineEdit>(dialog, "txtWeight"), u"1"_s);
-        press(dialog, "btnCancel");
-    }));
-    QCOMPARE(stored(), u"10|0|80|100|90|95|M"_s);
-    QCOMPARE(m_storedId, 0);
 }
 
 QTEST_MAIN(tst_body)

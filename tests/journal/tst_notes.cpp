@@ -6,6 +6,7 @@
 #include <QDateEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -41,11 +42,10 @@ private slots:
     void keepsEveryCharacterOfAStoredNote();
     void refusesWhatIsIncomplete_data();
     void refusesWhatIsIncomplete();
-    void periodsNeverShareADay_data();
-    void periodsNeverShareADay();
     void tellsOfTheOtherNoteAndLosesAnIdentifier();
     void editedNoteDoesNotOverlapItself();
     void refusedStoreLeavesTheInput();
+    void messageOfALongNoteFitsTheScreen();
 
 private:
     bool edit(qint32 id, const std::function<void(QWidget &)> &steps);
@@ -169,39 +169,6 @@ void tst_notes::refusesWhatIsIncomplete()
     QCOMPARE(counter(), u"1"_s);
 }
 
-void tst_notes::periodsNeverShareADay_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<bool>("fits");
-
-    // The stored note goes from the 10th to the 14th.
-    QTest::newRow("ends the day before") << 6 << 9 << true;
-    QTest::newRow("begins the day after") << 15 << 15 << true;
-    QTest::newRow("ends on its first day") << 6 << 10 << false;
-    QTest::newRow("begins on its last day") << 14 << 18 << false;
-    QTest::newRow("lies inside") << 11 << 13 << false;
-    QTest::newRow("contains it") << 9 << 15 << false;
-    QTest::newRow("the same days") << 10 << 14 << false;
-}
-
-void tst_notes::periodsNeverShareADay()
-{
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(bool, fits);
-    addNote(9, 10, 14, u"other"_s);
-    const bool isStored = edit(0, [&](QWidget &dialog) {
-        setPeriod(dialog, from, to);
-        typeInto(control<QPlainTextEdit>(dialog, "txtNote"), u"new"_s);
-        press(dialog, "btnOK");
-        QCOMPARE(dialog.isVisible(), !fits);
-    });
-    QCOMPARE(isStored, fits);
-    QCOMPARE(stored().size(), fits ? 2 : 1);
-    QCOMPARE(m_messages.said.empty(), fits);
-}
-
 void tst_notes::tellsOfTheOtherNoteAndLosesAnIdentifier()
 {
     addNote(9, 10, 14, u"Holiday\nin the mountains "_s);
@@ -258,6 +225,29 @@ void tst_notes::refusedStoreLeavesTheInput()
         press(dialog, "btnOK");
     }));
     QCOMPARE(stored(), QStringList{u"3|22|22|new"_s});
+}
+
+void tst_notes::messageOfALongNoteFitsTheScreen()
+{
+    addNote(9, 22, 22, u"A line of a note.\n"_s.repeated(300));
+    MessageBoxes boxes;
+    frmUserNote editor(*m_journal->session, boxes);
+    inDialog(
+        "frmUserNote", [&] { editor.run(0); },
+        [&](QWidget &dialog) {
+            typeInto(control<QPlainTextEdit>(dialog, "txtNote"), u"new"_s);
+            inDialog(
+                "message", [&] { press(dialog, "btnOK"); },
+                [](QWidget &message) {
+                    QCOMPARE(message.windowTitle(), u"Intersection"_s);
+                    QVERIFY(message.height() < message.screen()->availableSize().height());
+                    auto &text = control<QPlainTextEdit>(message, "text");
+                    QVERIFY(text.toPlainText().endsWith(u"smaller pieces"));
+                    QTest::keyClick(&message, Qt::Key_Return);
+                    QVERIFY(!message.isVisible());
+                });
+        });
+    QCOMPARE(stored().size(), 1);
 }
 
 QTEST_MAIN(tst_notes)

@@ -3,6 +3,7 @@
 #include "settings/frmCommon.h"
 #include "testjournal.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -109,8 +110,13 @@ void tst_common::everyKeystrokeEstimatesAnew()
         QTest::keyClicks(&weight, u"x"_s); // no number: nothing happens
         QCOMPARE(field(dialog, "txtMetabolicRate"), u"60"_s);
         QTest::keyClick(&weight, Qt::Key_Backspace);
-        typeInto(control<QLineEdit>(dialog, "txtMetabolicRate"),
-                 u"55,5"_s); // the user knows better
+        auto &rate = control<QLineEdit>(dialog, "txtMetabolicRate");
+        typeInto(rate, u"1"_s);
+        auto &units = control<QComboBox>(dialog, "cbxMeasurement");
+        units.showPopup();
+        QTest::keyClick(units.view(), Qt::Key_Return); // the item shown already
+        QCOMPARE(rate.text(), u"60"_s);
+        typeInto(rate, u"55,5"_s); // the user knows better
         press(dialog, "btnOK");
     }));
     QCOMPARE(stored(), u"71|55.5|M"_s);
@@ -126,6 +132,9 @@ void tst_common::unitSwitchKeepsTheWeight()
         QCOMPARE(control<QLabel>(dialog, "lblWeightUnit").text(), u"kg"_s);
         QCOMPARE(field(dialog, "txtWeight"), u"150"_s);
         QCOMPARE(field(dialog, "txtMetabolicRate"), u"88"_s); // (150 x 8.7 + 830) / 24
+        choose(dialog, imperialItem);
+        QCOMPARE(field(dialog, "txtMetabolicRate"), u"59"_s); // 150 lb are 68.04 kg
+        choose(dialog, metricItem);
         press(dialog, "btnOK");
     }));
     QCOMPARE(stored(), u"150|88|M"_s);

@@ -1,9 +1,10 @@
 // Stored data brought into line with the common parameters.
 #include "settings/recalculation.h"
-#include "settings/units.h"
 #include "testjournal.h"
 
 #include <QTest>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -32,8 +33,6 @@ private slots:
     void convertsMeasurements();
     void convertsTheDeliveredJournal();
     void scalesActivitiesFromTheirBase();
-    void estimatesBackgroundCalories_data();
-    void estimatesBackgroundCalories();
 };
 
 void tst_recalculation::convertsMeasurements_data()
@@ -127,25 +126,6 @@ void tst_recalculation::scalesActivitiesFromTheirBase()
     QCOMPARE(calories(), u"3.130512 5.0"_s); // 3 x 71 / 68.04, from the base and not from 6
     recalculateStoredData(*journal.data, metricUser(0));
     QCOMPARE(calories(), u"0.0 5.0"_s);
-}
-
-void tst_recalculation::estimatesBackgroundCalories_data()
-{
-    QTest::addColumn<double>("weight");
-    QTest::addColumn<bool>("metric");
-    QTest::addColumn<double>("perHour");
-
-    QTest::newRow("a digit typed") << 7.0 << true << 37.0;
-    QTest::newRow("70 kg") << 70.0 << true << 59.0;
-    QTest::newRow("150 lb") << 150.0 << false << 59.0;
-    QTest::newRow("below zero rounds down") << -200.0 << true << -38.0;
-}
-
-void tst_recalculation::estimatesBackgroundCalories()
-{
-    QFETCH(double, weight);
-    QFETCH(bool, metric);
-    QTEST(units::backgroundCalories(weight, metric), "perHour");
 }
 
 QTEST_APPLESS_MAIN(tst_recalculation)

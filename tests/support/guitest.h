@@ -70,6 +70,14 @@ inline void typeInto(QWidget &field, const QString &text)
         QTest::keyClicks(&field, text);
 }
 
+/// Gives a window the focus, as a window manager would.
+inline void activate(QWidget &window)
+{
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("%s does not get the focus", qPrintable(window.objectName()));
+}
+
 /// A key as it comes from the keyboard: to the open popup or else the widget that has the focus.
 inline void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                      const QString &text = {})
@@ -94,7 +102,7 @@ inline void typeKeys(const QString &text)
 }
 
 /// Runs `open`, which shows a modal dialog of the given name, and `steps` on that dialog as soon
-/// as it is visible; a dialog that the steps leave open is rejected. Dialogs may be nested: call
+/// as it has the focus; a dialog that the steps leave open is rejected. Dialogs may be nested: call
 /// it again from within the steps. Fails where the dialog does not appear within five seconds.
 inline void inDialog(const char *name, const std::function<void()> &open,
                      const std::function<void(QWidget &)> &steps)
@@ -113,6 +121,7 @@ inline void inDialog(const char *name, const std::function<void()> &open,
         }
         poll.stop();
         appeared = true;
+        activate(*dialog);
         steps(*dialog);
         if (dialog->isVisible())
             dialog->close();
@@ -120,4 +129,6 @@ inline void inDialog(const char *name, const std::function<void()> &open,
     poll.start(5);
     open();
     QVERIFY2(appeared, name);
+    if (QWidget *opener = QApplication::activeModalWidget())
+        activate(*opener);
 }

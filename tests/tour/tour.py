@@ -14,7 +14,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
-from drive import Program, wait_for  # noqa: E402
+from drive import Program, wait_for, xdotool  # noqa: E402
 
 STEPS = []
 
@@ -42,6 +42,18 @@ def meals_in_chart(program):
     """What the chart tells of its meals: "Meal at 12:40, 73 kcal: carbohydrate 47, ..."."""
     chart = main_window(program).find("chart", "Daily calorie chart")
     return [meal.name for meal in chart.find_all("push button") if meal.name.startswith("Meal at ")]
+
+
+def progress_chart_in(window):
+    return wait_for(lambda: [e for e in window.descendants()
+                             if e.name.startswith("General progress chart")],
+                    "the progress chart")[0]
+
+
+def leave_window(program, title):
+    window = program.window(title)
+    program.keys("Escape")
+    program.gone(window)
 
 
 @step
@@ -97,6 +109,64 @@ def chart_follows(program):
 
 
 @step
+def measurements_and_notes(program):
+    program.menu("Operate", "Body Measurement and Notes")
+    window = program.window("Body Measurement and Notes")
+    check(window.find_all("label", "Weight (kg)"), f"no kilograms:\n{window.outline()}")
+
+
+@step
+def new_measurement(program):
+    window = program.window("Body Measurement and Notes")
+    window.find_all("push button", "New")[0].press()
+    editor = program.window("Body Measurement - New")
+    for field, text in {"Weight": "72.1", "Breast": "95", "Waist": "82.5", "Hips": "101"}.items():
+        editor.find("text", field).type(text)
+    editor.find("push button", "OK").press()
+    question = program.message()
+    check(question.name == "Same date", f"the question is titled {question.name!r}")
+
+
+@step
+def measurement_replaced(program):
+    program.answer("Yes")
+    window = program.window("Body Measurement and Notes")
+    wait_for(lambda: "82.5" in window.outline(), "the new measurement in the list")
+
+
+@step
+def new_note(program):
+    window = program.window("Body Measurement and Notes")
+    window.find_all("push button", "New")[1].press()
+    editor = program.window("User Note - New")
+    editor.find("text", "User Note Text").type("Began to jog.")
+    program.keys("Return")
+    xdotool("type", "--delay", 20, "Ten minutes by the river, and I am still alive.")
+
+
+@step
+def notes_intersect(program):
+    program.keys("ctrl+Return")
+    refusal = program.message()
+    check(refusal.name == "Intersection", f"the message is titled {refusal.name!r}")
+    said = program.text_of(refusal)
+    check("old jeans" in said and "not allowed" in said, f"the message is {said!r}")
+
+
+@step
+def note_stored(program):
+    program.answer("OK")
+    editor = program.window("User Note - New")
+    for picker in editor.find_all("spin button"):
+        picker.focus()
+        program.keys("End", "Up")  # the year
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    window = program.window("Body Measurement and Notes")
+    wait_for(lambda: "Began to jog. Ten" in window.outline(), "the new note in the list")
+
+
+@step
 def add_activity(program):
     program.menu("Operate", "Add Activity")
     dialog = program.window("Activity Performed - New")
@@ -133,6 +203,11 @@ def activities_of_the_day(program):
 
 @step
 def previous_day(program):
+    window = program.window("Body Measurement and Notes")
+    program.keys("Escape")
+    program.gone(window)
+
+
     program.keys("Escape")
     before = date_shown(program)
     main_window(program).find("push button", "Previous").press()
@@ -157,7 +232,134 @@ def date_set(program):
 
 
 @step
+def progress_parameters(program):
+    program.menu("Analyze", "General Progress")
+    dialog = program.window("General Progress Parameters")
+    check(dialog.find("radio button", "3 Months").is_checked, "3 months are not proposed")
+
+
+@step
+def too_little_for_six_months(program):
+    dialog = program.window("General Progress Parameters")
+    dialog.find("radio button", "6 Months").press()
+    dialog.find("push button", "OK").press()
+    question = program.message()
+    check(question.name == "Not enough data", f"the question is titled {question.name!r}")
+
+
+@step
+def progress_chart(program):
+    program.answer("No")
+    dialog = program.window("General Progress Parameters")
+    dialog.find("radio button", "1 Month").press()
+    dialog.find("push button", "OK").press()
+    program.gone(dialog)
+    chart = progress_chart_in(program.window("General Progress"))
+    check("Weight: -" in chart.name, f"the chart is called {chart.name!r}")
+    told = chart.description
+    program.keys("Left")
+    wait_for(lambda: chart.description != told, "the day before to be told of")
+
+
+@step
+def progress_table(program):
+    window = program.window("General Progress")
+    program.keys("alt+t")
+    window.find("push button", "Copy Table").press()
+
+
+@step
+def progress_closed(program):
+    window = program.window("General Progress")
+    window.find("push button", "Close").press()
+    program.gone(window)
+
+
+@step
+def meal_categories(program):
+    program.menu("Settings", "Meal Categories")
+    categories = program.window("Meal Categories")
+    check(categories.find_all("table cell", "Fruit") or categories.find_all("tree item", "Fruit"),
+          f"no fruit:\n{categories.outline()}")
+
+
+@step
+def new_category(program):
+    program.keys("Insert")
+    program.window("Meal Category - New").find("text", "Meal Category Name").type("Trail Food")
+
+
+@step
+def meals(program):
+    editor = program.window("Meal Category - New")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    leave_window(program, "Meal Categories")
+    program.menu("Settings", "Meal")
+    program.window("Meals").find("combo box", "Meal Category").choose("Nuts and Seeds")
+
+
+@step
+def new_meal(program):
+    program.window("Meals").find("push button", "New").press()
+    editor = program.window("Meal Description - New")
+    editor.find("combo box", "Meal Category").choose("Trail Food")
+    for field, text in {"Meal Name": "Summit mix", "Unit": "handful", "Default Qty": "1",
+                        "Increment": "0.5", "Fat by Weight": "10", "Carbohydrate by Weight": "20",
+                        "Protein by Weight": "5", "Calories per Unit": "250"}.items():
+        editor.find("text", field).type(text)
+    fat = editor.find("text", "Fat by Calories").text
+    check(fat == "118.4211", f"10 g of fat in 250 calories make {fat}")
+
+
+@step
+def meal_listed(program):
+    editor = program.window("Meal Description - New")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+    category = program.window("Meals").find("combo box", "Meal Category").name
+    check(category == "Trail Food", f"the list shows {category!r}")
+
+
+@step
+def activities(program):
+    leave_window(program, "Meals")
+    program.menu("Settings", "Activities")
+    program.window("Activities")
+
+
+@step
+def new_activity(program):
+    program.keys("Insert")
+    editor = program.window("Activity Description - New")
+    editor.find("check box", "Weight Dependent").press()
+    for field, text in {"Activity Name": "Log rolling", "Calories Consume": "450",
+                        "Default Qty": "0.5", "Unit": "hour"}.items():
+        editor.find("text", field).type(text)
+
+
+@step
+def weight_adjustment(program):
+    editor = program.window("Activity Description - New")
+    editor.find("push button", "For Me").press()
+    program.window("Weight Adjustment")
+
+
+@step
+def activity_listed(program):
+    calculator = program.window("Weight Adjustment")
+    calculator.find("push button", "OK").press()
+    program.gone(calculator)
+    editor = program.window("Activity Description - New")
+    calories = editor.find("text", "Calories Consume").text
+    check(calories == "463", f"450 calories for 68.04 kg are {calories} for 70 kg")
+    editor.find("push button", "OK").press()
+    program.gone(editor)
+
+
+@step
 def delete_trial_data(program):
+    leave_window(program, "Activities")
     program.menu("Operate", "Delete Trial Data")
     question = program.message()
     check(question.name == "Are you sure?", f"the question is titled {question.name!r}")
