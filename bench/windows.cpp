@@ -4,7 +4,9 @@
 #include "fulljournal.h"
 #include "guitest.h"
 #include "journal/frmMealConsume.h"
+#include "journal/frmMealConsumes.h"
 #include "measurements.h"
+#include "progress/frmGeneralProgress.h"
 #include "session/session.h"
 #include "table.h"
 #include "testjournal.h"
@@ -85,6 +87,60 @@ void measureDays(Table &table, Program &program)
     table.addTime(u"the next day, slowest of a year"_qs, times.back());
 }
 
+// Milliseconds from the start of `open`, which makes a modal dialog and runs it, to its picture on
+// the screen; the dialog is closed then.
+template<typename Open>
+double timeToPicture(Open open)
+{
+    QElapsedTimer timer;
+    timer.start();
+    double taken = 0;
+    QTimer::singleShot(0, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        dialog->repaint();
+        taken = double(timer.nsecsElapsed()) / 1e6;
+        dialog->close();
+    });
+    open();
+    return taken;
+}
+
+void measureDayList(Table &table, Program &program)
+{
+    program.session.setCurrentDate(dayOf200Meals);
+    Connection other(QString::fromStdString(program.data.Con.database().getFilename()));
+    BareStatement meals(other, commands::MealConsumeSorted.sql);
+    const int day = static_cast<int>(dayNumber(dayOf200Meals));
+    const auto ours = [&] {
+        return timeToPicture([&] {
+            frmMealConsumes(program.session, program.messages, program.window.get()).run();
+        });
+    };
+    const auto floor = [&] { return timed([&] { meals.run({day}); }); };
+    table.addRatio(u"list of a day of 200 meals opened and painted : its bare query"_qs, u"ms"_qs,
+                   compare(30, ours, floor));
+}
+
+// As many measurements and notes as the editors allow, one a day: with the full journal's nine the
+// picture would be of a journal that nobody can have.
+void measureProgress(Table &table, Program &program)
+{
+    program.data.run("delete from Body where BodyID not in"
+                     " (select min(BodyID) from Body group by DateMeasured)");
+    program.data.run("delete from UserNote where UserNoteID not in"
+                     " (select min(UserNoteID) from UserNote group by DateFrom)");
+    // Before the crowded days, whose balance no chart holds.
+    const QDate end = dayOf200Meals.addDays(-1);
+    const progress::Period period{end.addMonths(-6), end};
+    std::vector<double> times;
+    for (int i = 0; i < 20; ++i)
+        times.push_back(timeToPicture([&] {
+            frmGeneralProgress(program.session, program.messages, period, program.window.get())
+                .exec();
+        }));
+    table.addTime(u"six months of progress loaded and painted"_qs, median(times), 2 * frame);
+}
+
 // What the meal editor reads when it opens: the categories, then the meals of one.
 void measureEditor(Table &table, Program &program)
 {
@@ -93,17 +149,9 @@ void measureEditor(Table &table, Program &program)
     BareStatement row(other, commands::MealConsume.sql);
     BareStatement meals(other, commands::MealForCategory.sql);
     const auto ours = [&] {
-        QElapsedTimer timer;
-        timer.start();
-        double taken = 0;
-        frmMealConsume editor(program.session, program.messages, program.window.get());
-        QTimer::singleShot(0, &editor, [&] {
-            editor.repaint();
-            taken = double(timer.nsecsElapsed()) / 1e6;
-            editor.close();
+        return timeToPicture([&] {
+            frmMealConsume(program.session, program.messages, program.window.get()).run(500);
         });
-        editor.run(500);
-        return taken;
     };
     const auto floor = [&] {
         return timed([&] {
@@ -165,5 +213,7 @@ void measureWindows(Table &table, const QString &fullJournal)
     Program program(fullJournal);
     measureDays(table, program);
     measureEditor(table, program);
+    measureDayList(table, program);
     measureAddMode(table, program);
+    measureProgress(table, program);
 }
