@@ -168,6 +168,7 @@ def note_stored(program):
 
 @step
 def add_activity(program):
+    leave_window(program, "Body Measurement and Notes")
     program.menu("Operate", "Add Activity")
     dialog = program.window("Activity Performed - New")
     dialog.find("combo box", "Activity").choose("Walking the dog")
@@ -194,7 +195,7 @@ def meals_of_the_day(program):
 
 @step
 def activities_of_the_day(program):
-    program.keys("Escape")
+    leave_window(program, "Meal Consumed List")
     program.menu("Operate", "Activities Performed List")
     rows = [cell.name for cell in
             program.window("Activities Performed List").find_all("table cell")]
@@ -203,12 +204,7 @@ def activities_of_the_day(program):
 
 @step
 def previous_day(program):
-    window = program.window("Body Measurement and Notes")
-    program.keys("Escape")
-    program.gone(window)
-
-
-    program.keys("Escape")
+    leave_window(program, "Activities Performed List")
     before = date_shown(program)
     main_window(program).find("push button", "Previous").press()
     wait_for(lambda: date_shown(program) != before, "the day before to be shown")
