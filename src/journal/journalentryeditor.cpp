@@ -85,7 +85,7 @@ QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *figure = new QLabel(this);
     figure->setObjectName(name);
-    figure->setAccessibleName(caption);
+    label->setBuddy(figure); // a screen reader says the caption and then the figure
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QFont bold = figure->font();
     bold.setBold(true);
