@@ -102,7 +102,9 @@ std::vector<ItemLabel> mealLabels(const DayData &day, const std::vector<MealColu
             hangs ? column.bottom() + metrics.lineHeight + gap : column.top() - gap;
         // Between higher neighbours a label finds room only on the side of the lower one.
         const double half = room.sizeOf(text).width() / 2;
-        for (const double x : {column.center().x(), column.right() - half, column.left() + half}) {
+        const double middle = column.center().x();
+        for (const double x :
+             {middle, column.right() - half, column.left() + half, middle - half, middle + half}) {
             if (const auto rect = room.tryAbove(item, text, x, bottom)) {
                 labels.push_back({item, {*rect, text}});
                 break;
