@@ -130,7 +130,8 @@ void DataCombo::resolveText(const QString &text)
 {
     const int match = m_filter->sourceRowOf(text);
     if (match != currentIndex()) {
-        const QString shown = text;
+        // `text` may be the very text that setCurrentIndex replaces.
+        const QString shown = text; // NOLINT(performance-unnecessary-copy-initialization)
         const int cursor = lineEdit()->cursorPosition();
         const QSignalBlocker blocker(this);
         setCurrentIndex(match);
