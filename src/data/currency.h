@@ -41,7 +41,7 @@ public:
     /// The product of two decimals, rounded half to even at the fourth place.
     Currency operator*(Currency other) const;
 
-    constexpr auto operator<=>(const Currency &) const = default;
+    constexpr auto operator<=>(const Currency &) const = default; // NOLINT(modernize-use-nullptr)
 
 private:
     constexpr explicit Currency(qint64 units)
