@@ -1,5 +1,7 @@
-// The series of a period: what is stored, filled in, missing and too large.
+// A period, whether there is enough in it, and its series: what is stored, filled in, missing and
+// too large.
 #include "progress/progresstable.h"
+#include "progress/timemarks.h"
 #include "progresssamples.h"
 
 #include <QTest>
@@ -9,6 +11,7 @@ using namespace progress;
 namespace {
 
 const QDate firstDay(2026, 6, 1);
+const Period thirtyDays = {firstDay, firstDay.addDays(30)};
 constexpr double rate = 60;
 
 DaySeries load(ProgressJournal &journal, int count)
@@ -32,6 +35,57 @@ class TestProgressSeries : public QObject
     Q_OBJECT
 
 private slots:
+    void calendarMonths()
+    {
+        QCOMPARE(periodOfMonths(QDate(2026, 4, 22), 3).dateTo, QDate(2026, 7, 22));
+        QCOMPARE(periodOfMonths(QDate(2028, 1, 31), 1).dateTo, QDate(2028, 2, 29));
+        QCOMPARE(periodOfMonths(QDate(2026, 8, 31), 6).dateTo, QDate(2027, 2, 28));
+    }
+    void coverage()
+    {
+        ProgressJournal journal;
+        journal.addMeal(firstDay.addDays(-1), 100);
+        journal.addMeal(firstDay.addDays(31), 100);
+        journal.addNote(firstDay, firstDay.addDays(30), QStringLiteral("covers nothing"));
+        QVERIFY(checkCoverage(*journal.data, thirtyDays).minDt.isNull());
+
+        journal.addActivity(firstDay.addDays(3), 100);
+        journal.addMeasurement(firstDay.addDays(11), 70);
+        QVERIFY(!checkCoverage(*journal.data, thirtyDays).isEnough); // 8 days of 30
+        journal.addMeal(firstDay.addDays(12), 100);
+        const Coverage found = checkCoverage(*journal.data, thirtyDays);
+        QVERIFY(found.isEnough);
+        QCOMPARE(found.minDt, firstDay.addDays(3));
+        QCOMPARE(found.maxDt, firstDay.addDays(12));
+    }
+    void contiguity()
+    {
+        ProgressJournal journal;
+        const auto isContiguous = [&] {
+            return checkContiguity(*journal.data, checkCoverage(*journal.data, thirtyDays));
+        };
+        QVERIFY(!isContiguous());
+        for (const int day : {0, 0, 2})
+            journal.addMeal(firstDay.addDays(day), 100);
+        QVERIFY(!isContiguous()); // a day counts once
+        journal.addActivity(firstDay.addDays(1), 100);
+        QVERIFY(isContiguous());
+        journal.addMeasurement(firstDay.addDays(3), 70);
+        QVERIFY(!isContiguous()); // a day with nothing but a measurement
+    }
+    void monthsAndWeeks()
+    {
+        const Period period = {QDate(2026, 1, 31), QDate(2026, 3, 1)}; // a Saturday to a Sunday
+        const auto months = monthsOf(period);
+        QCOMPARE(months.size(), size_t(3));
+        QCOMPARE(months[0].lastDay, qint16(1));
+        QCOMPARE(months[1].lastDay, qint16(29));
+        QCOMPARE(months[2].firstDay, qint16(30));
+        QCOMPARE(weekStarts(period, QLocale(QLocale::German)),
+                 (std::vector<qint16>{3, 10, 17, 24}));
+        QCOMPARE(weekStarts(period, QLocale(QLocale::English, QLocale::UnitedStates)),
+                 (std::vector<qint16>{2, 9, 16, 23, 30}));
+    }
     void gaps()
     {
         for (const auto &[measured, expected] : std::vector<std::pair<QList<int>, const char *>>{
@@ -119,8 +173,7 @@ private slots:
         journal.addMeal(firstDay.addDays(6), rate * 24 + 100);
         const Summary found = summaryOf(load(journal, 8));
         QCOMPARE(found.change(Series::Weight), std::optional(-1.5));
-        QCOMPARE(found.change(Series::Breast), std::optional(-1.0)); // 0 is no value
-        QCOMPARE(found.change(Series::Hips), std::optional(0.0));
+        QCOMPARE(found.change(Series::Breast), std::optional(-1.0));  // 0 is no value
         QCOMPARE(found.averageBalance, std::optional(-150.0));        // over two days, not eight
         QVERIFY(!summaryOf(load(journal, 2)).change(Series::Weight)); // one tells of no change
     }
@@ -140,18 +193,18 @@ private slots:
     void dayInWords()
     {
         ProgressJournal journal;
-        journal.addMeasurement(firstDay, 150);
-        journal.addMeasurement(firstDay.addDays(2), 148);
+        journal.addMeasurement(firstDay, 150, 0);
+        journal.addMeasurement(firstDay.addDays(2), 148, 0);
         journal.addMeal(firstDay.addDays(1), rate * 24 - 500);
         journal.addNote(firstDay, firstDay.addDays(1), QStringLiteral("Holiday"));
-        const DaySeries series = load(journal, 5);
+        const DaySeries series = load(journal, 3);
         const ProgressTexts texts(journal.session->text(), false);
         QCOMPARE(texts.dayWords(series, 2),
                  QStringLiteral("Tuesday, 2 June 2026\nWeight: 223 lb (filled in)\n"
-                                "Breast: 135 inch (filled in)\nWaist: 120 inch (filled in)\n"
+                                "Breast: not measured\nWaist: 120 inch (filled in)\n"
                                 "Hips: 142.5 inch (filled in)\n"
                                 "Balance: -500 kcal, less eaten than burnt\nNote: A"));
-        QVERIFY(texts.dayWords(series, 5).endsWith(
+        QVERIFY(texts.dayWords(series, 3).endsWith(
             QStringLiteral("Balance: no meals or activities recorded")));
     }
 };
