@@ -7,8 +7,7 @@
 class ProgressJournal : public TestJournal
 {
 public:
-    explicit ProgressJournal(const QLocale &locale = QLocale(QLocale::English,
-                                                             QLocale::UnitedKingdom))
+    explicit ProgressJournal(const QLocale &locale = QLocale(QStringLiteral("en_GB")))
         : TestJournal(locale)
     {
         exec("insert into MealCategory (MealCategoryID, Name) values (1, 'Food');"
@@ -21,13 +20,13 @@ public:
     {
         add("Body values (%1, %2, %3, %4, %5, %6, 'M')", day, weight, breast, waist, hips);
     }
-    void addMeal(QDate day, double calories)
+    void addMeal(QDate day, double kcal)
     {
-        add("MealConsume values (%1, 1, %2, 0.5, %3)", day, calories);
+        add("MealConsume values (%1, 1, %2, 0.5, %3)", day, kcal);
     }
-    void addActivity(QDate day, double calories)
+    void addActivity(QDate day, double kcal)
     {
-        add("ExercisePerform values (%1, 1, %2, 0.5, 0.6, %3)", day, calories);
+        add("ExercisePerform values (%1, 1, %2, 0.5, 0.6, %3)", day, kcal);
     }
     void addNote(QDate from, QDate to, const QString &text)
     {
