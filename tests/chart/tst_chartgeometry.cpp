@@ -69,7 +69,7 @@ private slots:
     void balanceThroughTheDay()
     {
         const auto curve = balanceCurve(samples::typicalDay());
-        // 1.25 a minute all day; 430 at 7:30, 4 a minute more from 8:00 to 8:30, 1530 more by the evening.
+        // 1.25 a minute all day; 430 at 7:30, 4 a minute more from 8:00 to 8:30, 1530 later on.
         QCOMPARE(balanceAt(curve, 449), -561.25);
         QCOMPARE(balanceAt(curve, 450), 430 - 562.5);
         QCOMPARE(balanceAt(curve, 495), 430 - 618.75 - 60);
