@@ -1,36 +1,62 @@
-// Where things stand on the daily chart, and that what is seen is what is hit.
+// The balance of a day, where things stand on the daily chart, and that what is seen is what is
+// hit.
+#include "chart/charttexts.h"
 #include "chart/hittest.h"
 #include "samples.h"
 
 #include <QTest>
 
 using namespace daychart;
+using Kind = Target::Kind;
 
 namespace {
 
-QVector<QRectF> textRects(const ChartGeometry &geometry)
+/// In text 16 high of which every character is 8 wide, more in larger roles.
+ChartGeometry geometryOf(const DayData &day, const QRectF &area = {0, 0, 600, 400},
+                         bool clock24 = true, double scale = 1)
 {
-    QVector<QRectF> rects = {geometry.balanceEnd.rect};
-    for (const PlacedText &text : geometry.texts)
-        rects << text.rect;
-    for (const auto *labels : {&geometry.mealLabels, &geometry.activityLabels}) {
-        for (const ItemLabel &label : *labels)
-            rects << label.text.rect;
+    const auto width = [scale](const QString &text, TextRole role) {
+        return scale * (role == TextRole::Figure ? 11 : 8) * double(text.size());
+    };
+    return chartGeometry(day, area, {16 * scale, 22 * scale, width},
+                         ChartTexts(QLocale::c(), clock24));
+}
+
+DayData dayWithOutliers()
+{
+    DayData day = samples::typicalDay();
+    day.meals.push_back({14, QTime(20, 0), 15000, 10000, 5000});
+    day.activities.push_back({23, QTime(21, 0), QTime(21, 1), 30000});
+    return day;
+}
+
+std::vector<QRectF> textRects(const ChartGeometry &g)
+{
+    std::vector<QRectF> rects = {g.balanceEnd.rect};
+    for (const auto &texts : {g.texts, g.hints}) {
+        for (const PlacedText &text : texts)
+            rects.push_back(text.rect);
     }
-    for (const PlacedText &hint : geometry.hints)
-        rects << hint.rect;
+    for (const auto &labels : {g.mealLabels, g.activityLabels}) {
+        for (const ItemLabel &label : labels)
+            rects.push_back(label.text.rect);
+    }
     return rects;
 }
 
-bool overlap(const QRectF &a, const QRectF &b)
+/// Whether all of them lie in the area and none on another one.
+bool fit(const std::vector<QRectF> &rects, const QRectF &area)
 {
-    const QRectF common = a & b;
-    return common.width() > 0.01 && common.height() > 0.01;
-}
-
-bool within(const QRectF &inner, const QRectF &outer)
-{
-    return outer.adjusted(-0.51, -0.51, 0.51, 0.51).contains(inner);
+    for (size_t i = 0; i < rects.size(); ++i) {
+        if (!area.adjusted(-0.51, -0.51, 0.51, 0.51).contains(rects[i]))
+            return false;
+        for (size_t j = 0; j < i; ++j) {
+            const QRectF common = rects[i] & rects[j];
+            if (common.width() > 0.01 && common.height() > 0.01)
+                return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -40,323 +66,166 @@ class TestChartGeometry : public QObject
     Q_OBJECT
 
 private slots:
-    void everythingFits_data();
-    void everythingFits();
-    void itemsAreHitWhereTheyAre_data() { everythingFits_data(); }
-    void itemsAreHitWhereTheyAre();
-    void columnsAreStackedToScale();
-    void columnsStandAtTheirTimes();
-    void mealWithoutCaloriesIsAStub();
-    void negativeMealHangs();
-    void outlierLeavesOthersVisible();
-    void activitiesStackWhereTheyOverlap();
-    void shortActivityCanBeSeen();
-    void balanceMeetsItsScale();
-    void captionsAreHit();
-    void minutesOfPositions_data();
-    void minutesOfPositions();
-    void hourLabels_data();
-    void hourLabels();
-    void noRoomAtAll_data();
-    void noRoomAtAll();
-};
-
-void TestChartGeometry::everythingFits_data()
-{
-    QTest::addColumn<DayData>("day");
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<double>("textScale");
-    QTest::addColumn<bool>("clock24");
-
-    DayData onlyBackground;
-    onlyBackground.backgroundRate = 1.25;
-    DayData allAtOnce = samples::crowdedDay(900);
-    for (MealItem &meal : allAtOnce.meals)
-        meal.time = QTime(23, 59);
-    for (ActivityItem &activity : allAtOnce.activities)
-        activity = {activity.id, QTime(0, 0), QTime(0, 1), 0};
-    const std::vector<std::pair<const char *, DayData>> days = {
-        {"nothing", {}},
-        {"background", onlyBackground},
-        {"typical", samples::typicalDay()},
-        {"odd", samples::oddDay()},
-        {"large", samples::largeDay()},
-        {"forty", samples::crowdedDay(960)},
-        {"forty in an hour", samples::crowdedDay(60)},
-        {"forty at once", allAtOnce},
-    };
-    for (const auto &[name, day] : days) {
-        QTest::addRow("%s, small", name) << day << QSizeF(600, 400) << 1.0 << true;
-        QTest::addRow("%s, large text", name) << day << QSizeF(3840, 2160) << 2.5 << true;
-        QTest::addRow("%s, 12-hour clock", name) << day << QSizeF(1000, 650) << 1.0 << false;
+    void balanceThroughTheDay()
+    {
+        const auto curve = balanceCurve(samples::typicalDay());
+        // 1.25 a minute all day; 430 at 7:30, 4 a minute more from 8:00 to 8:30, 1530 later on.
+        QCOMPARE(balanceAt(curve, 449), -561.25);
+        QCOMPARE(balanceAt(curve, 450), 430 - 562.5);
+        QCOMPARE(balanceAt(curve, 495), 430 - 618.75 - 60);
+        QCOMPARE(balanceAt(curve, 1440), 1960.0 - 1800 - 600);
     }
-}
-
-void TestChartGeometry::everythingFits()
-{
-    QFETCH(DayData, day);
-    QFETCH(QSizeF, size);
-    QFETCH(double, textScale);
-    QFETCH(bool, clock24);
-    const QRectF area(QPointF(30, 20), size);
-    const ChartGeometry g =
-        chartGeometry(day, area, samples::metrics(textScale), samples::texts(clock24));
-
-    const auto rects = textRects(g);
-    for (int i = 0; i < rects.size(); ++i) {
-        QVERIFY2(within(rects[i], area), qPrintable(QStringLiteral("text %1 is cut off").arg(i)));
-        for (int j = 0; j < i; ++j)
-            QVERIFY2(!overlap(rects[i], rects[j]),
-                     qPrintable(QStringLiteral("texts %1 and %2 overlap").arg(i).arg(j)));
+    void curveEndsAtTheTotals()
+    {
+        DayData rounded = samples::typicalDay();
+        rounded.backgroundRate = 1.2345; // 1777.68 a day
+        QCOMPARE(dayFigures(rounded).balance(), 1960 - 600 - 1778);
+        for (const DayData &day :
+             {DayData(), rounded, samples::oddDay(), samples::crowdedDay(900)}) {
+            const auto curve = balanceCurve(day);
+            QCOMPARE(curve.front().minute, 0.0);
+            QCOMPARE(curve.back().minute, 1440.0);
+            for (size_t i = 1; i < curve.size(); ++i)
+                QVERIFY(curve[i].minute >= curve[i - 1].minute);
+            QVERIFY(std::abs(curve.back().calories - double(dayFigures(day).balance())) <= 0.5);
+        }
     }
-    QCOMPARE(g.columns.size(), day.meals.size());
-    for (size_t i = 0; i < g.columns.size(); ++i) {
-        QVERIFY(within(g.columns[i].rect, g.meals.area));
-        QVERIFY(g.columns[i].rect.height() > 3 && g.columns[i].rect.width() > 3);
-        for (size_t j = 0; j < i; ++j)
-            QVERIFY(!overlap(g.columns[i].rect, g.columns[j].rect));
+    void largeCaloriesDoNotOverflow()
+    {
+        const int most = std::numeric_limits<int>::max();
+        const ActivityItem activity = {1, QTime(1, 0), QTime(2, 0), most};
+        const DayData day = {0, {{1, QTime(12, 0), most, most, most}}, {activity, activity}};
+        QCOMPARE(dayFigures(day).balance(), qint64(most));
+        QCOMPARE(balanceCurve(day).back().calories, double(most));
     }
-    QCOMPARE(g.blocks.size(), day.activities.size());
-    for (size_t i = 0; i < g.blocks.size(); ++i) {
-        QVERIFY(within(g.blocks[i].bounds, g.activities.area));
-        QVERIFY(g.blocks[i].bounds.width() > 3 && g.blocks[i].bounds.height() > 1);
-        for (const QRectF &segment : g.blocks[i].segments) {
-            for (size_t j = 0; j < i; ++j) {
-                for (const QRectF &other : g.blocks[j].segments)
-                    QVERIFY(!overlap(segment, other));
+    void impossibleTimesLastOneMinute()
+    {
+        QCOMPARE((ActivityItem{1, QTime(10, 0), QTime(10, 0), 60}).caloriesPerMinute(), 60.0);
+        const ActivityItem backwards = {1, QTime(23, 59, 30), QTime(1, 0), 60};
+        QCOMPARE(backwards.beginMinute(), 1439.0);
+        QCOMPARE(backwards.endMinute(), 1440.0);
+    }
+    void everythingFitsAndIsHit_data()
+    {
+        QTest::addColumn<DayData>("day");
+        QTest::newRow("nothing") << DayData();
+        QTest::newRow("typical") << samples::typicalDay();
+        QTest::newRow("odd") << samples::oddDay();
+        QTest::newRow("outliers") << dayWithOutliers();
+        QTest::newRow("forty") << samples::crowdedDay(960);
+        QTest::newRow("forty in an hour") << samples::crowdedDay(60);
+        QTest::newRow("forty at once") << samples::crowdedDay(0);
+    }
+    void everythingFitsAndIsHit()
+    {
+        QFETCH(DayData, day);
+        const QRectF small(30, 20, 600, 400), large(30, 20, 3840, 2160);
+        for (const ChartGeometry &g : {geometryOf(day, small), geometryOf(day, large, true, 2.5),
+                                       geometryOf(day, {0, 0, 1000, 650}, false)}) {
+            QVERIFY(fit(textRects(g), g.area));
+            QCOMPARE(g.columns.size(), day.meals.size());
+            QCOMPARE(g.blocks.size(), day.activities.size());
+            std::vector<QRectF> columns, segments;
+            for (size_t i = 0; i < g.columns.size(); ++i) {
+                const QRectF &column = columns.emplace_back(g.columns[i].rect);
+                QVERIFY(column.height() > 3 && column.width() > 3);
+                QCOMPARE(targetAt(g, column.center()), (Target{Kind::Item, Lane::Meals, int(i)}));
+            }
+            for (size_t i = 0; i < g.blocks.size(); ++i) {
+                QVERIFY(g.blocks[i].bounds.width() > 3 && g.blocks[i].bounds.height() > 1);
+                for (const QRectF &segment : g.blocks[i].segments) {
+                    segments.push_back(segment);
+                    QCOMPARE(targetAt(g, segment.center()),
+                             (Target{Kind::Item, Lane::Activities, int(i)}));
+                }
+            }
+            QVERIFY(fit(columns, g.meals.area) && fit(segments, g.activities.area));
+            for (const auto &labels : {g.mealLabels, g.activityLabels}) {
+                for (const ItemLabel &label : labels)
+                    QCOMPARE(targetAt(g, label.text.rect.center()).item, label.item);
             }
         }
     }
-    for (const QPointF point : g.balance)
-        QVERIFY((g.meals.area | g.activities.area).adjusted(0, -0.5, 0.5, 0.5).contains(point));
-}
-
-void TestChartGeometry::itemsAreHitWhereTheyAre()
-{
-    QFETCH(DayData, day);
-    QFETCH(QSizeF, size);
-    QFETCH(double, textScale);
-    QFETCH(bool, clock24);
-    const ChartGeometry g = chartGeometry(day, QRectF(QPointF(), size), samples::metrics(textScale),
-                                          samples::texts(clock24));
-    for (size_t i = 0; i < g.columns.size(); ++i)
-        QCOMPARE(targetAt(g, g.columns[i].rect.center()).item, int(i));
-    for (size_t i = 0; i < g.blocks.size(); ++i) {
-        for (const QRectF &segment : g.blocks[i].segments) {
-            const Target target = targetAt(g, segment.center());
-            QVERIFY(target.isItem(Lane::Activities));
-            QCOMPARE(target.item, int(i));
-        }
-    }
-    for (const ItemLabel &label : g.mealLabels)
-        QCOMPARE(targetAt(g, label.text.rect.center()).item, label.item);
-    for (const ItemLabel &label : g.activityLabels)
-        QCOMPARE(targetAt(g, label.text.rect.center()).item, label.item);
-}
-
-void TestChartGeometry::columnsAreStackedToScale()
-{
-    const DayData day = samples::typicalDay();
-    const ChartGeometry g =
-        chartGeometry(day, QRectF(0, 0, 1000, 650), samples::metrics(), samples::texts());
-    const double perCalorie = g.columns[1].rect.height() / 780;
-    for (size_t i = 0; i < day.meals.size(); ++i) {
-        const auto &parts = g.columns[i].parts;
-        QCOMPARE(parts[0].height(), day.meals[i].carbohydrate * perCalorie);
-        QCOMPARE(parts[1].height(), day.meals[i].fat * perCalorie);
-        QCOMPARE(parts[2].height(), day.meals[i].protein * perCalorie);
+    void mealsStandToScaleAtTheirTimes()
+    {
+        DayData day = samples::typicalDay();
+        day.meals.push_back({14, QTime(12, 45), 100, 0, 0});
+        const ChartGeometry g = geometryOf(day);
+        const double perCalorie = g.columns[0].rect.height() / 430;
+        const auto &parts = g.columns[1].parts;
+        QCOMPARE(parts[0].height(), 340 * perCalorie);
+        QCOMPARE(parts[1].height(), 260 * perCalorie);
+        QCOMPARE(parts[2].height(), 180 * perCalorie);
         QCOMPARE(parts[0].bottom(), g.meals.scale.zeroY);
         QCOMPARE(parts[1].bottom(), parts[0].top());
         QCOMPARE(parts[2].bottom(), parts[1].top());
+        const double atHalfPastSeven = g.time.left + g.time.width * 7.5 / 24;
+        QVERIFY(std::abs(g.columns[0].rect.center().x() - atHalfPastSeven) < 0.01);
+        // Two at the same time stand on both sides of it, in the order in which they came.
+        const QRectF &first = g.columns[1].rect, &second = g.columns[3].rect;
+        QVERIFY(std::abs((first.center().x() + second.center().x()) / 2 - g.time.x(765)) < 0.01);
+        QVERIFY(first.right() <= second.left());
     }
-}
+    void oddItemsStandOnTheirSideOfZero()
+    {
+        const ChartGeometry g = geometryOf(samples::oddDay());
+        const double zero = g.meals.scale.zeroY;
+        QCOMPARE(g.columns[1].rect.bottom(), zero); // no calories: a stub
+        QCOMPARE(g.columns[2].rect.top(), zero);
+        QVERIFY(g.columns[2].rect.bottom() > zero + 10);
+        // A meal of both signs stands on both sides of zero.
+        QCOMPARE(g.columns[3].parts[0].bottom(), zero);
+        QCOMPARE(g.columns[3].parts[1].top(), zero);
+        QCOMPARE(g.columns[3].parts[2].bottom(), g.columns[3].parts[0].top());
 
-void TestChartGeometry::columnsStandAtTheirTimes()
-{
-    DayData day = samples::typicalDay();
-    day.meals.push_back({14, QTime(12, 45), 100, 0, 0});
-    const ChartGeometry g =
-        chartGeometry(day, QRectF(0, 0, 600, 400), samples::metrics(), samples::texts());
-    const double atHalfPastSeven = g.time.left + g.time.width * 7.5 / 24;
-    QVERIFY(std::abs(g.columns[0].rect.center().x() - atHalfPastSeven) < 0.01);
-    // Two at the same time stand on both sides of it, in the order in which they came.
-    const double between = (g.columns[1].rect.center().x() + g.columns[3].rect.center().x()) / 2;
-    QVERIFY(std::abs(between - g.time.x(765)) < 0.01);
-    QVERIFY(g.columns[1].rect.right() <= g.columns[3].rect.left());
-}
-
-void TestChartGeometry::mealWithoutCaloriesIsAStub()
-{
-    const ChartGeometry g = chartGeometry(samples::oddDay(), QRectF(0, 0, 600, 400),
-                                          samples::metrics(), samples::texts());
-    QCOMPARE(g.columns[1].rect.bottom(), g.meals.scale.zeroY);
-    QCOMPARE(g.columns[1].rect.height(), 4.0);
-    QVERIFY(std::all_of(g.columns[1].parts.begin(), g.columns[1].parts.end(),
-                        [](const QRectF &part) { return part.isNull(); }));
-}
-
-void TestChartGeometry::negativeMealHangs()
-{
-    const ChartGeometry g = chartGeometry(samples::oddDay(), QRectF(0, 0, 600, 400),
-                                          samples::metrics(), samples::texts());
-    const double zero = g.meals.scale.zeroY;
-    QCOMPARE(g.columns[2].rect.top(), zero);
-    QVERIFY(g.columns[2].rect.bottom() > zero + 10);
-    // A meal of both signs stands on both sides of zero.
-    QCOMPARE(g.columns[3].parts[0].bottom(), zero);
-    QCOMPARE(g.columns[3].parts[1].top(), zero);
-    QCOMPARE(g.columns[3].parts[2].bottom(), g.columns[3].parts[0].top());
-}
-
-void TestChartGeometry::outlierLeavesOthersVisible()
-{
-    const ChartGeometry g = chartGeometry(samples::largeDay(), QRectF(0, 0, 600, 400),
-                                          samples::metrics(), samples::texts());
-    QVERIFY(g.columns[3].cut && g.blocks[2].cut);
-    QVERIFY(!g.columns[1].cut && !g.blocks[1].cut);
-    QVERIFY(g.columns[1].rect.height() > g.meals.area.height() / 3);
-    QVERIFY(g.columns[3].rect.height() > g.columns[1].rect.height());
-    QVERIFY(g.blocks[1].bounds.height() > g.activities.area.height() / 3);
-    const auto said = std::find_if(g.mealLabels.begin(), g.mealLabels.end(),
-                                   [](const ItemLabel &label) { return label.item == 3; });
-    QVERIFY(said != g.mealLabels.end());
-    QCOMPARE(said->text.text, QStringLiteral("30000"));
-}
-
-void TestChartGeometry::activitiesStackWhereTheyOverlap()
-{
-    DayData day;
-    day.backgroundRate = 1;
-    day.activities = {{1, QTime(9, 0), QTime(11, 0), 240}, {2, QTime(10, 0), QTime(12, 0), 480}};
-    const ChartGeometry g =
-        chartGeometry(day, QRectF(0, 0, 1000, 650), samples::metrics(), samples::texts());
-    const ValueScale &scale = g.activities.scale;
-    QCOMPARE(g.band.top(), scale.y(1));
-    QCOMPARE(g.blocks[0].segments.size(), size_t(1));
-    QCOMPARE(g.blocks[0].bounds.bottom(), scale.y(1));
-    QCOMPARE(g.blocks[0].bounds.top(), scale.y(3));
-    // The second one stands on the first while that lasts, then on the background.
-    QCOMPARE(g.blocks[1].segments.size(), size_t(2));
-    QCOMPARE(g.blocks[1].segments[0].bottom(), scale.y(3));
-    QCOMPARE(g.blocks[1].segments[0].top(), scale.y(7));
-    QCOMPARE(g.blocks[1].segments[1].bottom(), scale.y(1));
-    QCOMPARE(g.blocks[1].segments[1].left(), g.time.x(660));
-    QCOMPARE(g.blocks[1].bounds.right(), g.time.x(720));
-}
-
-void TestChartGeometry::shortActivityCanBeSeen()
-{
-    const ChartGeometry g = chartGeometry(samples::oddDay(), QRectF(0, 0, 600, 400),
-                                          samples::metrics(), samples::texts());
-    QVERIFY(std::abs(g.blocks[0].bounds.center().x() - g.time.x(360.5)) < 1);
-    // Below zero calories per minute is what a negative activity takes from the background.
-    QCOMPARE(g.blocks[4].bounds.top(), g.activities.scale.y(1.25));
-    QVERIFY(g.blocks[4].bounds.bottom() > g.activities.scale.zeroY);
-    QVERIFY(g.blocks[4].negative);
-}
-
-void TestChartGeometry::balanceMeetsItsScale()
-{
-    const DayData day = samples::typicalDay();
-    const ChartGeometry g =
-        chartGeometry(day, QRectF(0, 0, 1000, 650), samples::metrics(), samples::texts());
-    QCOMPARE(g.balance.front(), QPointF(g.time.left, g.balanceZeroY));
-    QCOMPARE(g.balance.back().x(), g.time.left + g.time.width);
-    QVERIFY(g.balance.back().y() > g.balanceZeroY); // 440 less eaten than burnt
-    QCOMPARE(g.balanceEnd.text, QStringLiteral("-440"));
-    // The same length for the same calories: breakfast's jump of 430.
-    const double perCalorie = (g.balance.back().y() - g.balanceZeroY) / 440;
-    QCOMPARE(g.balance[1].y() - g.balance[2].y(), 430 * perCalorie);
-}
-
-void TestChartGeometry::captionsAreHit()
-{
-    const ChartGeometry g = chartGeometry(samples::typicalDay(), QRectF(0, 0, 600, 400),
-                                          samples::metrics(), samples::texts());
-    using Kind = Target::Kind;
-    for (const Lane lane : {Lane::Meals, Lane::Activities}) {
-        QCOMPARE(targetAt(g, g.lane(lane).header.center()), (Target{Kind::Caption, lane}));
-        QCOMPARE(targetAt(g, g.lane(lane).figure.center()), (Target{Kind::Caption, lane}));
-        const QPointF free(g.time.x(180), g.lane(lane).area.center().y());
-        QCOMPARE(targetAt(g, free), (Target{Kind::FreePlace, lane}));
+        // Below zero calories per minute is what a negative activity takes from the background.
+        QCOMPARE(g.blocks[4].bounds.top(), g.activities.scale.y(1.25));
+        QVERIFY(g.blocks[4].bounds.bottom() > g.activities.scale.zeroY && g.blocks[4].negative);
     }
-    QCOMPARE(targetAt(g, g.band.center() - QPointF(g.time.width / 3, 0)),
-             (Target{Kind::FreePlace, Lane::Activities}));
-    for (const QPointF outside : {QPointF(-5, 50), g.timeAxis.center(), g.balanceEnd.rect.center()})
-        QCOMPARE(targetAt(g, outside), Target());
-}
-
-void TestChartGeometry::minutesOfPositions_data()
-{
-    QTest::addColumn<double>("width");
-    QTest::addColumn<double>("minute");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("coarse, on five") << 600.0 << 870.0 << 870;
-    QTest::newRow("coarse, between") << 600.0 << 872.4 << 870;
-    QTest::newRow("coarse, nearer to the next") << 600.0 << 872.6 << 875;
-    QTest::newRow("coarse, last minutes") << 600.0 << 1438.0 << 1439;
-    QTest::newRow("fine") << 3840.0 << 872.4 << 872;
-    QTest::newRow("fine, midnight to come") << 3840.0 << 1440.0 << 1439;
-    QTest::newRow("left of the axis") << 600.0 << -100.0 << 0;
-    QTest::newRow("right of the axis") << 600.0 << 2000.0 << 1439;
-}
-
-void TestChartGeometry::minutesOfPositions()
-{
-    QFETCH(double, width);
-    QFETCH(double, minute);
-    const ChartGeometry g = chartGeometry(samples::typicalDay(), QRectF(0, 0, width, 400),
-                                          samples::metrics(), samples::texts());
-    QTEST(minuteAt(g, g.time.x(minute)), "expected");
-}
-
-void TestChartGeometry::hourLabels_data()
-{
-    QTest::addColumn<bool>("clock24");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("24 hours") << true << QStringList{"00:00", "06:00", "12:00", "18:00", "24:00"};
-    QTest::newRow("12 hours") << false << QStringList{"12 am", "6 am", "12 pm", "6 pm", "12 am"};
-}
-
-void TestChartGeometry::hourLabels()
-{
-    QFETCH(bool, clock24);
-    QFETCH(QStringList, expected);
-    const ChartGeometry g = chartGeometry(samples::typicalDay(), QRectF(0, 0, 500, 400),
-                                          samples::metrics(), samples::texts(clock24));
-    QStringList found;
-    for (const PlacedText &text : g.texts) {
-        if (text.rect.top() > g.timeAxis.top())
-            found << text.text;
+    void outlierLeavesOthersVisible()
+    {
+        const ChartGeometry g = geometryOf(dayWithOutliers());
+        QVERIFY(g.columns[3].cut && g.blocks[2].cut && !g.columns[1].cut && !g.blocks[1].cut);
+        QVERIFY(g.columns[1].rect.height() > g.meals.area.height() / 3);
+        QVERIFY(g.blocks[1].bounds.height() > g.activities.area.height() / 3);
+        QVERIFY(std::any_of(g.mealLabels.begin(), g.mealLabels.end(), [](const ItemLabel &label) {
+            return label.item == 3 && label.text.text == QStringLiteral("30000");
+        }));
     }
-    QCOMPARE(found, expected);
-}
-
-void TestChartGeometry::noRoomAtAll_data()
-{
-    QTest::addColumn<QSizeF>("size");
-    QTest::newRow("none") << QSizeF(0, 0);
-    QTest::newRow("a dot") << QSizeF(1, 1);
-    QTest::newRow("flat") << QSizeF(900, 5);
-    QTest::newRow("narrow") << QSizeF(5, 900);
-}
-
-void TestChartGeometry::noRoomAtAll()
-{
-    QFETCH(QSizeF, size);
-    for (const DayData &day : {DayData(), samples::oddDay(), samples::crowdedDay(60)}) {
-        const ChartGeometry g =
-            chartGeometry(day, QRectF(QPointF(), size), samples::metrics(), samples::texts());
-        for (const MealColumn &column : g.columns)
-            QVERIFY(std::isfinite(column.rect.top()) && std::isfinite(column.rect.left()));
-        for (const ActivityBlock &block : g.blocks)
-            QVERIFY(std::isfinite(block.bounds.top()) && std::isfinite(block.bounds.left()));
-        for (const QPointF point : g.balance)
-            QVERIFY(std::isfinite(point.x()) && std::isfinite(point.y()));
-        const int minute = minuteAt(g, size.width() / 2);
-        QVERIFY(minute >= 0 && minute < 1440);
+    void activitiesStackWhereTheyOverlap()
+    {
+        const ChartGeometry g = geometryOf(
+            {1, {}, {{1, QTime(9, 0), QTime(11, 0), 240}, {2, QTime(10, 0), QTime(12, 0), 480}}});
+        const auto box = [&](int begin, int end, double low, double high) {
+            const ValueScale &scale = g.activities.scale;
+            return QRectF(QPointF(g.time.x(begin), scale.y(high)),
+                          QPointF(g.time.x(end), scale.y(low)));
+        };
+        QCOMPARE(g.blocks[0].segments, std::vector{box(540, 660, 1, 3)});
+        // The second one stands on the first while that lasts, then on the background.
+        QCOMPARE(g.blocks[1].segments, (std::vector{box(600, 660, 3, 7), box(660, 720, 1, 5)}));
     }
-}
+    void balanceMeetsItsScale()
+    {
+        const ChartGeometry g = geometryOf(samples::typicalDay());
+        QCOMPARE(g.balance.front(), QPointF(g.time.left, g.balanceZeroY));
+        QVERIFY(g.balance.back().y() > g.balanceZeroY); // 440 less eaten than burnt
+        QCOMPARE(g.balanceEnd.text, QStringLiteral("-440"));
+        // The same length for the same calories: breakfast's jump of 430.
+        const double perCalorie = (g.balance.back().y() - g.balanceZeroY) / 440;
+        QCOMPARE(g.balance[1].y() - g.balance[2].y(), 430 * perCalorie);
+    }
+    void noRoomAtAll()
+    {
+        for (const QRectF area : {QRectF(), QRectF(0, 0, 900, 5), QRectF(0, 0, 5, 900)}) {
+            const ChartGeometry g = geometryOf(samples::oddDay(), area);
+            for (const QPointF point :
+                 {g.columns[0].rect.topLeft(), g.blocks[0].bounds.topLeft(), g.balance[1]})
+                QVERIFY(std::isfinite(point.x()) && std::isfinite(point.y()));
+            QVERIFY(minuteAt(g, 2) >= 0 && minuteAt(g, 2) < 1440);
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(TestChartGeometry)
 #include "tst_chartgeometry.moc"

@@ -7,8 +7,7 @@
 class ProgressJournal : public TestJournal
 {
 public:
-    explicit ProgressJournal(const QLocale &locale = QLocale(QLocale::English,
-                                                             QLocale::UnitedKingdom))
+    explicit ProgressJournal(const QLocale &locale = QLocale(QStringLiteral("en_GB")))
         : TestJournal(locale)
     {
         exec("insert into MealCategory (MealCategoryID, Name) values (1, 'Food');"
@@ -16,44 +15,32 @@ public:
              "insert into Exercise values (1, 'Walk', 'min', 1, 1, 1, 0)");
     }
 
-    void addMeasurement(QDate day, double weight, double breast, double waist, double hips)
+    void addMeasurement(QDate day, double weight, double breast = 90, double waist = 80,
+                        double hips = 95)
     {
-        insert("Body", day,
-               QStringLiteral("%1, %2, %3, %4, 'M'")
-                   .arg(weight, 0, 'g', 17)
-                   .arg(breast)
-                   .arg(waist)
-                   .arg(hips));
+        add("Body values (%1, %2, %3, %4, %5, %6, 'M')", day, weight, breast, waist, hips);
     }
-    void addMeal(QDate day, double calories) { add("MealConsume", day, "0.5", calories); }
-    void addActivity(QDate day, double calories)
+    void addMeal(QDate day, double kcal)
     {
-        add("ExercisePerform", day, "0.5, 0.6", calories);
+        add("MealConsume values (%1, 1, %2, 0.5, %3)", day, kcal);
+    }
+    void addActivity(QDate day, double kcal)
+    {
+        add("ExercisePerform values (%1, 1, %2, 0.5, 0.6, %3)", day, kcal);
     }
     void addNote(QDate from, QDate to, const QString &text)
     {
-        insert("UserNote", from, QStringLiteral("%1, '%2'").arg(dayNumber(to)).arg(text));
+        add("UserNote values (%1, %2, %3, '%4')", from, dayNumber(to), text);
     }
 
 private:
-    void add(const char *table, QDate day, const char *times, double quantity)
+    template<typename... Values>
+    void add(const char *row, QDate day, const Values &...values)
     {
-        exec(qPrintable(QStringLiteral("insert into %1 values (%2, 1, %3, %4, %5)")
-                            .arg(QLatin1String(table))
-                            .arg(m_nextId++)
-                            .arg(dayNumber(day))
-                            .arg(QLatin1String(times))
-                            .arg(quantity, 0, 'g', 17)));
-    }
-    void insert(const char *table, QDate day, const QString &values)
-    {
-        exec(QStringLiteral("insert into %1 values (%2, %3, ")
-                 .arg(QLatin1String(table))
-                 .arg(m_nextId++)
-                 .arg(dayNumber(day))
-                 .append(values + u')')
-                 .toUtf8()
-                 .constData());
+        QString sql = QLatin1String("insert into ") + QLatin1String(row);
+        sql = sql.arg(m_nextId++).arg(dayNumber(day));
+        ((sql = sql.arg(QVariant(values).toString())), ...);
+        exec(qPrintable(sql));
     }
 
     int m_nextId = 1;
