@@ -4,7 +4,6 @@
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
-#include "ui/datacombo.h"
 
 namespace {
 
@@ -16,7 +15,7 @@ QString selected(const QWidget &window)
 
 void typeName(const QWidget &window, const QString &name)
 {
-    typeInto(control<QLineEdit>(window, "txtName"), name);
+    type(window, "txtName", name);
 }
 
 /// Makes a category from the meal editor.
@@ -107,7 +106,7 @@ void tst_cataloguelists::mealsBeginWithTheFirstCategory()
     journal->inList<frmMeals>([this](QWidget &window) {
         QCOMPARE(control<DataCombo>(window, "dcbMealCategory").displayedText(), "Dairy");
         QCOMPARE(shown(window), QStringList{"Crème brûlée|cup|1|1|1|300|1|1"});
-        control<DataCombo>(window, "dcbMealCategory").setDisplayedText("Fruit");
+        choose(window, "dcbMealCategory", "Fruit");
         QCOMPARE(shown(window),
                  (QStringList{"Apple|piece|1|1|1|30|1,5|0,25", "Banana|piece|1|1|1|100||"}));
         QCOMPARE(selected(window), QString());
@@ -126,10 +125,10 @@ void tst_cataloguelists::movedMealIsFollowed()
         press(window, "btnNew", "frmMeal", createCategory);
         QCOMPARE(category.displayedText(), "Sweets"); // though the meal was cancelled
         QCOMPARE(shown(window), QStringList());
-        control<DataCombo>(window, "dcbMealCategory").setDisplayedText("Dairy");
+        choose(window, "dcbMealCategory", "Dairy");
         selectRow(window, 0);
         press(window, "btnEdit", "frmMeal", [](QWidget &editor) {
-            control<DataCombo>(editor, "dcbMealCategory").setDisplayedText("Fruit");
+            choose(editor, "dcbMealCategory", "Fruit");
             press(editor, "btnOK");
         });
         QCOMPARE(category.displayedText(), "Fruit");

@@ -2,16 +2,10 @@
 #include "../journal/dayjournal.h"
 
 #include "catalogue/frmMeal.h"
-#include "ui/datacombo.h"
 
 #include <QLabel>
 
 namespace {
-
-void type(const QWidget &window, const char *box, const QString &text)
-{
-    typeInto(control<QLineEdit>(window, box), text);
-}
 
 /// What the three boxes show: fat, carbohydrate, protein.
 QString byCalories(const QWidget &window)
@@ -105,7 +99,7 @@ void tst_mealeditor::splitsUnlessItIsLeftAlone()
 void tst_mealeditor::mealWithoutNutrientsNeedsItsShares()
 {
     journal->edit<frmMeal>(0, [this](QWidget &window) {
-        control<DataCombo>(window, "dcbMealCategory").setDisplayedText("Fruit");
+        choose(window, "dcbMealCategory", "Fruit");
         for (const char *box : {"txtName", "txtUnit"})
             type(window, box, "Water");
         for (const char *box : {"txtFat", "txtCarboHydrate", "txtProtein", "txtCalories"})

@@ -3,11 +3,22 @@
 
 #include "guitest.h"
 #include "testjournal.h"
+#include "ui/datacombo.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimeEdit>
 #include <QTreeView>
+
+inline void type(const QWidget &window, const char *box, const QString &text)
+{
+    typeInto(control<QLineEdit>(window, box), text);
+}
+
+inline void choose(const QWidget &window, const char *chooser, const QString &text)
+{
+    control<DataCombo>(window, chooser).setDisplayedText(text);
+}
 
 inline void press(const QWidget &window, const char *button)
 {
@@ -61,13 +72,20 @@ public:
             qPrintable(editor->objectName()), [&] { editor->run(id); }, steps);
         return editor;
     }
-    /// Runs a list and the steps on it.
     template<typename List>
     void inList(const std::function<void(QWidget &)> &steps)
     {
         List list(*session, messages);
         inDialog(
             qPrintable(list.objectName()), [&] { list.run(); }, steps);
+    }
+
+    void setUser(int weight, const char *measurement)
+    {
+        exec(qPrintable(QString("update Common set weight = %1, Measurement = '%2'")
+                            .arg(QString::number(weight), measurement)));
+        data->rsCommon.close();
+        session->readCommonParameters();
     }
 
     /// Presses OK, which is refused with the focus on a field, and types the remedy there.

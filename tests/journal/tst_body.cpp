@@ -19,7 +19,7 @@ void enter(QWidget &dialog, const QStringList &numbers)
 {
     int next = 0;
     for (const char *box : {"txtWeight", "txtBreast", "txtWaist", "txtHips"})
-        typeInto(control<QLineEdit>(dialog, box), numbers.at(next++));
+        type(dialog, box, numbers.at(next++));
 }
 
 void setDate(QWidget &dialog, QDate date)
@@ -53,9 +53,7 @@ private:
 
 void tst_body::checksAndStores()
 {
-    journal->exec("update Common set Measurement = 'I'");
-    journal->data->rsCommon.close();
-    journal->session->readCommonParameters();
+    journal->setUser(154, "I");
     const auto editor = journal->edit<frmBody>(0, [this](QWidget &dialog) {
         QCOMPARE(control<QLabel>(dialog, "lblWeightUnit").text(), "lb");
         QCOMPARE(control<QLabel>(dialog, "lblGirthUnit").text(), "inch");
@@ -81,7 +79,7 @@ void tst_body::keepsWhatIsNotEdited()
     journal->exec("insert into Body values (-4, 46200, 160.5, 38.1, 34.2, 37.3, 'I')");
     const auto editor = journal->edit<frmBody>(-4, [](QWidget &dialog) {
         QCOMPARE(textOf(dialog, "txtWeight"), "160,5");
-        typeInto(control<QLineEdit>(dialog, "txtWaist"), "33");
+        type(dialog, "txtWaist", "33");
         press(dialog, "btnOK");
     });
     QCOMPARE(editor->storedId(), -4);

@@ -3,7 +3,6 @@
 
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsumes.h"
-#include "ui/datacombo.h"
 
 #include <QDateEdit>
 #include <QSignalSpy>
@@ -25,7 +24,6 @@ private slots:
     }
     void meals();
     void activities();
-    void showsTwelveHourClock();
     void survivesAbsurdRows();
     void followsTheDate();
 
@@ -77,15 +75,6 @@ void tst_DayLists::activities()
     QVERIFY(!journal->data->rsExercisePerform.isOpen());
 }
 
-void tst_DayLists::showsTwelveHourClock()
-{
-    journal = std::make_unique<DayJournal>(QLocale("en_US"));
-    journal->exec("insert into MealConsume values (1, 2, 46225, 0.0, 1)");
-    journal->inList<frmMealConsumes>([](QWidget &window) {
-        QCOMPARE(shown(window), QStringList{"12:00 am|Banana|1|2|90|4|96"});
-    });
-}
-
 // Whoever has typed too many digits must be able to open the list and delete the row.
 void tst_DayLists::survivesAbsurdRows()
 {
@@ -113,7 +102,7 @@ void tst_DayLists::followsTheDate()
         QCOMPARE(shown(window), QStringList{"12:00|Banana|1|2|90|4|96"});
         QCOMPARE(journal->session->currentDate(), QDate(2026, 7, 23));
         press(window, "btnNew", "frmMealConsume", [](QWidget &editor) {
-            control<DataCombo>(editor, "dcbMealCategory").setDisplayedText("Dairy");
+            choose(editor, "dcbMealCategory", "Dairy");
             press(editor, "btnOK");
         });
         QCOMPARE(selectedRow(window), 1);

@@ -2,7 +2,6 @@
 #include "dayjournal.h"
 
 #include "journal/frmExercisePerform.h"
-#include "ui/datacombo.h"
 
 #include <QLabel>
 
@@ -15,11 +14,6 @@ QString entry(QWidget &editor)
                        textOf(editor, "txtQty"), control<QLabel>(editor, "lblUnit").text(),
                        control<QLabel>(editor, "lblCalories").text()}
         .join(' ');
-}
-
-void choose(QWidget &editor, const QString &activity)
-{
-    control<DataCombo>(editor, "dcbExercise").setDisplayedText(activity);
 }
 
 void typeTimes(QWidget &editor, const QString &begin, const QString &end)
@@ -39,7 +33,6 @@ private slots:
     void choosesAndRecalculates();
     void checksInOrder();
     void changesStored();
-    void createsActivity();
 
 private:
     std::unique_ptr<DayJournal> journal;
@@ -48,9 +41,9 @@ private:
 void tst_ExercisePerform::choosesAndRecalculates()
 {
     journal->edit<frmExercisePerform>(0, [](QWidget &editor) {
-        choose(editor, "Walking");
+        choose(editor, "dcbExercise", "Walking");
         QCOMPARE(entry(editor), "Walking 30 minute 105");
-        choose(editor, "Rowing");
+        choose(editor, "dcbExercise", "Rowing");
         auto &quantity = control<QLineEdit>(editor, "txtQty");
         typeInto(quantity, "2.5");
         QCOMPARE(entry(editor), "Rowing 2.5 lap 17"); // 17.5, cut off
@@ -62,7 +55,7 @@ void tst_ExercisePerform::choosesAndRecalculates()
         typeInto(quantity, "20000001"); // no single-precision number
         QTest::keyClick(&quantity, Qt::Key_Up);
         QCOMPARE(quantity.text(), "20000000");
-        choose(editor, QString());
+        choose(editor, "dcbExercise", QString());
         QCOMPARE(entry(editor).trimmed(), QString());
     });
 }
@@ -71,11 +64,11 @@ void tst_ExercisePerform::checksInOrder()
 {
     const auto editor = journal->edit<frmExercisePerform>(0, [this](QWidget &window) {
         typeTimes(window, "2300", "0030");
-        typeInto(control<QLineEdit>(window, "txtQty"), " ");
-        choose(window, "Walk");
+        type(window, "txtQty", " ");
+        choose(window, "dcbExercise", "Walk");
         journal->refuses(window, "dcbExercise",
                          "The Exercise is not specified or specified incorrect", "");
-        choose(window, "Walking");
+        choose(window, "dcbExercise", "Walking");
         const QString later = "The End Time value should be more than the Begin Time value";
         for (const char *end : {"0030", "2300"}) { // across midnight; no time at all
             typeTimes(window, "2300", end);
@@ -84,7 +77,7 @@ void tst_ExercisePerform::checksInOrder()
             QVERIFY(control<QTimeEdit>(window, "dtpEndTime").hasFocus());
         }
         typeTimes(window, "2300", "2331");
-        typeInto(control<QLineEdit>(window, "txtQty"), " ");
+        type(window, "txtQty", " ");
         journal->refuses(window, "txtQty", "The Quantity should be specified", "1 1");
         journal->refuses(window, "txtQty", "The Quantity field contains illegal data", "-30");
         QCOMPARE(journal->row("select NextExercisePerformID from Common"), "1");
@@ -101,25 +94,11 @@ void tst_ExercisePerform::changesStored()
     journal->exec("insert into ExercisePerform values (-4, 2, 46000, 0.25, 0.5, 12.5)");
     const auto editor = journal->edit<frmExercisePerform>(-4, [](QWidget &window) {
         QCOMPARE(entry(window), "Walking 12.5 minute 43");
-        typeInto(control<QLineEdit>(window, "txtQty"), "2");
+        type(window, "txtQty", "2");
         press(window, "btnOK");
     });
     QCOMPARE(editor->storedId(), -4);
     QCOMPARE(journal->activities(), QStringList{"-4|2|46000|360|720|2"});
-}
-
-void tst_ExercisePerform::createsActivity()
-{
-    journal->edit<frmExercisePerform>(0, [](QWidget &editor) {
-        press(editor, "btnNewCategory", "frmExercise", [](QWidget &activity) {
-            for (const char *box : {"txtName", "txtUnit"})
-                typeInto(control<QLineEdit>(activity, box), "Dance");
-            typeInto(control<QLineEdit>(activity, "txtCaloriesConsume"), "15");
-            typeInto(control<QLineEdit>(activity, "txtDefaultQty"), "3");
-            press(activity, "btnOK");
-        });
-        QCOMPARE(entry(editor), "Dance 3 Dance 45");
-    });
 }
 
 QTEST_MAIN(tst_ExercisePerform)
