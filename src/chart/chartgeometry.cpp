@@ -143,7 +143,7 @@ void Layout::scaleBurn()
     }
     m_burnStep = roundStep(ticksApart() / g.activities.scale.perValue);
     g.activities.gridLines =
-        ticksBetween(g.activities.scale, m_burnStep, top - em(0.5), m_plotBottom);
+        ticksBetween(g.activities.scale, m_burnStep, top - em(0.3), m_plotBottom);
 }
 
 void Layout::scaleBalance()
