@@ -15,9 +15,9 @@ std::vector<double> ValueScale::ticks(double apart) const
         distance >= apart ? step : step * std::ceil(daychart::roundStep(apart / distance));
     std::vector<double> values;
     const double tolerance = 1e-6;
-    const double last = std::floor(high / every + tolerance);
-    for (double i = std::ceil(low / every - tolerance); i <= last; ++i)
-        values.push_back(i * every);
+    const auto last = static_cast<qint64>(std::floor(high / every + tolerance));
+    for (auto i = static_cast<qint64>(std::ceil(low / every - tolerance)); i <= last; ++i)
+        values.push_back(double(i) * every);
     return values;
 }
 

@@ -114,7 +114,7 @@ QString ProgressTexts::balanceWords(const Day &day) const
 {
     if (!day.hasCalories)
         return tr("Balance: no meals or activities recorded");
-    const QString figure = tr("Balance: %1 kcal").arg(change(day.calories));
+    QString figure = tr("Balance: %1 kcal").arg(change(day.calories));
     if (day.calories == 0)
         return figure;
     return day.calories < 0 ? tr("%1, less eaten than burnt").arg(figure)

@@ -63,8 +63,7 @@ void tst_help::f1OpensThePageOfItsWindow()
     window.show();
     QString shown;
     inDialog(
-        "helpViewer",
-        [&] { sendHelpKey(&window); },
+        "helpViewer", [&] { sendHelpKey(&window); },
         [&](QWidget &viewer) {
             shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
         });
@@ -72,8 +71,7 @@ void tst_help::f1OpensThePageOfItsWindow()
     // A window without a page of its own gets the contents.
     window.setObjectName(QStringLiteral("frmNobody"));
     inDialog(
-        "helpViewer",
-        [&] { sendHelpKey(&window); },
+        "helpViewer", [&] { sendHelpKey(&window); },
         [&](QWidget &viewer) {
             shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
         });
