@@ -115,24 +115,22 @@ void tst_RecordADay::answersTheChart()
 void tst_RecordADay::editsFromTheChart()
 {
     journal->exec("insert into MealConsume values (7, 2, 46225, 0.5, 1);"
-                  "insert into ExercisePerform values (8, 1, 46225, 0.25, 0.5, 2)");
+                  "insert into ExercisePerform values (7, 1, 46225, 0.25, 0.5, 2)");
     program->mainWindow()->RePaintGraph();
-    const auto typeQuantity = [](const QString &quantity) {
-        return [quantity](QWidget &editor) {
-            typeInto(control<QLineEdit>(editor, "txtQty"), quantity);
-            press(editor, "btnOK");
-        };
+    const auto typeQuantity = [](QWidget &editor) {
+        typeInto(control<QLineEdit>(editor, "txtQty"), u"3"_qs);
+        press(editor, "btnOK");
     };
     inDialog(
         "frmMealConsume", [&] { Q_EMIT graph().mealItemChosen(7, true, QTime(12, 0)); },
-        typeQuantity(u"2"_qs));
-    QCOMPARE(onChart(u"Meal at"_qs), QStringList{u"Meal at 12:00, 193 kcal"_qs});
+        typeQuantity);
+    QCOMPARE(onChart(u"Meal at"_qs), QStringList{u"Meal at 12:00, 290 kcal"_qs});
     inDialog(
-        "frmExercisePerform", [&] { Q_EMIT graph().activityItemChosen(8, true, QTime(7, 0)); },
-        typeQuantity(u"3"_qs));
+        "frmExercisePerform", [&] { Q_EMIT graph().activityItemChosen(7, true, QTime(7, 0)); },
+        typeQuantity);
     QVERIFY(onChart(u"Activity"_qs).value(0).contains(u"21 kcal"_qs));
-    QCOMPARE(journal->meals(), QStringList{u"7|2|46225|720|2"_qs});
-    QCOMPARE(journal->activities(), QStringList{u"8|1|46225|360|720|3"_qs});
+    QCOMPARE(journal->meals(), QStringList{u"7|2|46225|720|3"_qs});
+    QCOMPARE(journal->activities(), QStringList{u"7|1|46225|360|720|3"_qs});
 }
 
 void tst_RecordADay::listMovesTheDay()

@@ -5,7 +5,6 @@
 #include "ui/recordlist.h"
 
 #include <QHeaderView>
-#include <QPushButton>
 #include <QTreeView>
 
 namespace {
@@ -16,7 +15,7 @@ struct Fixture
     Fixture()
         : list({{"Time", {}}, {"Meal", "What was eaten"}, {"Qty", {}, true}}, ListFamily::Journal,
                messages,
-               {[this] { return load(); }, [this](qint32) { return stored; },
+               {[this] { return load(); }, [](qint32) { return std::nullopt; },
                 [this](qint32 id) { remove(id); }},
                "Meals")
     {
@@ -45,7 +44,6 @@ struct Fixture
     std::vector<ListRow> rows{
         {7, {"08:00", "Tea", "1"}}, {-3, {"08:00", "Toast", "2"}}, {0, {}}, {0, {"", "Total"}}};
     RecordedMessages messages;
-    std::optional<Reselection> stored;
     bool broken = false;
     RecordList list;
     QTreeView &view = *list.list();
@@ -58,39 +56,10 @@ class tst_recordlist : public QObject
     Q_OBJECT
 
 private slots:
-    void totalsAreNoRecords();
-    void reselectsByIdentifier();
     void deletes();
     void unreadableRowsKeepTheOldOnes();
     void columnsShowTheirWidestText();
 };
-
-void tst_recordlist::totalsAreNoRecords()
-{
-    Fixture f;
-    for (const int row : {-1, 2, 3}) {
-        f.select(row);
-        for (const char *button : {"btnEdit", "btnDelete"}) {
-            control<QPushButton>(f.list, button).click();
-            QCOMPARE(f.messages.said.size(), size_t(1));
-            QCOMPARE(f.messages.takeText(), "No record selected");
-        }
-    }
-}
-
-void tst_recordlist::reselectsByIdentifier()
-{
-    Fixture f;
-    f.stored = Reselection{{}, -3};
-    f.select(0);
-    QTest::keyClick(&f.view, Qt::Key_Enter);
-    QCOMPARE(f.selectedRow(), 1);
-    // Cancelled: the list, and what is selected in it, stay as they were.
-    f.stored.reset();
-    f.rows.clear();
-    QTest::keyClick(&f.view, Qt::Key_Insert);
-    QCOMPARE(f.selectedRow(), 1);
-}
 
 void tst_recordlist::deletes()
 {
