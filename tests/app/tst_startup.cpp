@@ -65,7 +65,6 @@ private slots:
     void firstStartInItsOrder();
     void interruptedFirstStartBeginsAnew();
     void failedMoveBeginsAnew();
-    void laterStartsGoStraightToTheMainWindow();
 
 private:
     void verifyRefused(TestProgram &program, const std::function<bool()> &run);
@@ -175,6 +174,12 @@ void tst_startup::firstStartInItsOrder()
     // Ten days after 1 January, to which the sample journal was prepared.
     QCOMPARE(queryRows(other, "select DateMeasured, installDate, Common.weight from Body, Common"),
              QStringList{u"46010|46033|82"_qs});
+    // Later starts go straight to the main window and move nothing.
+    program.clock.setNow(QDateTime(QDate(2026, 1, 15), QTime(8, 0)));
+    const auto later = program.startUp();
+    QVERIFY(later->run());
+    QVERIFY(later->mainWindow()->isVisible());
+    QCOMPARE(queryRows(other, "select DateMeasured from Body"), QStringList{u"46010"_qs});
     QCOMPARE(program.messages.said.size(), size_t(1)); // of recalculated data nothing is said
 }
 
@@ -206,20 +211,6 @@ void tst_startup::failedMoveBeginsAnew()
     program.clock.setNow(QDateTime(QDate(2026, 1, 5), QTime(8, 0))); // the clock is put right
     QVERIFY(firstStart(*program.startUp(), accept));
     QVERIFY(program.isFirstStartDone());
-}
-
-void tst_startup::laterStartsGoStraightToTheMainWindow()
-{
-    TestProgram program;
-    Installation(program.folder.path()).setFirstStartDone();
-    // The database was replaced since: its dates are not moved again.
-    const auto startUp = program.startUp();
-    QVERIFY(startUp->run());
-    QVERIFY(program.messages.said.empty());
-    QVERIFY(startUp->mainWindow()->isVisible());
-    QCOMPARE(startUp->session()->currentDate(), QDate(2026, 1, 11));
-    Connection connection(program.database);
-    QCOMPARE(queryRows(connection, "select installDate from Common"), QStringList{u"46023"_qs});
 }
 
 QTEST_MAIN(tst_startup)

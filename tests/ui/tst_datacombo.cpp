@@ -67,7 +67,6 @@ private slots:
     void takesByKey();
     void escapesToWhatWasTyped();
     void keepsUnknownText();
-    void opensWholeList();
     void ignoresWheel();
 
 private:
@@ -139,23 +138,6 @@ void tst_DataCombo::keepsUnknownText()
     pressKey(Qt::Key_Tab);
     QCOMPARE(form->chooser->displayedText(), u"Crème"_qs);
     QCOMPARE(form->chooser->boundValue(), 5);
-}
-
-void tst_DataCombo::opensWholeList()
-{
-    form->chooser->setBoundValue(2);
-    form->chooser->setFocus();
-    for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
-        pressKey(Qt::Key_F4);
-        QVERIFY(form->chooser->view()->isVisible());
-        QCOMPARE(form->chooser->view()->model()->rowCount(), 5);
-        if (end == Qt::Key_Return)
-            pressKey(Qt::Key_Down);
-        pressKey(end);
-        QTRY_VERIFY(!form->chooser->view()->isVisible());
-        QVERIFY(form->isVisible());
-        QCOMPARE(form->chooser->boundValue(), end == Qt::Key_Return ? 3 : 2);
-    }
 }
 
 void tst_DataCombo::ignoresWheel()
