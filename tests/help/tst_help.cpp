@@ -12,28 +12,24 @@ class tst_help : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_filter = std::make_unique<HelpKeyFilter>(m_helpFile); }
     void missingFileIsTold();
     void everyLinkLeadsToAPage();
     void f1OpensThePageOfItsWindow();
 
 private:
     QString m_helpFile = QStringLiteral(CORVANA_HELP);
-    std::unique_ptr<HelpKeyFilter> m_filter;
 };
 
 void tst_help::missingFileIsTold()
 {
-    QWidget window;
-    window.show();
     bool told = false;
-    QTimer::singleShot(0, &window, [&] {
+    QTimer::singleShot(0, this, [&] {
         QWidget *box = QApplication::activeModalWidget();
         told = box && !qobject_cast<HelpViewer *>(box);
         if (box)
             box->close();
     });
-    showHelp(&window, QStringLiteral("/nowhere/Corvana.hlp"), {});
+    showHelp(nullptr, QStringLiteral("/nowhere/Corvana.hlp"), {});
     QVERIFY(told);
 }
 
@@ -46,10 +42,10 @@ void tst_help::everyLinkLeadsToAPage()
     while (pages.hasNext()) {
         QFile page(pages.next());
         QVERIFY(page.open(QIODevice::ReadOnly));
-        auto matches = link.globalMatch(QString::fromUtf8(page.readAll()));
-        for (; matches.hasNext(); ++links) {
-            const QString target = matches.next().captured(1);
+        for (const auto &match : link.globalMatch(QString::fromUtf8(page.readAll()))) {
+            const QString target = match.captured(1);
             QVERIFY2(QFile::exists(QStringLiteral(":/help/") + target), qPrintable(target));
+            ++links;
         }
     }
     QVERIFY(links > 20);
@@ -57,25 +53,22 @@ void tst_help::everyLinkLeadsToAPage()
 
 void tst_help::f1OpensThePageOfItsWindow()
 {
-    qApp->installEventFilter(m_filter.get());
-    QWidget window;
-    window.setObjectName(QStringLiteral("frmCommon"));
-    window.show();
-    QString shown;
-    inDialog(
-        "helpViewer", [&] { sendHelpKey(&window); },
-        [&](QWidget &viewer) {
-            shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
-        });
-    QCOMPARE(shown, QStringLiteral("Common Parameters"));
+    HelpKeyFilter filter(m_helpFile);
+    qApp->installEventFilter(&filter);
     // A window without a page of its own gets the contents.
-    window.setObjectName(QStringLiteral("frmNobody"));
-    inDialog(
-        "helpViewer", [&] { sendHelpKey(&window); },
-        [&](QWidget &viewer) {
-            shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
-        });
-    QCOMPARE(shown, QStringLiteral("Corvana Help"));
+    for (const auto &[name, title] :
+         {std::pair("frmCommon", "Common Parameters"), std::pair("frmNobody", "Corvana Help")}) {
+        QWidget window;
+        window.setObjectName(name);
+        window.show();
+        QString shown;
+        inDialog(
+            "helpViewer", [&] { sendHelpKey(&window); },
+            [&](QWidget &viewer) {
+                shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
+            });
+        QCOMPARE(shown, title);
+    }
 }
 
 QTEST_MAIN(tst_help)

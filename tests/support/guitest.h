@@ -30,11 +30,7 @@ public:
     bool ask(QWidget *, const QString &title, const QString &text) override
     {
         said.push_back({Icon::Information, title, text, true});
-        if (answers.empty())
-            return false;
-        const bool answer = answers.front();
-        answers.erase(answers.begin());
-        return answer;
+        return !answers.isEmpty() && answers.takeFirst();
     }
 
     /// The text said last, and forgets everything; empty where nothing was said.
@@ -46,7 +42,7 @@ public:
     }
 
     std::vector<Said> said;
-    std::vector<bool> answers; ///< for the next questions, in their order
+    QList<bool> answers; ///< for the next questions, in their order
 };
 
 /// The control of this name; ends the test where there is none.

@@ -32,14 +32,25 @@ inline void makeEmptyJournal(const QString &path)
         qFatal("the schema can't be read");
     const auto connection = Connection::create(path);
     WriteTransaction transaction(*connection); // one, for speed
-    connection->exec(schema.readAll().constData());
-    SQLite::Statement common(connection->database(),
-                             "insert into Common (weight, metabolicRate, Measurement, NextBodyID, "
-                             "NextMealConsumeID, NextExercisePerformID, NextUserNoteID, "
-                             "installDate) values (70, 59, 'M', 1, 1, 1, 1, ?)");
-    bindValue(common, 1, Value(QDate(2026, 1, 1)));
-    common.exec();
+    connection->exec(schema.readAll() +
+                     "insert into Common (weight, metabolicRate, Measurement, NextBodyID,"
+                     " NextMealConsumeID, NextExercisePerformID, NextUserNoteID, installDate)"
+                     " values (70, 59, 'M', 1, 1, 1, 1, 46023)");
     transaction.commit();
+}
+
+/// The rows of a query, columns joined by "|", for comparison with what was expected.
+inline QStringList queryRows(Connection &connection, const char *sql)
+{
+    QStringList result;
+    SQLite::Statement statement(connection.database(), sql);
+    while (statement.executeStep()) {
+        QStringList columns;
+        for (int i = 0; i < statement.getColumnCount(); ++i)
+            columns += columnValue(statement, i).toText();
+        result += columns.join(u'|');
+    }
+    return result;
 }
 
 /// An open session on such a file; today is Wednesday, 22 July 2026, 12:30.
@@ -58,19 +69,7 @@ public:
     QString path() const { return folder.filePath(QStringLiteral("Corvana.mdb")); }
     void exec(const char *sql) { data->Con.exec(sql); }
 
-    /// The rows of a query, columns joined by "|", for comparison with what was expected.
-    QStringList rows(const char *sql)
-    {
-        QStringList result;
-        SQLite::Statement statement(data->Con.database(), sql);
-        while (statement.executeStep()) {
-            QStringList columns;
-            for (int i = 0; i < statement.getColumnCount(); ++i)
-                columns += columnValue(statement, i).toText();
-            result += columns.join(u'|');
-        }
-        return result;
-    }
+    QStringList rows(const char *sql) { return queryRows(data->Con, sql); }
     QString row(const char *sql) { return rows(sql).join(u'\n'); }
 
     QTemporaryDir folder;
