@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QToolBar>
 
 using namespace Qt::Literals;
 
@@ -22,6 +23,7 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void accessKeysAreUnique();
+    void toolbarRunsTheMenus();
     void walksOverNewYear();
     void rebuildsAfterDialogs();
     void deletesTrialDataAfterAYes();
@@ -83,6 +85,25 @@ void tst_mainwindow::accessKeysAreUnique()
             keys += key;
         }
     }
+}
+
+void tst_mainwindow::toolbarRunsTheMenus()
+{
+    QStringList keys;
+    for (QAction *button : control<QToolBar>(*m_window, "tlbToolBar").actions()) {
+        if (button->isSeparator())
+            continue;
+        keys += button->objectName();
+        // The button is the entry: what the one runs, the other runs.
+        bool isEntry = false;
+        for (const QAction *top : m_window->menuBar()->actions())
+            isEntry = isEntry || top->menu()->actions().contains(button);
+        QVERIFY2(isEntry && button->isEnabled(), qPrintable(button->objectName()));
+    }
+    QCOMPARE(keys.join(u' '),
+             u"mnuMealConsume mnuAddMeal mnuExercisePerformed mnuAddExercise mnuMeasurement "
+             "mnuAddMeasurement mnuAddNote mnuPrintChart mnuGeneralProgress mnuMealCategories "
+             "mnuMeal mnuExercises mnuHelpAbout mnuHelpContents"_qs);
 }
 
 void tst_mainwindow::walksOverNewYear()

@@ -72,13 +72,13 @@ private slots:
         control<QRadioButton>(dialog, months).setChecked(true);
         for (int yes = 0; yes < questions.size(); ++yes) { // No to one of them builds nothing
             m_messages.said.clear();
-            m_messages.answers.assign(size_t(yes), true);
+            m_messages.answers.fill(true, yes);
             click(dialog, "btnOK");
             QVERIFY(dialog.isVisible() && !dialog.OkPressed());
             QCOMPARE(m_messages.said.back().title, QStringLiteral("Not enough data"));
             QCOMPARE(m_messages.takeText(), questions[yes]);
         }
-        m_messages.answers.assign(size_t(questions.size()), true);
+        m_messages.answers.fill(true, questions.size());
         click(dialog, "btnOK");
         QVERIFY(dialog.OkPressed() && !dialog.isVisible());
         QCOMPARE(m_messages.said.size(), size_t(questions.size()));
