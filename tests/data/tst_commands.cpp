@@ -2,7 +2,6 @@
 #include "journal/consumptionfigures.h"
 #include "testjournal.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::Literals;
@@ -70,21 +69,17 @@ private slots:
     // The list and the chart show what the editor showed, for whatever was typed.
     void mealFiguresEqualTheEditors()
     {
-        QRandomGenerator random(3);
-        const auto any = [&](int limit) {
-            return Currency::fromTenThousandths(random.bounded(2 * limit) - limit);
-        };
         Recordset &meals = data().rsMealConsumeSorted;
         WriteTransaction transaction(data().Con);
         for (int i = 0; i < 3000; ++i) {
             // Steps of a quarter and of a half meet exact halves often.
-            const Currency quantity =
-                i % 2 ? any(500'000) : Currency::fromTenThousandths(2500) * (i % 41);
-            const Currency parts[] = {any(3'000'000), Currency::fromTenThousandths(5000) * (i % 97),
-                                      any(9'000)};
+            const Currency quantity = Currency::fromTenThousandths(2500) * (i % 41);
+            const Currency parts[] = {Currency::fromTenThousandths(5000) * (i % 97),
+                                      Currency::fromTenThousandths(777) * i,
+                                      Currency::fromTenThousandths(-12345) * (i % 89)};
             m_journal->exec(
-                u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3 where"
-                " MealID = 3; update MealConsume set Qty = %4 where MealConsumeID = 3"_qs
+                u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3;"
+                " update MealConsume set Qty = %4"_qs
                     .arg(parts[0].toText(), parts[1].toText(), parts[2].toText(), quantity.toText())
                     .toLatin1());
             const ConsumptionFigures figures = consumptionFigures(

@@ -1,4 +1,5 @@
-// Updatable result sets: walking, appending, changing, cancelling, deleting, being refused.
+// Updatable result sets: walking, changing, deleting, being refused; identifiers of new rows.
+#include "data/identifiers.h"
 #include "testjournal.h"
 
 #include <QTest>
@@ -129,6 +130,47 @@ private slots:
         rows.open({1});
         QVERIFY_THROWS_EXCEPTION(std::logic_error, rows.set("Name"_L1, Value(u"a"_qs)));
         QVERIFY_THROWS_EXCEPTION(std::logic_error, data().rsMeal.addNew()); // it is closed
+    }
+
+    // No number is handed out twice.
+    void eachCounterCountsItsOwn()
+    {
+        m_journal->exec("update Common set NextMealConsumeID = 10, NextExercisePerformID = 20,"
+                        " NextBodyID = 30, NextUserNoteID = 0");
+        // A counter that holds k hands out k + 1.
+        QCOMPARE(NewMealConsumeID(data()), qint16(11));
+        QCOMPARE(NewExercisePerformID(data()), qint16(21));
+        QCOMPARE(NewBodyID(data()), qint16(31));
+        QCOMPARE(NewUserNoteID(data()), qint16(1));
+        QCOMPARE(m_journal->row("select NextMealConsumeID, NextExercisePerformID, NextBodyID,"
+                                " NextUserNoteID from Common"),
+                 u"11|21|31|1"_qs);
+    }
+
+    void countersEndAt16Bits()
+    {
+        m_journal->exec("update Common set NextMealConsumeID = 32766, NextBodyID = 2147483647");
+        QCOMPARE(NewMealConsumeID(data()), qint16(32767));
+        for (const auto &counters : {u"32768|2147483647"_qs, u"32769|2147483647"_qs}) {
+            QVERIFY_THROWS_EXCEPTION(OverflowError, NewMealConsumeID(data()));
+            QVERIFY_THROWS_EXCEPTION(OverflowError, NewBodyID(data()));
+            QCOMPARE(m_journal->row("select NextMealConsumeID, NextBodyID from Common"), counters);
+        }
+        QCOMPARE(NewUserNoteID(data()), qint16(2)); // no transaction was left open
+    }
+
+    void twoProgramsShareTheCounter()
+    {
+        deData other(m_journal->path());
+        // Both have read the row before.
+        other.rsCommon.open();
+        data().rsCommon.reopen();
+        for (int i = 0; i < 20; ++i)
+            QCOMPARE(NewMealConsumeID(i % 3 == 0 ? other : data()), qint16(2 + i));
+        other.Con.exec("begin immediate");
+        QVERIFY_THROWS_EXCEPTION(StoreError, NewMealConsumeID(data()));
+        other.Con.exec("rollback");
+        QCOMPARE(NewMealConsumeID(data()), qint16(22));
     }
 
 private:
