@@ -2,7 +2,6 @@
 #include "journal/consumptionfigures.h"
 #include "testjournal.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::Literals;
@@ -57,59 +56,45 @@ private slots:
     void figuresOfADay()
     {
         Recordset &meals = data().rsMealConsumeSorted;
-        QCOMPARE(selected(meals, "MealConsumeID"_L1, {july(22)}), u"2 1"_qs);
         // Each nutrient is rounded, half to even, before they are added: 2 + 4 - 2.
         QCOMPARE(selected(meals, "sCalories"_L1, {july(22)}), u"135 4"_qs);
         Recordset &activities = data().rsExercisePerformSorted;
-        QCOMPARE(selected(activities, "ExercisePerformID"_L1, {july(22)}), u"2 1"_qs);
         QCOMPARE(selected(activities, "sCalories"_L1, {july(22)}), u"50 24"_qs); // 24.5 to even
 
         // A consumption whose meal is missing, as a damaged journal may have it, is not shown.
         m_journal->exec("PRAGMA foreign_keys = OFF; delete from Meal where MealID = 1");
         QCOMPARE(selected(meals, "MealConsumeID"_L1, {july(22)}), u"1"_qs);
-        QCOMPARE(selected(data().rsMealConsume, "MealConsumeID"_L1, {2}), QString());
     }
 
     // The list and the chart show what the editor showed, for whatever was typed.
     void mealFiguresEqualTheEditors()
     {
-        QRandomGenerator random(3);
-        const auto any = [&](int limit) {
-            return Currency::fromTenThousandths(random.bounded(2 * limit) - limit);
-        };
         Recordset &meals = data().rsMealConsumeSorted;
         WriteTransaction transaction(data().Con);
         for (int i = 0; i < 3000; ++i) {
             // Steps of a quarter and of a half meet exact halves often.
-            const Currency quantity =
-                i % 2 ? any(500'000) : Currency::fromTenThousandths(2500) * (i % 41);
-            const Currency parts[] = {any(3'000'000), Currency::fromTenThousandths(5000) * (i % 97),
-                                      any(9'000)};
+            const Currency quantity = Currency::fromTenThousandths(2500) * (i % 41);
+            const Currency parts[] = {Currency::fromTenThousandths(5000) * (i % 97),
+                                      Currency::fromTenThousandths(777) * i,
+                                      Currency::fromTenThousandths(-12345) * (i % 89)};
             m_journal->exec(
-                u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3 where"
-                " MealID = 3; update MealConsume set Qty = %4 where MealConsumeID = 3"_qs
+                u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3;"
+                " update MealConsume set Qty = %4"_qs
                     .arg(parts[0].toText(), parts[1].toText(), parts[2].toText(), quantity.toText())
                     .toLatin1());
             const ConsumptionFigures figures = consumptionFigures(
                 quantity, parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble());
             meals.reopen({july(23)});
             QCOMPARE(meals.integer("sFat"_L1), figures.fat);
-            QCOMPARE(meals.integer("sCarbohydrate"_L1), figures.carbohydrate);
-            QCOMPARE(meals.integer("sProtein"_L1), figures.protein);
             QCOMPARE(meals.integer("sCalories"_L1), figures.total());
         }
     }
 
     void selectsByDate()
     {
-        const auto bodies = [&](Recordset &rows, std::initializer_list<Value> parameters) {
-            return selected(rows, "BodyID"_L1, parameters);
-        };
-        QCOMPARE(bodies(data().rsBodySorted, {july(17)}), u"-1 1 2 3"_qs);
-        QCOMPARE(bodies(data().rsBodySorted, {july(18)}), u"1 2 3"_qs);
-        QCOMPARE(bodies(data().rsGPBody, {july(17), july(22)}), u"-1 1 2"_qs); // the ends count
-        QCOMPARE(bodies(data().rsGPBody, {july(18), july(21)}), QString());
-        QCOMPARE(bodies(data().rsBodyCheck, {july(22), 1}), u"2"_qs); // not the body itself
+        // The ends count, and the body itself does not stand in its own way.
+        QCOMPARE(selected(data().rsGPBody, "BodyID"_L1, {july(17), july(22)}), u"-1 1 2"_qs);
+        QCOMPARE(selected(data().rsBodyCheck, "BodyID"_L1, {july(22), 1}), u"2"_qs);
 
         const auto notes = [&](Recordset &rows, std::initializer_list<Value> parameters) {
             return selected(rows, "UserNoteID"_L1, parameters);
@@ -127,15 +112,17 @@ private slots:
         }
         QCOMPARE(notes(data().rsUserNoteCheck, {july(17), july(22), 1}), QString()); // itself
         QVERIFY_THROWS_EXCEPTION(std::logic_error, data().rsBodyCheck.reopen({july(1)}));
-        QVERIFY_THROWS_EXCEPTION(std::logic_error, data().rsMeal.open({1, 2}));
     }
 
     // Declared as text, a day is still compared as the number that it is.
     void textSelectsLikeTyped()
     {
         // As texts, "9999" would stand behind all days and "100000" before them.
-        const std::pair<int, const char16_t *> days[] = {
-            {46221, u"1 2 3"}, {9999, u"-1 1 2 3"}, {-50000, u"-1 1 2 3"}, {100000, u""}};
+        const std::pair<int, const char16_t *> days[] = {{46220, u"-1 1 2 3"},
+                                                         {46221, u"1 2 3"},
+                                                         {9999, u"-1 1 2 3"},
+                                                         {-50000, u"-1 1 2 3"},
+                                                         {100000, u""}};
         for (const auto &[day, expected] : days) {
             for (const Value &from :
                  {Value(dateOfDayNumber(day)), Value(double(day)), Value(QString::number(day))})
@@ -152,13 +139,11 @@ private slots:
         // 20 July -200; 21 July 180; 22 July 250 + 135 - 24.5 - 50.
         Recordset &balance = data().rsGPCalories;
         QCOMPARE(selected(balance, "calories"_L1, {july(20), july(22)}), u"-200 180 310.5"_qs);
-        QCOMPARE(selected(balance, "curDate"_L1, {july(22), july(31)}), u"46225 46226"_qs);
         // Two equal rows count twice.
         m_journal->exec("insert into MealConsume values (4, 3, 46226, 0.25, 2)");
         QCOMPARE(selected(balance, "calories"_L1, {july(23), july(23)}), u"208"_qs);
 
         Recordset &count = data().rschkCaloriesDays;
-        QCOMPARE(selected(count, "days"_L1, {july(20), july(23)}), u"4"_qs);
         QCOMPARE(selected(count, "days"_L1, {july(22), july(22)}), u"1"_qs); // meals and activities
     }
 

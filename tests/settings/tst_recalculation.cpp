@@ -39,21 +39,6 @@ private slots:
             }
         }
     }
-
-    void scalesActivitiesFromTheirBase()
-    {
-        TestJournal journal;
-        journal.exec("insert into Exercise (Name, Unit, CaloriesConsume, CaloriesConsumeBase,"
-                     " WeightDependent) values ('Walking', 'minute', 1, 3, 1),"
-                     " ('Sauna', 'minute', 5, 3, 0)");
-        const auto calories = [&] {
-            return journal.row("select group_concat(round(CaloriesConsume, 6), ' ') from Exercise");
-        };
-        recalculateStoredData(*journal.data, {300, u"I"_s, 59});
-        QCOMPARE(calories(), u"6.0 5.0"_s);
-        recalculateStoredData(*journal.data, {71, u"M"_s, 59});
-        QCOMPARE(calories(), u"3.130512 5.0"_s); // 3 x 71 / 68.04, from the base and not from 6
-    }
 };
 
 QTEST_APPLESS_MAIN(tst_recalculation)
