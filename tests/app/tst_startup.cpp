@@ -101,7 +101,19 @@ void tst_startup::refusesUnusableDatabases()
         QFile::remove(program.database);
         Connection::create(program.database)->exec("create table Common (weight)");
     };
-    for (const Spoil spoil : {missing, lastPageLost, withoutTheseTables}) {
+    const Spoil empty = [](TestProgram &program) { QVERIFY(QFile::resize(program.database, 0)); };
+    const Spoil garbage = [](TestProgram &program) {
+        QFile file(program.database);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(65536, 'x')) > 0);
+    };
+    const Spoil unencrypted = [](TestProgram &program) {
+        QFile::remove(program.database);
+        SQLite::Database(program.database.toStdString(),
+                         SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+            .exec("create table Common (weight)");
+    };
+    for (const Spoil spoil :
+         {missing, empty, garbage, lastPageLost, unencrypted, withoutTheseTables}) {
         TestProgram program;
         spoil(program);
         verifyRefused(program, [&] { return program.startUp()->run(); });
