@@ -246,8 +246,11 @@ void frmMain::showNextDay()
 
 void frmMain::setDate()
 {
+    const QDate before = m_session.currentDate();
     frmDate(m_session, this).exec();
-    RePaintGraph();
+    // Another day has been shown already, when the session told of it.
+    if (m_session.currentDate() == before)
+        RePaintGraph();
 }
 
 template<typename Editor>

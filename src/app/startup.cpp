@@ -30,7 +30,8 @@ bool StartUp::run()
     if (!openDatabase())
         return false;
     try {
-        if (!makeSession() || !runFirstStart())
+        makeSession();
+        if (!runFirstStart())
             return false;
         m_mainWindow = std::make_unique<frmMain>(*m_session, m_settings.messages);
     } catch (const std::runtime_error &error) {
@@ -56,11 +57,10 @@ bool StartUp::openDatabase()
     }
 }
 
-bool StartUp::makeSession()
+void StartUp::makeSession()
 {
     m_session = std::make_unique<Session>(*m_data, m_settings.clock, m_settings.locale);
     m_session->readCommonParameters();
-    return true;
 }
 
 bool StartUp::runFirstStart()

@@ -37,7 +37,7 @@ public:
 
 private:
     bool openDatabase();
-    bool makeSession();
+    void makeSession();
     bool runFirstStart();
 
     StartUpSettings m_settings;
