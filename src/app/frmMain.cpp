@@ -279,9 +279,16 @@ void frmMain::addMeal()
     openEditor<frmMealConsume>(0, true);
 }
 
+/// The next entry is proposed at a time chosen on the chart; its captions have none.
+void frmMain::takeTime(QTime time)
+{
+    if (time.isValid())
+        m_session.setCurrentTime(time);
+}
+
 void frmMain::chooseMeal(int id, bool hit, QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     if (hit && id != 0)
         openEditor<frmMealConsume>(id, false);
     else
@@ -290,7 +297,7 @@ void frmMain::chooseMeal(int id, bool hit, QTime time)
 
 void frmMain::addMealAt(QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     openEditor<frmMealConsume>(0, false);
 }
 
@@ -306,7 +313,7 @@ void frmMain::addActivity()
 
 void frmMain::chooseActivity(int id, bool hit, QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     if (hit && id != 0)
         openEditor<frmExercisePerform>(id, false);
     else
@@ -315,7 +322,7 @@ void frmMain::chooseActivity(int id, bool hit, QTime time)
 
 void frmMain::addActivityAt(QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     openEditor<frmExercisePerform>(0, false);
 }
 

@@ -50,6 +50,7 @@ private:
     void addMeal();
     void chooseMeal(int id, bool hit, QTime time);
     void addMealAt(QTime time);
+    void takeTime(QTime time);
     void openMeasurements();
     void addMeasurement();
     void addNote();

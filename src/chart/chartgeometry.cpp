@@ -27,6 +27,7 @@ public:
         : m_day(day)
         , m_metrics(metrics)
         , m_texts(texts)
+        , m_notDrawn(texts.notDrawn(day))
         , m_figures(dayFigures(day))
         , m_curve(balanceCurve(day))
     {
@@ -49,6 +50,7 @@ public:
         placeValueLabels();
         placeBalance();
         placeHints();
+        placeNotDrawn();
         return std::move(g);
     }
 
@@ -77,11 +79,13 @@ private:
     void placeValueLabels();
     void placeBalance();
     void placeHints();
+    void placeNotDrawn();
 
     ChartGeometry g;
     const DayData &m_day;
     const TextMetrics &m_metrics;
     const ChartTexts &m_texts;
+    const QStringList m_notDrawn; ///< a line for each below the time axis
     DayFigures m_figures;
     std::vector<BalancePoint> m_curve;
     QRectF m_figureRow;
@@ -104,7 +108,8 @@ void Layout::layRows()
     m_figureRow = QRectF(g.area.left() + em(margin), g.area.top() + em(margin),
                          std::max(1.0, g.area.width() - em(2 * margin)), m_metrics.figureHeight);
     m_plotTop = m_figureRow.bottom() + em(0.8);
-    m_plotBottom = std::max(m_plotTop + 2, g.area.bottom() - em(2.1));
+    m_plotBottom =
+        std::max(m_plotTop + 2, g.area.bottom() - em(2.1 + 1.1 * double(m_notDrawn.size())));
     g.balanceZeroY = std::round((m_plotTop + m_plotBottom) / 2);
 }
 
@@ -391,6 +396,16 @@ void Layout::placeHints()
         place(Lane::Meals, g.meals.area.center().y());
     if (m_day.activities.empty())
         place(Lane::Activities, g.activities.area.top() + em(1.2));
+}
+
+void Layout::placeNotDrawn()
+{
+    double y = g.timeAxis.bottom();
+    for (const QString &sentence : m_notDrawn) {
+        g.texts.push_back({QRectF(m_figureRow.left(), y, m_figureRow.width(), em(1.1)), sentence,
+                           Qt::AlignLeft | Qt::AlignVCenter});
+        y += em(1.1);
+    }
 }
 
 } // namespace

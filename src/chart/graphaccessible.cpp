@@ -137,7 +137,7 @@ int GraphAccessible::indexOf(const Target &target) const
 QAccessibleInterface *GraphAccessible::childAt(int x, int y) const
 {
     const QPoint point = graph()->mapFromGlobal(QPoint(x, y));
-    return child(indexOf(targetAt(graph()->m_geometry, point)));
+    return child(indexOf(targetAt(graph()->geometry(), point)));
 }
 
 QAccessibleInterface *GraphAccessible::focusChild() const
@@ -152,7 +152,7 @@ QString GraphAccessible::childName(int index) const
 
 QRect GraphAccessible::childRect(int index) const
 {
-    const QRect rect = boundsOf(graph()->m_geometry, targets()[size_t(index)]).toAlignedRect();
+    const QRect rect = boundsOf(graph()->geometry(), targets()[size_t(index)]).toAlignedRect();
     return {graph()->mapToGlobal(rect.topLeft()), rect.size()};
 }
 

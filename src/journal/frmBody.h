@@ -26,7 +26,6 @@ protected:
     void recordStored() override;
 
 private:
-    QLineEdit *makeGirth(const QString &name, const QString &accessibleName);
     QLayout *makeForm();
     void makeChecks();
     qint32 otherMeasurement();

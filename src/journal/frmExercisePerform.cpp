@@ -118,7 +118,7 @@ void frmExercisePerform::recalculate()
     if (!performed || !dcbExercise->boundValue() || !activities().isOpen() || activities().isEof())
         return;
     try {
-        const double perUnit = activities().number("CaloriesConsume"_L1);
+        const Currency perUnit = Currency::fromDouble(activities().number("CaloriesConsume"_L1));
         lblCalories->setText(QString::number(performanceFigure(*performed, perUnit)));
     } catch (const OverflowError &) {
         // A figure too large to be any person's activity stays blank.

@@ -17,7 +17,6 @@ struct ValueScale
 
     double y(double value) const { return bottomY - (value - low) / (high - low) * height(); }
     double height() const { return bottomY - topY; }
-    bool holds(double value) const { return value >= low && value <= high; }
     /// The multiples of the step, or of a few steps, that stand at least so far apart.
     std::vector<double> ticks(double apart) const;
 };
