@@ -348,12 +348,15 @@ void frmMain::printChart()
 {
     bool printed = false;
     {
+        QWidget *const hadFocus = focusWidget();
         // What is out of sight on paper is out of sight here, and can't be clicked meanwhile.
         m_view->setNavigationVisible(false);
         tlbToolBar->hide();
-        const auto showAgain = qScopeGuard([this] {
+        const auto showAgain = qScopeGuard([this, hadFocus] {
             m_view->setNavigationVisible(true);
             tlbToolBar->show();
+            if (hadFocus)
+                hadFocus->setFocus();
         });
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });

@@ -20,6 +20,9 @@ class frmMeasurements : public QDialog
 public:
     frmMeasurements(Session &session, Messages &messages, QWidget *parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     RecordList *makeMeasurementList();
     RecordList *makeNoteList();

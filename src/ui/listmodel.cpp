@@ -1,5 +1,7 @@
 #include "ui/listmodel.h"
 
+#include "session/excerpt.h"
+
 #include <QFont>
 #include <QTextDocument>
 
@@ -72,7 +74,7 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
     const ListColumn &column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return row.texts.value(index.column());
+        return excerptOf(row.texts.value(index.column()), mostInCell);
     case Qt::ToolTipRole:
         return toolTip(index);
     case Qt::TextAlignmentRole:
@@ -96,7 +98,7 @@ QVariant ListModel::toolTip(const QModelIndex &index) const
     if (row.toolTip.isEmpty() && text.size() <= longText)
         return {};
     // Rich text is what tooltips wrap; the text's own markup is not interpreted.
-    return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+    return Qt::convertFromPlainText(excerptOf(text, mostInToolTip), Qt::WhiteSpaceNormal);
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -3,10 +3,10 @@
 #include "data/storeerror.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
+#include "ui/reportstyle.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
@@ -14,20 +14,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-/// Room between the columns: a number at the right of its column would else touch the text at the
-/// left of the next.
-class ReportStyle : public QProxyStyle
-{
-public:
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override
-    {
-        if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
-            return widget->fontMetrics().averageCharWidth();
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
 
 /// A list as wide as its columns, unless told otherwise, and a screenful high.
 class ReportView : public QTreeView
@@ -68,10 +54,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
     , m_buttons(new QHBoxLayout)
 {
-    auto *style = new ReportStyle;
-    style->setParent(this);
-    m_list->setStyle(style);
-    m_list->header()->setStyle(style);
+    setReportStyle(*m_list);
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
     m_list->setRootIsDecorated(false);
@@ -241,11 +224,15 @@ int RecordList::contentsWidth(int column) const
     return width;
 }
 
+// Columns only grow, so that they stand still while one day or category after the other is shown.
 void RecordList::sizeColumns()
 {
     const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        if (!m_model->column(column).isLongText)
-            m_list->setColumnWidth(column, qMin(contentsWidth(column), widest));
+        if (m_model->column(column).isLongText)
+            continue;
+        const int before = m_isSized ? m_list->columnWidth(column) : 0;
+        m_list->setColumnWidth(column, qMax(before, qMin(contentsWidth(column), widest)));
     }
+    m_isSized = true;
 }

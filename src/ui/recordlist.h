@@ -93,4 +93,5 @@ private:
     QPushButton *m_edit;
     QPushButton *m_delete;
     QHBoxLayout *m_buttons;
+    bool m_isSized = false;
 };

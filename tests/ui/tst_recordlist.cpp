@@ -97,6 +97,10 @@ void tst_recordlist::columnsShowTheirWidestText()
     QVERIFY(f.view.columnWidth(0) < metrics.horizontalAdvance(tooWide) / 2);
     const QModelIndex longOne = f.list.model()->index(1450, 0);
     QVERIFY(longOne.data(Qt::ToolTipRole).toString().contains(tooWide));
+    f.rows.resize(2); // of another day
+    const int before = f.view.columnWidth(0);
+    f.list.refresh();
+    QCOMPARE(f.view.columnWidth(0), before);
 }
 
 QTEST_MAIN(tst_recordlist)
