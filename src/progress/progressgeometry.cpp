@@ -81,7 +81,13 @@ private:
     void placeMonth(const MonthPart &part);
     void placeNotes();
     void placeLines();
-    void placeLineLabels();
+    void placeLineLabels(const Lane &lane);
+    /// A line of text in the margin that the plot leaves at its right.
+    QRectF besidePlot(double top) const
+    {
+        const double left = g.days.right() + em(0.5);
+        return {left, top, g.area.right() - left, g.unit};
+    }
     void placeBalance();
     void placeTicks();
     void placeTitles();
@@ -194,7 +200,8 @@ void Layout::layColumns()
     for (const Series series : allSeries)
         rightLabels = std::max(rightLabels, width(lineLabel(series)));
     if (m_summary.averageBalance)
-        rightLabels = std::max(rightLabels, width(m_texts.change(*m_summary.averageBalance)));
+        rightLabels =
+            std::max(rightLabels, width(m_texts.change(std::round(*m_summary.averageBalance))));
 
     const double left = std::round(g.area.left() + em(margin) + leftLabels + em(0.4));
     const double right = std::round(g.area.right() - em(margin) - rightLabels - em(0.5));
@@ -280,37 +287,34 @@ void Layout::placeLines()
     }
     for (const Series series : allSeries)
         g.lines.push_back(seriesLine(m_series, series, g.laneOf(series), g.days));
-    placeLineLabels();
+    placeLineLabels(g.weight);
+    placeLineLabels(g.girths);
 }
 
-/// What a line is stands at its end; labels that would touch are moved apart.
-void Layout::placeLineLabels()
+/// What a line is stands right of the plot, at the height of its last value. Labels that would
+/// touch are moved apart; one for which the lane is too low is left out.
+void Layout::placeLineLabels(const Lane &lane)
 {
-    std::vector<SeriesLine *> girths;
+    std::vector<SeriesLine *> lines;
     for (SeriesLine &line : g.lines) {
-        if (line.marks.empty())
-            continue;
-        const QString words = lineLabel(line.series);
-        const QPointF end = line.marks.back().at;
-        line.label = {QRectF(end.x() + em(0.5), end.y() - g.unit / 2, width(words), g.unit), words,
-                      Qt::AlignLeft | Qt::AlignVCenter, TextRole::Plain, Tone::Ink};
-        if (line.series != Series::Weight)
-            girths.push_back(&line);
+        if (&g.laneOf(line.series) == &lane && !line.marks.empty())
+            lines.push_back(&line);
     }
-    std::sort(girths.begin(), girths.end(), [](const SeriesLine *a, const SeriesLine *b) {
-        return a->label.rect.top() < b->label.rect.top();
+    std::sort(lines.begin(), lines.end(), [](const SeriesLine *a, const SeriesLine *b) {
+        return a->marks.back().at.y() < b->marks.back().at.y();
     });
-    double lowest = g.girths.area.bottom() + g.unit / 2;
-    for (auto line = girths.rbegin(); line != girths.rend(); ++line) {
-        QRectF &rect = (*line)->label.rect;
-        rect.moveBottom(std::min(rect.bottom(), lowest));
-        lowest = rect.top();
+    lines.resize(std::min(lines.size(), size_t(lane.area.height() / g.unit)));
+    double lowest = lane.area.bottom();
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+        const double bottom = std::min((*line)->marks.back().at.y() + g.unit / 2, lowest);
+        lowest = bottom - g.unit;
+        (*line)->label = {besidePlot(bottom - g.unit), lineLabel((*line)->series),
+                          Qt::AlignLeft | Qt::AlignVCenter};
     }
-    double highest = g.girths.area.top() - g.unit / 2;
-    for (SeriesLine *line : girths) {
-        QRectF &rect = line->label.rect;
-        rect.moveTop(std::max(rect.top(), highest));
-        highest = rect.bottom();
+    double highest = lane.area.top();
+    for (SeriesLine *line : lines) {
+        line->label.rect.moveTop(std::max(line->label.rect.top(), highest));
+        highest = line->label.rect.bottom();
     }
 }
 
@@ -326,17 +330,14 @@ void Layout::placeBalance()
         return;
     g.hasAverage = true;
     g.averageY = g.balance.scale.y(*m_summary.averageBalance);
-    text(QRectF(g.days.right() + em(0.5), g.averageY - g.unit / 2,
-                g.area.right() - g.days.right() - em(0.5), g.unit),
+    const double top = std::min(g.averageY - g.unit / 2, g.balance.area.bottom() - g.unit);
+    text(besidePlot(std::max(top, g.balance.area.top())),
          m_texts.change(std::round(*m_summary.averageBalance)), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 void Layout::placeTicks()
 {
     for (Lane *lane : {&g.weight, &g.girths, &g.balance}) {
-        const bool isKnown = lane == &g.balance || m_series.hasBody();
-        if (!isKnown)
-            continue;
         for (const double value : lane->scale.ticks(em(ticksApart))) {
             const double y = lane->scale.y(value);
             lane->grid.push_back(y);

@@ -81,6 +81,7 @@ private slots:
             QCOMPARE(float(scale.high), expected.maximum);
             QCOMPARE(scale.y(scale.low), 110.0);
         }
+        QVERIFY(ValueScale().ticks(20).empty()); // of a lane without values
         QVERIFY_THROWS_EXCEPTION(OverflowError, scaleOf({1, 1e30F}, 6, 0.1, 0, 100));
     }
     void everythingFits_data()
