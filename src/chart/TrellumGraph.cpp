@@ -18,6 +18,7 @@ using namespace daychart;
 
 TrellumGraph::TrellumGraph(QWidget *parent)
     : QWidget(parent)
+    , m_targets(allTargets(m_shown))
     , m_fonts(font(), logicalDpiY(), this)
     , m_colors(ChartColors::of(palette()))
 {
@@ -61,6 +62,7 @@ void TrellumGraph::repaintChart()
 {
     const int id = idOf(m_shown, m_cursor.target);
     m_shown = m_held;
+    m_targets = allTargets(m_shown);
     m_cursor.target = sameItem(m_cursor.target, id);
     m_pointed = {};
     m_pressed = {};
@@ -331,7 +333,7 @@ Target TrellumGraph::sameItem(const Target &before, int id) const
 {
     if (before.kind != Target::Kind::Item)
         return before;
-    for (const Target &target : allTargets(m_shown)) {
+    for (const Target &target : m_targets) {
         if (target.isItem(before.lane) && idOf(m_shown, target) == id)
             return target;
     }

@@ -92,6 +92,7 @@ private:
 
     daychart::DayData m_held;  ///< as handed over
     daychart::DayData m_shown; ///< as of the last repaintChart; what geometry and cursors refer to
+    std::vector<daychart::Target> m_targets; ///< all that can be chosen of what is shown
     bool m_clock24 = true;
     std::optional<daychart::ChartGeometry> m_geometry; ///< of what is shown, in this size
     daychart::ChartFonts m_fonts;

@@ -95,9 +95,9 @@ TrellumGraph *GraphAccessible::graph() const
     return static_cast<TrellumGraph *>(object());
 }
 
-std::vector<Target> GraphAccessible::targets() const
+const std::vector<Target> &GraphAccessible::targets() const
 {
-    return allTargets(graph()->m_shown);
+    return graph()->m_targets;
 }
 
 int GraphAccessible::childCount() const
@@ -129,7 +129,7 @@ int GraphAccessible::indexOfChild(const QAccessibleInterface *child) const
 
 int GraphAccessible::indexOf(const Target &target) const
 {
-    const std::vector<Target> all = targets();
+    const std::vector<Target> &all = targets();
     const auto found = std::find(all.begin(), all.end(), target);
     return found == all.end() ? -1 : int(found - all.begin());
 }

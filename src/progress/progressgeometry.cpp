@@ -303,8 +303,8 @@ void Layout::placeLineLabels(const Lane &lane)
     std::sort(lines.begin(), lines.end(), [](const SeriesLine *a, const SeriesLine *b) {
         return a->marks.back().at.y() < b->marks.back().at.y();
     });
-    lines.resize(std::min(lines.size(), size_t(lane.area.height() / g.unit)));
-    double lowest = lane.area.bottom();
+    double lowest = lane.area.bottom() + g.unit / 2; // the next lane's title is further down
+    lines.resize(std::min(lines.size(), size_t((lowest - lane.area.top()) / g.unit)));
     for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
         const double bottom = std::min((*line)->marks.back().at.y() + g.unit / 2, lowest);
         lowest = bottom - g.unit;

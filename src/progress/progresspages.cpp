@@ -95,7 +95,7 @@ void paintPages(QPainter &painter, QPagedPaintDevice &paper, const PageContents 
 QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution)
 {
     constexpr double metersPerInch = 0.0254;
-    constexpr double leastHeight = 15; // of a column of notes, in lines
+    constexpr double leastHeight = 8; // of a column of notes, in lines
     const int dotsPerMeter = int(std::lround(resolution / metersPerInch));
     const auto blank = [dotsPerMeter](QSize size) {
         QImage image(size, QImage::Format_RGB32);
