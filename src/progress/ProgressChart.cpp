@@ -48,7 +48,7 @@ QSize ProgressChart::sizeHint() const
 
 QSize ProgressChart::minimumSizeHint() const
 {
-    return QSize(26, 19) * fontMetrics().height();
+    return QSize(26, 22) * fontMetrics().height();
 }
 
 void ProgressChart::showNote(std::optional<size_t> note)
