@@ -18,9 +18,9 @@ constexpr double columnWidth = 15;
 constexpr double columnGap = 1.2;
 constexpr double headingHeight = 1.6;
 
-// Of a note, in characters: about a page on paper.
+// Characters: of a note on paper about a page, in a picture as many of all notes together.
 constexpr qsizetype mostOnPaper = 10000;
-constexpr qsizetype mostInPicture = 1000;
+constexpr qsizetype mostInPicture = 40000;
 
 double lineHeight(const QFont &font, QPaintDevice *device)
 {
@@ -113,8 +113,9 @@ QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution)
     const double count =
         std::max(1.0, std::floor((chart.width() + gap) / (columnWidth * line + gap)));
     const double column = (chart.width() + gap) / count - gap;
+    const auto noteCount = qsizetype(contents.series.notes.size());
     const NoteFlow notes(contents.series, contents.texts, contents.font, &sample, column,
-                         mostInPicture);
+                         mostInPicture / std::max<qsizetype>(20, noteCount));
     const auto columns = notes.columnsBeside(size_t(count), leastHeight * line);
     double notesHeight = 0;
     for (const NoteFlow::Column &dealt : columns)
