@@ -54,7 +54,8 @@ public:
             const QString chosen = selectedFiles().constFirst();
             if (isPdf(chosen) || chosen.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
                 return chosen;
-            const QString path = QStringLiteral("%1.%2").arg(chosen, ending());
+            const QString dot = chosen.endsWith(u'.') ? QString() : QStringLiteral(".");
+            const QString path = chosen + dot + ending();
             if (!QFile::exists(path) || mayReplace(path))
                 return path;
         }
@@ -109,7 +110,10 @@ void savePicture(QWidget *parent, Messages &messages, const PageContents &conten
         const QString failure = write(path, contents, chartSize, parent->logicalDpiY());
         if (failure.isEmpty())
             return;
-        messages.error(parent, PictureDialog::tr("Can't save the picture: %1").arg(failure));
+        messages.error(
+            parent,
+            PictureDialog::tr("Can't save the picture: %1. Please choose another name or folder")
+                .arg(failure));
     }
 }
 
