@@ -29,7 +29,7 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        const QVariant usual = ListModel::data(index, role);
+        QVariant usual = ListModel::data(index, role);
         const bool isBody = index.column() >= firstBody && index.column() <= lastBody;
         if (!isBody || m_series.at(qint16(index.row() + 1)).source != BodySource::FilledIn)
             return usual;

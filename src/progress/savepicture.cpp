@@ -22,7 +22,7 @@ bool isPdf(const QString &path)
 QString pictureFolder()
 {
     for (const auto place : {QStandardPaths::PicturesLocation, QStandardPaths::DocumentsLocation}) {
-        const QString folder = QStandardPaths::writableLocation(place);
+        QString folder = QStandardPaths::writableLocation(place);
         if (!folder.isEmpty() && QDir(folder).exists())
             return folder;
     }
@@ -51,11 +51,11 @@ public:
     QString askForPath()
     {
         while (exec() == Accepted) {
-            const QString chosen = selectedFiles().constFirst();
+            QString chosen = selectedFiles().constFirst();
             if (isPdf(chosen) || chosen.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
                 return chosen;
             const QString dot = chosen.endsWith(u'.') ? QString() : QStringLiteral(".");
-            const QString path = chosen + dot + ending();
+            QString path = chosen + dot + ending();
             if (!QFile::exists(path) || mayReplace(path))
                 return path;
         }
