@@ -71,6 +71,12 @@ frmMeasurements::frmMeasurements(Session &session, Messages &messages, QWidget *
     makeConnections();
 }
 
+// The focus moves on once more while the lists are being deleted, and must not be followed then.
+frmMeasurements::~frmMeasurements()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 RecordList *frmMeasurements::makeMeasurementList()
 {
     RecordList::Actions actions;

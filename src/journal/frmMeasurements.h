@@ -19,6 +19,7 @@ class frmMeasurements : public QDialog
 
 public:
     frmMeasurements(Session &session, Messages &messages, QWidget *parent = nullptr);
+    ~frmMeasurements() override;
 
 private:
     RecordList *makeMeasurementList();
