@@ -63,11 +63,35 @@ void StartUp::makeSession()
     m_session->readCommonParameters();
 }
 
+// A file that doesn't tell is put right, so that this is said once.
+void StartUp::tellDamage(Installation &installation)
+{
+    const QString text =
+        tr("The file Corvana.ini in the program folder is damaged or can't be read. It remembers "
+           "that the first start is done, and that is taken for granted now: no date in your "
+           "journal is changed.");
+    m_settings.messages.show(nullptr, Messages::Icon::Exclamation, tr("Error"), text);
+    try {
+        installation.setFirstStartDone();
+    } catch (const std::runtime_error &) {
+        // Where it can't be written, it is told of again at the next start.
+    }
+}
+
 bool StartUp::runFirstStart()
 {
     Installation installation(m_settings.programFolder);
-    if (installation.isFirstStartDone())
-        return true;
+    if (installation.isDamaged())
+        tellDamage(installation);
+    else if (!installation.isFirstStartDone())
+        return askForParameters(installation);
+    return true;
+}
+
+bool StartUp::askForParameters(Installation &installation)
+{
+    // Found out afterwards, the dates would be moved again at every start.
+    installation.requireWritable();
     m_settings.messages.information(nullptr,
                                     tr("Because it is a very first start of this program, you will "
                                        "be prompted now to specify common parameters."));

@@ -65,6 +65,7 @@ private slots:
     void firstStartInItsOrder();
     void interruptedFirstStartBeginsAnew();
     void failedMoveBeginsAnew();
+    void damagedMemoryMovesNothing();
 
 private:
     void verifyRefused(TestProgram &program, const std::function<bool()> &run);
@@ -223,6 +224,25 @@ void tst_startup::failedMoveBeginsAnew()
     program.clock.setNow(QDateTime(QDate(2026, 1, 5), QTime(8, 0))); // the clock is put right
     QVERIFY(firstStart(*program.startUp(), accept));
     QVERIFY(program.isFirstStartDone());
+}
+
+// The user's measurements stay on their days, and no file beside it delays the start.
+void tst_startup::damagedMemoryMovesNothing()
+{
+    TestProgram program;
+    const QByteArray before = program.bytes();
+    for (const char *name : {"Corvana.ini", "Corvana.ini.lock"}) {
+        QFile file(program.folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(program.startUp()->run());
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(program.messages.takeText().contains("Corvana.ini"));
+    QVERIFY(program.startUp()->run());
+    QVERIFY(program.messages.said.empty()); // it has been put right
+    QVERIFY(program.bytes() == before);
 }
 
 QTEST_MAIN(tst_startup)
