@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "app/frmMain.h"
+#include "data/pendingrollback.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -14,6 +15,33 @@ namespace {
 QString tr(const char *text)
 {
     return QCoreApplication::translate("StartUp", text);
+}
+
+// Why a store that was cut short can't be undone, and what to do; empty where it can.
+QString rollbackAdvice(const QString &databasePath)
+{
+    switch (examineRollback(databasePath)) {
+    case PendingRollback::None:
+    case PendingRollback::Sound:
+        return {};
+    case PendingRollback::Foreign:
+        return tr("The file Corvana.mdb-journal beside it was left by a store that was cut short, "
+                  "but not in this Corvana.mdb: it would spoil it. Have you put back a copy? Then "
+                  "move Corvana.mdb-journal into another folder and start again. Nothing has been "
+                  "changed.");
+    case PendingRollback::Damaged:
+        return tr("A store was cut short, and the file is damaged: undoing the store with "
+                  "Corvana.mdb-journal does not make it whole. Copy both files into another folder "
+                  "and keep them. Then put back your last copy of Corvana.mdb, or, where you have "
+                  "none, remove Corvana.mdb-journal only, to see what can still be read. Nothing "
+                  "has been changed.");
+    case PendingRollback::Untried:
+        break;
+    }
+    return tr(
+        "A store was cut short and has to be undone, which is tried on a copy first, but there "
+        "is no room for it in the folder for temporary files. Please make room and start "
+        "again. Nothing has been changed.");
 }
 
 } // namespace
@@ -46,15 +74,23 @@ bool StartUp::run()
 
 bool StartUp::openDatabase()
 {
-    try {
-        m_data = std::make_unique<deData>(Installation(m_settings.programFolder).databasePath());
-        return true;
-    } catch (const StoreError &) {
-        m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
-                                 tr("Can't access database. Please make sure the database file "
-                                    "Corvana.mdb is present in the program folder."));
-        return false;
+    const QString path = Installation(m_settings.programFolder).databasePath();
+    const QString advice = rollbackAdvice(path);
+    if (advice.isEmpty()) {
+        try {
+            m_data = std::make_unique<deData>(path);
+            return true;
+        } catch (const StoreError &) {
+            // Whatever the reason, it is told below.
+        }
     }
+    QStringList lines = {tr("Can't access database. Please make sure the database file Corvana.mdb "
+                            "is present in the program folder.")};
+    if (!advice.isEmpty())
+        lines += {QString(), advice};
+    m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
+                             lines.join(Session::lineBreak()));
+    return false;
 }
 
 void StartUp::makeSession()

@@ -21,10 +21,16 @@ struct TestProgram
 {
     TestProgram() { makeEmptyJournal(database); }
 
-    QByteArray bytes() const
+    QByteArray bytes(const QString &suffix = {}) const
     {
-        QFile file(database);
+        QFile file(database + suffix);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void setBytes(const QByteArray &bytes, const QString &suffix = {}) const
+    {
+        QFile file(database + suffix);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("the file can't be written");
     }
     std::unique_ptr<StartUp> startUp()
     {
@@ -66,6 +72,7 @@ private slots:
     void interruptedFirstStartBeginsAnew();
     void failedMoveBeginsAnew();
     void damagedMemoryMovesNothing();
+    void undoesOnlyItsOwnStore();
 
 private:
     void verifyRefused(TestProgram &program, const std::function<bool()> &run);
@@ -243,6 +250,54 @@ void tst_startup::damagedMemoryMovesNothing()
     QVERIFY(program.startUp()->run());
     QVERIFY(program.messages.said.empty()); // it has been put right
     QVERIFY(program.bytes() == before);
+}
+
+void tst_startup::undoesOnlyItsOwnStore()
+{
+    TestProgram program;
+    Installation(program.folder.path()).setFirstStartDone();
+    const QString journal = u"-journal"_qs;
+    const QByteArray copy = program.bytes();
+    // More rows than the engine keeps in memory: some are in the file before the store is whole.
+    QByteArray torn;
+    QByteArray rollback;
+    {
+        Connection other(program.database);
+        other.exec("insert into Body values (1, 46000, 70, 90, 80, 95, 'M')");
+        other.exec("PRAGMA cache_size = 5; begin; with recursive n(i) as (select 1 union all"
+                   " select i + 1 from n where i < 2000)"
+                   " insert into UserNote select i, 46000, 46000, hex(randomblob(20)) from n");
+        torn = program.bytes();
+        rollback = program.bytes(journal);
+    }
+    QVERIFY(torn.size() > copy.size());
+    const auto start = [&](const QByteArray &database) {
+        program.messages.said.clear();
+        program.setBytes(database);
+        program.setBytes(rollback, journal);
+        return program.startUp()->run();
+    };
+    const auto rows = [&] {
+        Connection other(program.database);
+        return queryRows(other, "select count(*), (select count(*) from UserNote) from Body");
+    };
+    QVERIFY(start(torn));
+    QCOMPARE(rows(), QStringList{u"1|0"_qs});
+    QVERIFY(program.messages.said.empty());
+
+    QByteArray damaged = torn;
+    damaged.replace(7 * 4096, 4096, QByteArray(4096, 'x'));
+    for (const auto &[database, advice] :
+         {std::pair(copy, "put back a copy?"), std::pair(damaged, "the file is damaged")}) {
+        QVERIFY(!start(database));
+        QVERIFY(program.messages.takeText().contains(QLatin1String(advice)));
+        QVERIFY(program.bytes() == database && program.bytes(journal) == rollback);
+    }
+    // As it was advised.
+    program.setBytes(copy);
+    QVERIFY(QFile::remove(program.database + journal));
+    QVERIFY(program.startUp()->run());
+    QCOMPARE(rows(), QStringList{u"0|0"_qs});
 }
 
 QTEST_MAIN(tst_startup)
