@@ -16,7 +16,7 @@ frmExercises::frmExercises(Session &session, Messages &messages, QWidget *parent
 {
 }
 
-std::vector<ListRow> frmExercises::rows()
+ListRows frmExercises::rows()
 {
     Recordset &activities = session().data().rsExerciseSorted;
     activities.reopen();

@@ -12,7 +12,7 @@ frmMealCategories::frmMealCategories(Session &session, Messages &messages, QWidg
 {
 }
 
-std::vector<ListRow> frmMealCategories::rows()
+ListRows frmMealCategories::rows()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
     categories.reopen();

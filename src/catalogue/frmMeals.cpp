@@ -59,7 +59,7 @@ void frmMeals::categoryChanged()
         list()->refresh();
 }
 
-std::vector<ListRow> frmMeals::rows()
+ListRows frmMeals::rows()
 {
     const std::optional<qint32> category = dcbMealCategory->boundValue();
     if (!category)

@@ -24,6 +24,12 @@ Value converted(const Value &value, ParameterType type)
     return value;
 }
 
+bool isIdentifier(const Value &value)
+{
+    const auto *whole = std::get_if<qint64>(&value.storage());
+    return whole && *whole == qint64(qint32(*whole));
+}
+
 } // namespace
 
 void bindParameters(SQLite::Statement &statement, const Command &command,
@@ -76,8 +82,14 @@ void Recordset::readRows()
     m_values.clear();
     m_rowCount = 0;
     m_current = 0;
+    m_leftOut = 0;
     const int columns = m_statement->getColumnCount();
+    const int key = m_command.key ? int(columnOf(QLatin1StringView(m_command.key))) : -1;
     while (m_statement->executeStep()) {
+        if (key >= 0 && !isIdentifier(columnValue(*m_statement, key))) {
+            ++m_leftOut;
+            continue;
+        }
         for (int i = 0; i < columns; ++i)
             m_values.push_back(columnValue(*m_statement, i));
         ++m_rowCount;

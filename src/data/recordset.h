@@ -37,6 +37,9 @@ public:
 
     bool isEof() const { return m_current >= m_rowCount; }
     size_t rowCount() const { return m_rowCount; }
+    /// Rows of the last opening that are not among these, because their key is beyond 32 bits:
+    /// nothing in the program could refer to them. One of them must not keep the others away.
+    size_t leftOut() const { return m_leftOut; }
     void moveFirst() { m_current = 0; }
     void moveNext() { ++m_current; }
     /// Stands on the first row whose column holds this whole number; false, and the position
@@ -86,6 +89,7 @@ private:
     std::vector<Value> m_values; ///< row by row
     size_t m_rowCount = 0;
     size_t m_current = 0;
+    size_t m_leftOut = 0;
     bool m_open = false;
     bool m_adding = false;
     std::vector<Change> m_changes;

@@ -67,7 +67,7 @@ void DayList::showDay(QDate day)
     m_list->refresh();
 }
 
-std::vector<ListRow> DayList::load() const
+ListRows DayList::load() const
 {
     Recordset &source = rows();
     const auto close = qScopeGuard([&source] { source.close(); });
@@ -84,7 +84,7 @@ std::vector<ListRow> DayList::load() const
         list.emplace_back();
         list.push_back(totalsRow(totals));
     }
-    return list;
+    return {std::move(list), source.leftOut()};
 }
 
 ListRow DayList::totalsRow(const DayTotals &totals) const

@@ -91,7 +91,7 @@ void frmExercisePerform::Populate()
     dcbExercise->setBoundValue(source().integer("ExerciseID"_L1));
     dtpBeginTime->setTime(source().time("timeBeg"_L1));
     dtpEndTime->setTime(source().time("timeEnd"_L1));
-    txtQty->setText(session().text().toText(source().currency("Qty"_L1)));
+    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
 }
 
 void frmExercisePerform::activityChanged()

@@ -24,6 +24,19 @@ struct ListRow
     bool isTotal = false; ///< stands out from the rows that it adds up
 };
 
+/// The rows of a list, and how many more there are that can't be shown.
+struct ListRows
+{
+    ListRows(std::vector<ListRow> shown = {}, size_t notShown = 0)
+        : rows(std::move(shown))
+        , leftOut(notShown)
+    {
+    }
+
+    std::vector<ListRow> rows;
+    size_t leftOut;
+};
+
 class ListModel : public QAbstractTableModel
 {
     Q_OBJECT

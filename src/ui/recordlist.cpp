@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
@@ -66,6 +67,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+    , m_leftOut(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
     auto *style = new ReportStyle;
@@ -80,6 +82,9 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setAlternatingRowColors(true);
     arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
+    m_leftOut->setObjectName(QStringLiteral("lblLeftOut"));
+    m_leftOut->setWordWrap(true);
+    m_leftOut->hide();
     makeKeys();
     setNames({});
 
@@ -90,6 +95,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
+    layout->addWidget(m_leftOut);
     layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
@@ -138,12 +144,21 @@ void RecordList::makeKeys()
 
 void RecordList::refresh(const Reselection &reselection)
 {
-    m_model->setRows(m_actions.load());
+    ListRows loaded = m_actions.load();
+    m_model->setRows(std::move(loaded.rows));
+    tellLeftOut(loaded.leftOut);
     sizeColumns();
     if (!reselection.name.isEmpty())
         select(m_model->rowOfText(reselection.name));
     else if (reselection.id != 0)
         select(m_model->rowOfTag(reselection.id));
+}
+
+void RecordList::tellLeftOut(size_t count)
+{
+    m_leftOut->setVisible(count > 0);
+    m_leftOut->setText(
+        tr("Records that can't be shown, since their identifiers are out of range: %1").arg(count));
 }
 
 void RecordList::select(int row)
