@@ -6,9 +6,12 @@
 #include "session/samplejournal.h"
 #include "session/session.h"
 #include "settings/frmCommon.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::Literals;
 
 namespace {
 
@@ -75,38 +78,46 @@ bool StartUp::run()
 bool StartUp::openDatabase()
 {
     const QString path = Installation(m_settings.programFolder).databasePath();
-    const QString advice = rollbackAdvice(path);
-    if (advice.isEmpty()) {
+    QString cause = rollbackAdvice(path);
+    if (cause.isEmpty()) {
         try {
             m_data = std::make_unique<deData>(path);
             return true;
-        } catch (const StoreError &) {
-            // Whatever the reason, it is told below.
+        } catch (const StoreError &error) {
+            // A missing file counts as damaged, and of that the text below says enough.
+            if (error.kind() != StoreError::Kind::Damaged)
+                cause = causeOf(error);
         }
     }
-    QStringList lines = {tr("Can't access database. Please make sure the database file Corvana.mdb "
-                            "is present in the program folder.")};
-    if (!advice.isEmpty())
-        lines += {QString(), advice};
     m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
-                             lines.join(Session::lineBreak()));
+                             tr("Can't access database. Please make sure the database file "
+                                "Corvana.mdb is present in the program folder."),
+                             cause);
     return false;
 }
 
 void StartUp::makeSession()
 {
     m_session = std::make_unique<Session>(*m_data, m_settings.clock, m_settings.locale);
-    m_session->readCommonParameters();
+    try {
+        m_session->readCommonParameters();
+    } catch (const OverflowError &) {
+        m_session->setParameters({.measurement = m_data->rsCommon.text("Measurement"_L1)});
+        m_settings.messages.error(
+            nullptr,
+            tr("The body weight or the background calories are no number that the program can "
+               "hold"),
+            tr("Please set them anew: Settings, Common."));
+    }
 }
 
 // A file that doesn't tell is put right, so that this is said once.
 void StartUp::tellDamage(Installation &installation)
 {
-    const QString text =
-        tr("The file Corvana.ini in the program folder is damaged or can't be read. It remembers "
-           "that the first start is done, and that is taken for granted now: no date in your "
-           "journal is changed.");
-    m_settings.messages.show(nullptr, Messages::Icon::Exclamation, tr("Error"), text);
+    m_settings.messages.error(
+        nullptr, tr("The file Corvana.ini in the program folder is damaged or can't be read"),
+        tr("It remembers that the first start is done, and that is taken for granted now: no date "
+           "in your journal is changed."));
     try {
         installation.setFirstStartDone();
     } catch (const std::runtime_error &) {

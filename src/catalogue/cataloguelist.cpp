@@ -48,7 +48,7 @@ ListRows CatalogueList::readRows(Recordset &records, QLatin1StringView tag,
         rows.push_back(std::move(row));
     }
     records.close();
-    return {std::move(rows), records.leftOut()};
+    return {std::move(rows), records.leftOut(), records.isCutShort()};
 }
 
 void CatalogueList::remove(qint32 id)

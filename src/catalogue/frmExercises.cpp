@@ -19,7 +19,7 @@ frmExercises::frmExercises(Session &session, Messages &messages, QWidget *parent
 ListRows frmExercises::rows()
 {
     Recordset &activities = session().data().rsExerciseSorted;
-    activities.reopen();
+    activities.reopenReadable();
     return readRows(activities, "ExerciseID"_L1,
                     {"Name"_L1, "CaloriesConsume"_L1, "Unit"_L1, "DefaultQty"_L1});
 }

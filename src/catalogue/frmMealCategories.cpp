@@ -15,7 +15,7 @@ frmMealCategories::frmMealCategories(Session &session, Messages &messages, QWidg
 ListRows frmMealCategories::rows()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     return readRows(categories, "MealCategoryID"_L1, {"Name"_L1});
 }
 

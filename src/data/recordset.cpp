@@ -76,6 +76,7 @@ void Recordset::readRows()
 
     m_rows = {};
     m_leftOut = 0;
+    m_cutShort = false;
     const int columns = m_statement->getColumnCount();
     const int key = m_command.key ? int(columnOf(QLatin1StringView(m_command.key))) : -1;
     while (m_statement->executeStep()) {
@@ -93,6 +94,18 @@ void Recordset::reopen(std::initializer_list<Value> values)
 {
     close();
     open(values);
+}
+
+void Recordset::reopenReadable(std::initializer_list<Value> values)
+{
+    try {
+        reopen(values);
+    } catch (const StoreError &error) {
+        if (error.kind() != StoreError::Kind::Damaged)
+            throw;
+        m_open = true;
+        m_cutShort = true;
+    }
 }
 
 void Recordset::close()

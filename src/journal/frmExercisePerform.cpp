@@ -80,7 +80,7 @@ Recordset &frmExercisePerform::activities() const
 
 void frmExercisePerform::loadActivities()
 {
-    activities().reopen();
+    activities().reopenReadable();
     dcbExercise->setRows(activities(), "ExerciseID"_L1, "Name"_L1);
 }
 

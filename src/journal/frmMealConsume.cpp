@@ -104,7 +104,7 @@ Recordset &frmMealConsume::meals() const
 void frmMealConsume::loadCategories()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
     categories.close();
 }
@@ -126,7 +126,7 @@ void frmMealConsume::categoryChanged()
     const std::optional<qint32> category = dcbMealCategory->boundValue();
     if (!category)
         return;
-    meals().reopen({Value(*category)});
+    meals().reopenReadable({Value(*category)});
     dcbMeal->setRows(meals(), "MealID"_L1, "Name"_L1);
     meals().moveFirst();
     if (meals().isEof())

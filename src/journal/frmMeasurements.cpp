@@ -204,14 +204,14 @@ ListRows frmMeasurements::measurements() const
     const LocaleText &text = m_session.text();
     Recordset &source = m_session.data().rsBodySorted;
     std::vector<ListRow> rows;
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext())
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext())
         rows.push_back(
             {source.integer("BodyID"_L1),
              {dateText(text, source.value("DateMeasured"_L1)),
               text.toText(source.value("Weight"_L1)), text.toText(source.value("Breast"_L1)),
               text.toText(source.value("Waist"_L1)), text.toText(source.value("Hips"_L1))}});
     source.close();
-    return {std::move(rows), source.leftOut()};
+    return {std::move(rows), source.leftOut(), source.isCutShort()};
 }
 
 ListRows frmMeasurements::notes() const
@@ -219,7 +219,7 @@ ListRows frmMeasurements::notes() const
     const LocaleText &text = m_session.text();
     Recordset &source = m_session.data().rsUserNoteSorted;
     std::vector<ListRow> rows;
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         const QString note = source.text("NoteText"_L1);
         rows.push_back({source.integer("UserNoteID"_L1),
                         {dateText(text, source.value("DateFrom"_L1)),
@@ -227,5 +227,5 @@ ListRows frmMeasurements::notes() const
                         note});
     }
     source.close();
-    return {std::move(rows), source.leftOut()};
+    return {std::move(rows), source.leftOut(), source.isCutShort()};
 }

@@ -68,7 +68,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
-    , m_leftOut(new QLabel(this))
+    , m_missing(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
     auto *style = new ReportStyle;
@@ -83,9 +83,9 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setAlternatingRowColors(true);
     arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
-    m_leftOut->setObjectName(QStringLiteral("lblLeftOut"));
-    m_leftOut->setWordWrap(true);
-    m_leftOut->hide();
+    m_missing->setObjectName(QStringLiteral("lblMissing"));
+    m_missing->setWordWrap(true);
+    m_missing->hide();
     makeKeys();
     setNames({});
 
@@ -96,7 +96,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
-    layout->addWidget(m_leftOut);
+    layout->addWidget(m_missing);
     layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
@@ -147,7 +147,7 @@ void RecordList::refresh(const Reselection &reselection)
 {
     ListRows loaded = m_actions.load();
     m_model->setRows(std::move(loaded.rows));
-    tellLeftOut(loaded.leftOut);
+    tellMissing(loaded);
     sizeColumns();
     if (!reselection.name.isEmpty())
         select(m_model->rowOfText(reselection.name));
@@ -155,11 +155,11 @@ void RecordList::refresh(const Reselection &reselection)
         select(m_model->rowOfTag(reselection.id));
 }
 
-void RecordList::tellLeftOut(size_t count)
+void RecordList::tellMissing(const ListRows &loaded)
 {
-    m_leftOut->setVisible(count > 0);
-    m_leftOut->setText(
-        tr("Records that can't be shown, since their identifiers are out of range: %1").arg(count));
+    const QString text = whatIsMissing(loaded.leftOut, loaded.isCutShort);
+    m_missing->setText(text);
+    m_missing->setVisible(!text.isEmpty());
 }
 
 void RecordList::select(int row)

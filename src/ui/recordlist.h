@@ -85,7 +85,7 @@ private:
     void arrangeColumns();
     int contentsWidth(int column) const;
     void sizeColumns();
-    void tellLeftOut(size_t count);
+    void tellMissing(const ListRows &loaded);
 
     Messages &m_messages;
     ListFamily m_family;
@@ -95,6 +95,6 @@ private:
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
-    QLabel *m_leftOut; ///< in sight only where there is something to tell
+    QLabel *m_missing; ///< in sight only where there is something to tell
     QHBoxLayout *m_buttons;
 };

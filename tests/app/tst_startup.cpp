@@ -290,7 +290,7 @@ void tst_startup::undoesOnlyItsOwnStore()
     for (const auto &[database, advice] :
          {std::pair(copy, "put back a copy?"), std::pair(damaged, "the file is damaged")}) {
         QVERIFY(!start(database));
-        QVERIFY(program.messages.takeText().contains(QLatin1String(advice)));
+        QVERIFY(program.messages.said.back().cause.contains(QLatin1String(advice)));
         QVERIFY(program.bytes() == database && program.bytes(journal) == rollback);
     }
     // As it was advised.
