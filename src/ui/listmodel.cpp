@@ -10,7 +10,7 @@ namespace {
 
 // What no screen has room for is not worth the seconds that drawing a million characters takes.
 constexpr qsizetype widestText = 1000;
-constexpr qsizetype longestToolTip = 4000;
+constexpr qsizetype longestToolTip = 10'000;
 
 QString cutOff(const QString &text, qsizetype length)
 {
