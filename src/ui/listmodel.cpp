@@ -8,15 +8,6 @@
 
 namespace {
 
-// What no screen has room for is not worth the seconds that drawing a million characters takes.
-constexpr qsizetype widestText = 1000;
-constexpr qsizetype longestToolTip = 10'000;
-
-QString cutOff(const QString &text, qsizetype length)
-{
-    return text.size() <= length ? text : text.left(length) + u'…';
-}
-
 template<typename Predicate>
 int positionOf(const std::vector<ListRow> &rows, Predicate predicate)
 {
@@ -81,7 +72,7 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
     const ListColumn &column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return cutOff(row.texts.value(index.column()), widestText);
+        return row.texts.value(index.column());
     case Qt::ToolTipRole:
         return toolTip(index);
     case Qt::TextAlignmentRole:
@@ -105,7 +96,7 @@ QVariant ListModel::toolTip(const QModelIndex &index) const
     if (row.toolTip.isEmpty() && text.size() <= longText)
         return {};
     // Rich text is what tooltips wrap; the text's own markup is not interpreted.
-    return Qt::convertFromPlainText(cutOff(text, longestToolTip), Qt::WhiteSpaceNormal);
+    return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
