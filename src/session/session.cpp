@@ -2,16 +2,13 @@
 
 #include "data/numbers.h"
 
-#include <cmath>
-
 using namespace Qt::Literals;
 
 CommonParameters commonParametersOf(const Recordset &common)
 {
-    const double rate = common.number("metabolicRate"_L1);
-    if (!std::isfinite(rate))
-        throw OverflowError("the background calories are no number");
-    return {roundToInt16(common.number("weight"_L1)), common.text("Measurement"_L1), rate};
+    common.currency("metabolicRate"_L1); // raised here, a chart need not count with infinities
+    return {roundToInt16(common.number("weight"_L1)), common.text("Measurement"_L1),
+            common.number("metabolicRate"_L1)};
 }
 
 Session::Session(deData &data, const Clock &clock, const QLocale &locale)

@@ -22,7 +22,7 @@ struct CommonParameters
 };
 
 /// The parameters in the current row of command Common; the weight is rounded half to even.
-/// Throws OverflowError for a weight beyond 16 bits and a rate that is no number.
+/// Throws OverflowError for a weight beyond 16 bits and a rate beyond the decimal's range.
 CommonParameters commonParametersOf(const Recordset &common);
 
 /// Made by start-up and handed to each window by reference; there are no globals.

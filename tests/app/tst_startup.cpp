@@ -73,6 +73,7 @@ private slots:
     void failedMoveBeginsAnew();
     void damagedMemoryMovesNothing();
     void undoesOnlyItsOwnStore();
+    void oddParametersLetItStart();
 
 private:
     void verifyRefused(TestProgram &program, const std::function<bool()> &run);
@@ -298,6 +299,19 @@ void tst_startup::undoesOnlyItsOwnStore()
     QVERIFY(QFile::remove(program.database + journal));
     QVERIFY(program.startUp()->run());
     QCOMPARE(rows(), QStringList{u"0|0"_qs});
+}
+
+void tst_startup::oddParametersLetItStart()
+{
+    for (const char *odd : {"weight = 1e300", "weight = 'heavy', metabolicRate = -9e999"}) {
+        TestProgram program;
+        Installation(program.folder.path()).setFirstStartDone();
+        Connection(program.database).exec(("update Common set " + std::string(odd)).c_str());
+        const auto startUp = program.startUp();
+        QVERIFY(startUp->run());
+        QVERIFY(program.messages.said.front().cause.contains("Common"));
+        QCOMPARE(startUp->session()->parameters(), CommonParameters{.measurement = u"M"_qs});
+    }
 }
 
 QTEST_MAIN(tst_startup)
