@@ -110,11 +110,8 @@ void tst_startup::refusesUnusableDatabases()
         QFile::remove(program.database);
         Connection::create(program.database)->exec("create table Common (weight)");
     };
-    const Spoil empty = [](TestProgram &program) { QVERIFY(QFile::resize(program.database, 0)); };
-    const Spoil garbage = [](TestProgram &program) {
-        QFile file(program.database);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(65536, 'x')) > 0);
-    };
+    const Spoil empty = [](TestProgram &program) { program.setBytes({}); };
+    const Spoil garbage = [](TestProgram &program) { program.setBytes(QByteArray(65536, 'x')); };
     const Spoil unencrypted = [](TestProgram &program) {
         QFile::remove(program.database);
         SQLite::Database(program.database.toStdString(),
@@ -278,13 +275,11 @@ void tst_startup::undoesOnlyItsOwnStore()
         program.setBytes(rollback, journal);
         return program.startUp()->run();
     };
-    const auto rows = [&] {
-        Connection other(program.database);
-        return queryRows(other, "select count(*), (select count(*) from UserNote) from Body");
-    };
     QVERIFY(start(torn));
-    QCOMPARE(rows(), QStringList{u"1|0"_qs});
     QVERIFY(program.messages.said.empty());
+    Connection connection(program.database);
+    QCOMPARE(queryRows(connection, "select count(*), (select count(*) from UserNote) from Body"),
+             QStringList{u"1|0"_qs});
 
     QByteArray damaged = torn;
     damaged.replace(7 * 4096, 4096, QByteArray(4096, 'x'));
@@ -294,11 +289,6 @@ void tst_startup::undoesOnlyItsOwnStore()
         QVERIFY(program.messages.said.back().cause.contains(QLatin1String(advice)));
         QVERIFY(program.bytes() == database && program.bytes(journal) == rollback);
     }
-    // As it was advised.
-    program.setBytes(copy);
-    QVERIFY(QFile::remove(program.database + journal));
-    QVERIFY(program.startUp()->run());
-    QCOMPARE(rows(), QStringList{u"0|0"_qs});
 }
 
 void tst_startup::oddParametersLetItStart()

@@ -21,15 +21,6 @@ private slots:
         QCOMPARE(session.currentDate(), QDate(2026, 12, 31));
     }
 
-    void weightBeyond16BitsIsRaised()
-    {
-        TestJournal journal;
-        journal.exec("update Common set weight = 40000, metabolicRate = 1");
-        journal.data->rsCommon.close();
-        QVERIFY_THROWS_EXCEPTION(OverflowError, journal.session->readCommonParameters());
-        QCOMPARE(journal.session->parameters().metabolicRate, 59.0);
-    }
-
     void movesTheSampleJournal_data()
     {
         QTest::addColumn<QString>("steps"); // of a body row
