@@ -1,5 +1,4 @@
-// Rows that no window of this program wrote, damaged pages, more than anybody enters: each harms
-// itself alone.
+// Rows that no window of this program wrote, and damaged pages: each harms itself alone.
 #include "../journal/dayjournal.h"
 #include "app/frmMain.h"
 #include "catalogue/frmExercises.h"
@@ -10,9 +9,7 @@
 #include "journal/frmMealConsume.h"
 #include "journal/frmMealConsumes.h"
 #include "journal/frmMeasurements.h"
-#include "journal/frmUserNote.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 
 namespace {
@@ -35,7 +32,6 @@ class tst_odddata : public QObject
 private slots:
     void oddRowsHarmThemselvesAlone();
     void damagedPagesHarmTheirTableAlone();
-    void hugeNotesAnswerAtOnce();
 };
 
 void tst_odddata::oddRowsHarmThemselvesAlone()
@@ -139,25 +135,6 @@ void tst_odddata::damagedPagesHarmTheirTableAlone()
             journal.edit<frmExercisePerform>(0, [](QWidget &) {});
         QVERIFY2(told.contains("The database file is damaged"), qPrintable(table));
     }
-}
-
-// A word of a megabyte took minutes to lay out, in the editor and in the message that quotes it.
-void tst_odddata::hugeNotesAnswerAtOnce()
-{
-    DayJournal journal;
-    journal.exec("insert into UserNote values (1, 46225, 46226, replace(hex(zeroblob(500000)), '0',"
-                 " 'x'))");
-    QElapsedTimer timer;
-    timer.start();
-    journal.edit<frmUserNote>(1, [](QWidget &editor) {
-        QTest::keyClick(&control<QWidget>(editor, "txtNote"), Qt::Key_X);
-        press(editor, "btnOK");
-    });
-    QCOMPARE(journal.row("select length(NoteText) from UserNote"), "1000001");
-    MessageBoxes boxes;
-    QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
-    boxes.error(nullptr, journal.row("select NoteText from UserNote"));
-    QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_MAIN(tst_odddata)
