@@ -31,8 +31,8 @@ private:
     void makeConnections();
     void refresh();
     void directAccessKeys(const QWidget *focus);
-    std::vector<ListRow> measurements() const;
-    std::vector<ListRow> notes() const;
+    ListRows measurements() const;
+    ListRows notes() const;
 
     Session &m_session;
     Messages &m_messages;
