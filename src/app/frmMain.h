@@ -1,6 +1,7 @@
 // The main window.
 #pragma once
 
+#include <QDate>
 #include <QMainWindow>
 
 #include <map>
@@ -43,6 +44,10 @@ private:
     void addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler = {});
     void showPictures();
 
+    /// Draws what the session tells of, or says that it can't be drawn.
+    void followDay();
+    void followJournal();
+    void tellMissing();
     void showPreviousDay();
     void showNextDay();
     void setDate();
@@ -78,4 +83,7 @@ private:
     DayView *m_view;
     QToolBar *tlbToolBar;
     std::map<QString, QAction *> m_entries;
+    QDate m_shownDate; ///< of the chart
+    QString m_missing; ///< why it doesn't show all of the day; empty where it does
+    QDate m_toldDate;  ///< the day of which that was said last
 };

@@ -3,6 +3,7 @@
 #include "data/recordset.h"
 #include "journal/daytotals.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/pickers.h"
 
 #include <QHBoxLayout>
@@ -61,19 +62,27 @@ void DayList::run()
     exec();
 }
 
+// A day that can't be read is not shown: picker, list and chart stay with the day before it.
 void DayList::showDay(QDate day)
 {
+    const QDate before = m_session.currentDate();
     m_session.setCurrentDate(day);
-    m_list->refresh();
+    if (m_session.currentDate() == day &&
+        attempt(
+            this, m_messages, [this] { m_list->refresh(); }, tr("The day can't be shown")))
+        return;
+    m_session.setCurrentDate(before);
+    const QSignalBlocker blocker(dtpDate);
+    dtpDate->setDate(m_session.currentDate());
 }
 
-std::vector<ListRow> DayList::load() const
+ListRows DayList::load() const
 {
     Recordset &source = rows();
     const auto close = qScopeGuard([&source] { source.close(); });
     std::vector<ListRow> list;
     DayTotals totals(m_columns.totals.size());
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         list.push_back(currentRow());
         std::vector<double> figures;
         for (const auto &[column, field] : m_columns.totals)
@@ -84,7 +93,7 @@ std::vector<ListRow> DayList::load() const
         list.emplace_back();
         list.push_back(totalsRow(totals));
     }
-    return list;
+    return {std::move(list), source.leftOut(), source.isCutShort()};
 }
 
 ListRow DayList::totalsRow(const DayTotals &totals) const

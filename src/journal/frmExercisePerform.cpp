@@ -5,6 +5,7 @@
 #include "journal/performancefigures.h"
 #include "journal/quantitysteps.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/datacombo.h"
 
 #include <QGridLayout>
@@ -32,7 +33,8 @@ void frmExercisePerform::makeControls()
 {
     dcbExercise = makeChooser(QStringLiteral("dcbExercise"), tr("Activity"));
     btnNewCategory = makeNewButton(QStringLiteral("btnNewCategory"), tr("&New Activity"));
-    connect(btnNewCategory, &QPushButton::clicked, this, &frmExercisePerform::createActivity);
+    connect(btnNewCategory, &QPushButton::clicked, this,
+            attempting(this, messages(), &frmExercisePerform::createActivity));
     dtpBeginTime = makeTime(QStringLiteral("dtpBeginTime"), tr("Begin Time"));
     dtpEndTime = makeTime(QStringLiteral("dtpEndTime"), tr("End Time"));
     makeQuantity();
@@ -78,7 +80,7 @@ Recordset &frmExercisePerform::activities() const
 
 void frmExercisePerform::loadActivities()
 {
-    activities().reopen();
+    activities().reopenReadable();
     dcbExercise->setRows(activities(), "ExerciseID"_L1, "Name"_L1);
 }
 
@@ -91,7 +93,7 @@ void frmExercisePerform::Populate()
     dcbExercise->setBoundValue(source().integer("ExerciseID"_L1));
     dtpBeginTime->setTime(source().time("timeBeg"_L1));
     dtpEndTime->setTime(source().time("timeEnd"_L1));
-    txtQty->setText(session().text().toText(source().currency("Qty"_L1)));
+    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
 }
 
 void frmExercisePerform::activityChanged()

@@ -84,11 +84,11 @@ void frmCommon::Populate()
 {
     const LocaleText &text = session().text();
     // Each of the first two recomputes the background calories; the stored value, last, wins.
-    txtWeight->setText(text.toText(source().number("weight"_L1)));
+    txtWeight->setText(text.toText(source().value("weight"_L1)));
     cbxMeasurement->setCurrentIndex(source().text("Measurement"_L1) == "M"_L1 ? metricItem
                                                                               : imperialItem);
     ShowWeightUnit();
-    txtMetabolicRate->setText(text.toText(source().number("metabolicRate"_L1)));
+    txtMetabolicRate->setText(text.toText(source().value("metabolicRate"_L1)));
 }
 
 bool frmCommon::isMetricChosen() const
@@ -124,10 +124,17 @@ void frmCommon::Gather()
     source().set("metabolicRate"_L1, Value(*session().text().toCurrency(txtMetabolicRate->text())));
 }
 
+std::vector<Step> frmCommon::storeSteps()
+{
+    std::vector<Step> steps = RecordEditor::storeSteps();
+    steps.emplace_back(
+        [this] { recalculateStoredData(session().data(), commonParametersOf(source())); });
+    return steps;
+}
+
 void frmCommon::recordStored()
 {
-    session().readCommonParameters();
-    recalculateStoredData(session().data(), session().parameters());
+    session().setParameters(commonParametersOf(source()));
     m_okPressed = true;
     RecordEditor::recordStored();
     if (!m_firstStart)

@@ -1,11 +1,12 @@
 #include "ui/messages.h"
 
+#include "ui/plaintextbox.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 
@@ -19,10 +20,12 @@ QString withPlainLineFeeds(QString text)
 }
 
 int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
-           QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+           const QString &cause, QMessageBox::StandardButtons buttons,
+           QMessageBox::StandardButton defaultButton)
 {
     QMessageBox box(icon, title, withPlainLineFeeds(text), buttons, parent);
     box.setTextFormat(Qt::PlainText); // a note's text may hold what looks like markup
+    box.setInformativeText(cause);
     box.setDefaultButton(defaultButton);
     return box.exec();
 }
@@ -31,6 +34,9 @@ int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const 
 /// screen for its button.
 bool isTooTall(const QString &text)
 {
+    constexpr qsizetype moreThanAScreen = 10'000; // not to be measured, which takes long
+    if (text.size() > moreThanAScreen)
+        return true;
     const QFontMetrics metrics(QApplication::font());
     const QRect width(0, 0, 60 * metrics.averageCharWidth(), 0);
     return metrics.boundingRect(width, Qt::TextWordWrap, text).height() >
@@ -46,7 +52,8 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
     box.setWindowTitle(title);
     auto *picture = new QLabel(&box);
     picture->setPixmap(QMessageBox(icon, {}, {}).iconPixmap());
-    auto *quoted = new QPlainTextEdit(withPlainLineFeeds(text), &box);
+    auto *quoted = new PlainTextBox(&box);
+    quoted->setText(withPlainLineFeeds(text));
     quoted->setObjectName(QStringLiteral("text"));
     quoted->setReadOnly(true);
     quoted->setTabChangesFocus(true);
@@ -64,9 +71,9 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
 
 } // namespace
 
-void Messages::error(QWidget *parent, const QString &text)
+void Messages::error(QWidget *parent, const QString &text, const QString &cause)
 {
-    show(parent, Icon::Exclamation, QCoreApplication::translate("Messages", "Error"), text);
+    show(parent, Icon::Exclamation, QCoreApplication::translate("Messages", "Error"), text, cause);
 }
 
 void Messages::information(QWidget *parent, const QString &text)
@@ -74,19 +81,20 @@ void Messages::information(QWidget *parent, const QString &text)
     show(parent, Icon::Information, QCoreApplication::applicationName(), text);
 }
 
-void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const QString &text)
+void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const QString &text,
+                        const QString &cause)
 {
     const auto boxIcon = icon == Icon::Information ? QMessageBox::Information
                          : icon == Icon::Critical  ? QMessageBox::Critical
                                                    : QMessageBox::Warning;
     if (isTooTall(text))
-        runScrolledBox(parent, boxIcon, title, text);
+        runScrolledBox(parent, boxIcon, title, cause.isEmpty() ? text : text + u'\n' + cause);
     else
-        runBox(parent, boxIcon, title, text, QMessageBox::Ok, QMessageBox::Ok);
+        runBox(parent, boxIcon, title, text, cause, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool MessageBoxes::ask(QWidget *parent, const QString &title, const QString &text)
 {
-    return runBox(parent, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
-                  QMessageBox::No) == QMessageBox::Yes;
+    return runBox(parent, QMessageBox::Question, title, text, {},
+                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }

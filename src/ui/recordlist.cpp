@@ -1,12 +1,14 @@
 #include "ui/recordlist.h"
 
 #include "data/storeerror.h"
+#include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/reportstyle.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
@@ -52,6 +54,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+    , m_missing(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
     setReportStyle(*m_list);
@@ -63,6 +66,9 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setAlternatingRowColors(true);
     arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
+    m_missing->setObjectName(QStringLiteral("lblMissing"));
+    m_missing->setWordWrap(true);
+    m_missing->hide();
     makeKeys();
     setNames({});
 
@@ -73,6 +79,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
+    layout->addWidget(m_missing);
     layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
@@ -121,12 +128,21 @@ void RecordList::makeKeys()
 
 void RecordList::refresh(const Reselection &reselection)
 {
-    m_model->setRows(m_actions.load());
+    ListRows loaded = m_actions.load();
+    m_model->setRows(std::move(loaded.rows));
+    tellMissing(loaded);
     sizeColumns();
     if (!reselection.name.isEmpty())
         select(m_model->rowOfText(reselection.name));
     else if (reselection.id != 0)
         select(m_model->rowOfTag(reselection.id));
+}
+
+void RecordList::tellMissing(const ListRows &loaded)
+{
+    const QString text = whatIsMissing(loaded.leftOut, loaded.isCutShort);
+    m_missing->setText(text);
+    m_missing->setVisible(!text.isEmpty());
 }
 
 void RecordList::select(int row)
@@ -168,8 +184,14 @@ void RecordList::editSelected()
 
 void RecordList::edit(qint32 id)
 {
-    if (const std::optional<Reselection> stored = m_actions.edit(id))
-        refresh(*stored);
+    std::optional<Reselection> stored;
+    // A record that can't be opened may be gone: the list is read anew then, too.
+    if (!attempt(
+            window(), m_messages, [&] { stored = m_actions.edit(id); },
+            tr("The record can't be opened")))
+        stored.emplace();
+    if (stored)
+        refreshOrTell(*stored);
     m_list->setFocus();
 }
 
@@ -190,15 +212,25 @@ void RecordList::removeSelected()
     const int row = selectedRow();
     try {
         m_actions.remove(selectedTag());
-    } catch (const StoreError &) {
-        m_messages.error(window(), m_family == ListFamily::Catalogue
-                                       ? tr("This record can't be deleted because there are "
-                                            "records in the database, which refer to it")
-                                       : tr("This record can't be deleted from database"));
+    } catch (const std::exception &error) {
+        m_messages.error(window(),
+                         m_family == ListFamily::Catalogue
+                             ? tr("This record can't be deleted because there are "
+                                  "records in the database, which refer to it")
+                             : tr("This record can't be deleted from database"),
+                         causeOf(error));
         return;
     }
-    refresh();
+    refreshOrTell({});
     select(qMin(row, m_model->rowCount() - 1));
+}
+
+// What was stored or deleted before is so, whether the rows can be read afterwards or not.
+void RecordList::refreshOrTell(const Reselection &reselection)
+{
+    attempt(
+        window(), m_messages, [&] { refresh(reselection); },
+        tr("The list can't be read; it shows what it showed before"));
 }
 
 void RecordList::arrangeColumns()

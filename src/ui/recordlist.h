@@ -10,6 +10,7 @@
 
 class Messages;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QTreeView;
 
@@ -39,7 +40,7 @@ public:
     struct Actions
     {
         /// Reads the rows in the list command's order.
-        std::function<std::vector<ListRow>()> load;
+        std::function<ListRows()> load;
         /// Opens the editor, 0 for a new record; what to reselect where it stored something.
         std::function<std::optional<Reselection>(qint32 id)> edit;
         /// Deletes the record; throws StoreError where the database refuses.
@@ -77,12 +78,14 @@ private:
     void deleteSelected();
     void removeSelected();
     void edit(qint32 id);
+    void refreshOrTell(const Reselection &reselection);
     void select(int row);
     int selectedRow() const;
     qint32 selectedTag() const;
     void arrangeColumns();
     int contentsWidth(int column) const;
     void sizeColumns();
+    void tellMissing(const ListRows &loaded);
 
     Messages &m_messages;
     ListFamily m_family;
@@ -92,6 +95,7 @@ private:
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
+    QLabel *m_missing; ///< in sight only where there is something to tell
     QHBoxLayout *m_buttons;
     bool m_isSized = false;
 };
