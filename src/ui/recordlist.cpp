@@ -193,12 +193,15 @@ void RecordList::edit(qint32 id)
 void RecordList::deleteSelected()
 {
     const bool catalogue = m_family == ListFamily::Catalogue;
-    // In a catalogue with rows, but none selected, the question would be about nothing either.
-    if (selectedTag() == 0)
-        m_messages.error(window(), catalogue ? tr("Nothing to delete") : tr("No record selected"));
-    else if (m_messages.ask(window(), tr("Are you sure"),
-                            tr("Are you sure you want to delete the selected record?")))
-        removeSelected();
+    const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
+    if (nothing || m_messages.ask(window(), tr("Are you sure"),
+                                  tr("Are you sure you want to delete the selected record?"))) {
+        if (selectedTag() != 0)
+            removeSelected();
+        else // in a catalogue the question comes before the look at the selection
+            m_messages.error(window(),
+                             catalogue ? tr("Nothing to delete") : tr("No record selected"));
+    }
     m_list->setFocus();
 }
 
