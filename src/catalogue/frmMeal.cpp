@@ -4,6 +4,7 @@
 #include "catalogue/nutrition.h"
 #include "session/session.h"
 #include "ui/datacombo.h"
+#include "ui/elidedlabel.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -49,7 +50,8 @@ void frmMeal::makeControls()
 
 QLayout *frmMeal::makeForm()
 {
-    lblCalories = makeLabel(QString(), txtCalories);
+    lblCalories = new ElidedLabel(this); // it holds the unit
+    lblCalories->setBuddy(txtCalories);
     lblCalories->setObjectName(QStringLiteral("lblCalories"));
     showCaloriesLabel();
 

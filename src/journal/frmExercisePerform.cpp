@@ -56,6 +56,7 @@ QLayout *frmExercisePerform::makeForm()
     form->addLayout(quantityLayout(), 3, 1);
     form->addWidget(lblUnit, 3, 2, 1, 2);
     form->addWidget(figures, 4, 0, 1, 4);
+    addTellTales(form);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -84,6 +85,7 @@ void frmExercisePerform::loadActivities()
 
 void frmExercisePerform::Populate()
 {
+    JournalEntryEditor::Populate();
     dtpBeginTime->setTime(session().currentTime());
     dtpEndTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
@@ -143,6 +145,11 @@ void frmExercisePerform::Gather()
 QTime frmExercisePerform::entryTime() const
 {
     return dtpBeginTime->time();
+}
+
+QString frmExercisePerform::entryName() const
+{
+    return dcbExercise->displayedText();
 }
 
 void frmExercisePerform::clearChoosers()

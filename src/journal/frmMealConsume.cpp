@@ -53,6 +53,7 @@ QLayout *frmMealConsume::makeForm()
     form->addLayout(quantityLayout(), 3, 1);
     form->addWidget(lblUnit, 3, 2, 1, 2);
     form->addWidget(makeFigures(), 4, 0, 1, 4);
+    addTellTales(form);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -93,6 +94,7 @@ void frmMealConsume::loadCategories()
 
 void frmMealConsume::Populate()
 {
+    JournalEntryEditor::Populate();
     dtpTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
         return;
@@ -184,6 +186,11 @@ void frmMealConsume::Gather()
 QTime frmMealConsume::entryTime() const
 {
     return dtpTime->time();
+}
+
+QString frmMealConsume::entryName() const
+{
+    return dcbMeal->displayedText();
 }
 
 void frmMealConsume::clearChoosers()
