@@ -44,3 +44,13 @@ void Installation::setFirstStartDone()
     if (settings.status() != QSettings::NoError)
         throw std::runtime_error("Corvana.ini can't be written in the program folder");
 }
+
+QString Installation::value(const QString &key) const
+{
+    return QSettings(settingsPath(m_folder), QSettings::IniFormat).value(key).toString();
+}
+
+void Installation::setValue(const QString &key, const QString &value)
+{
+    QSettings(settingsPath(m_folder), QSettings::IniFormat).setValue(key, value);
+}

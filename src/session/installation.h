@@ -17,6 +17,11 @@ public:
     /// Written to the disk when it returns; throws std::runtime_error where it can't be.
     void setFirstStartDone();
 
+    /// What else is kept, such as a window's place; empty where it is missing or can't be read.
+    QString value(const QString &key) const;
+    /// As far as the folder can be written to; nothing is said where it can't.
+    void setValue(const QString &key, const QString &value);
+
 private:
     QString m_folder;
 };
