@@ -24,6 +24,21 @@ void moveSampleJournal(deData &data, QDate today)
     common.update();
 }
 
+bool hasSampleJournal(deData &data)
+{
+    return guarded([&] {
+        SQLite::Statement &statement =
+            data.Con.prepared("select exists (select 1 from MealConsume where MealConsumeID < 0)"
+                              " or exists (select 1 from ExercisePerform"
+                              " where ExercisePerformID < 0)"
+                              " or exists (select 1 from Body where BodyID < 0)"
+                              " or exists (select 1 from UserNote where UserNoteID < 0)");
+        const bool found = statement.executeStep() && statement.getColumn(0).getInt() != 0;
+        statement.reset(); // holds no lock on the file
+        return found;
+    });
+}
+
 void deleteSampleJournal(deData &data)
 {
     data.run("delete from Body where BodyId<0");

@@ -10,6 +10,9 @@
 /// 16 bits.
 void moveSampleJournal(deData &data, QDate today);
 
+/// Whether any of it is left. Looks up one key per table. Throws StoreError.
+bool hasSampleJournal(deData &data);
+
 /// Deletes the sample journal. An error stops at the failing statement; the statements before it
 /// stay applied.
 void deleteSampleJournal(deData &data);

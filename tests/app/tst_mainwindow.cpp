@@ -75,7 +75,7 @@ void tst_mainwindow::accessKeysAreUnique()
             groups[inWindow.size()] += action->text();
         inWindow += top->text();
     }
-    for (const char *button : {"btnPrev", "btnNext", "btnHelp"})
+    for (const char *button : {"btnPrev", "btnNext", "btnHelp", "btnDeleteSample"})
         inWindow += control<QPushButton>(*m_window, button).text();
     for (const QStringList &captions : groups) {
         QString keys;
@@ -104,6 +104,11 @@ void tst_mainwindow::toolbarRunsTheMenus()
              u"mnuMealConsume mnuAddMeal mnuExercisePerformed mnuAddExercise mnuMeasurement "
              "mnuAddMeasurement mnuAddNote mnuPrintChart mnuGeneralProgress mnuMealCategories "
              "mnuMeal mnuExercises mnuHelpAbout mnuHelpContents"_qs);
+    QStringList operate;
+    for (const QAction *action : control<QMenu>(*m_window, "mnuOperate").actions())
+        operate += action->objectName();
+    QCOMPARE(operate.filter(u"Sep"_qs).join(u' '),
+             u"mnuSep1 mnuSep7 mnuSep6 mnuSep5 mnuSep9 mnuSep4"_qs);
 }
 
 void tst_mainwindow::walksOverNewYear()
@@ -151,7 +156,8 @@ void tst_mainwindow::deletesTrialDataAfterAYes()
     for (const bool yes : {false, true}) {
         m_messages = {};
         m_messages.answers = {yes};
-        entry("mnuDeleteTrialData").trigger();
+        click(*m_window, "btnDeleteSample"); // beside the chart while there is something to delete
+        QCOMPARE(control<QWidget>(*m_window, "btnDeleteSample").isVisible(), !yes);
         QCOMPARE(m_messages.said.size(), size_t(1));
         QVERIFY(m_messages.said.front().isQuestion);
         QCOMPARE(m_messages.said.front().title, u"Are you sure?"_qs);
