@@ -61,7 +61,6 @@ public:
     /// Writes the pending change. On StoreError it stays pending: cancelUpdate() discards it.
     void update();
     void cancelUpdate();
-    bool isChangePending() const { return m_adding || !m_changes.empty(); }
     /// Deletes the current record from its table; end-of-file where it was the only one.
     void remove();
 

@@ -6,7 +6,6 @@ using namespace Qt::Literals;
 
 Session::Session(deData &data, const Clock &clock, const QLocale &locale)
     : m_data(data)
-    , m_clock(clock)
     , m_text(locale)
 {
     const QDateTime now = clock.now();
