@@ -45,5 +45,6 @@ frmDate::frmDate(Session &session, QWidget *parent)
 void frmDate::accept()
 {
     m_session.setCurrentDate(dtpDate->date());
-    QDialog::accept();
+    if (m_session.currentDate() == dtpDate->date()) // the main window has told why it is not
+        QDialog::accept();
 }

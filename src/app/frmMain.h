@@ -1,6 +1,7 @@
 // The main window.
 #pragma once
 
+#include <QDate>
 #include <QMainWindow>
 
 #include <map>
@@ -47,6 +48,9 @@ private:
     void showPictures();
     void showSampleNotice();
 
+    /// Draws what the session tells of, or says that it can't be drawn.
+    void followDay();
+    void followJournal();
     void showPreviousDay();
     void showNextDay();
     void setDate();
@@ -82,4 +86,5 @@ private:
     DayView *m_view;
     QToolBar *tlbToolBar;
     std::map<QString, QAction *> m_entries;
+    QDate m_shownDate; ///< of the chart
 };

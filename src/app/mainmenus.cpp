@@ -1,6 +1,8 @@
 // The main window's menus and its toolbar.
 #include "app/frmMain.h"
 
+#include "ui/attempt.h"
+
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -44,11 +46,12 @@ void frmMain::addMenu(const char *name, const QString &caption,
     QMenu *menu = menuBar()->addMenu(caption);
     menu->setObjectName(QLatin1String(name));
     for (const Entry &entry : entries) {
-        QAction *action = entry.handler ? menu->addAction(entry.caption, this, entry.handler)
-                                        : menu->addSeparator();
+        QAction *action = entry.handler ? menu->addAction(entry.caption) : menu->addSeparator();
         action->setObjectName(QLatin1String(entry.name));
-        if (entry.handler)
-            m_entries[action->objectName()] = action;
+        if (!entry.handler)
+            continue;
+        connect(action, &QAction::triggered, this, attempting(this, m_messages, entry.handler));
+        m_entries[action->objectName()] = action;
     }
 }
 

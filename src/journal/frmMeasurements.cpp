@@ -4,6 +4,7 @@
 #include "journal/frmUserNote.h"
 #include "session/session.h"
 #include "settings/units.h"
+#include "ui/attempt.h"
 #include "ui/pickers.h"
 #include "ui/recordlist.h"
 
@@ -170,7 +171,8 @@ QWidget *frmMeasurements::makeNotePane()
 
 void frmMeasurements::makeConnections()
 {
-    connect(dtpDate, &QDateEdit::dateChanged, this, &frmMeasurements::refresh);
+    connect(dtpDate, &QDateEdit::dateChanged, this,
+            attempting(this, m_messages, &frmMeasurements::refresh));
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { directAccessKeys(now); });
 }
