@@ -11,7 +11,7 @@ namespace {
 
 // In average characters: what a text may ask for, and what is left of it in the narrowest window.
 constexpr int widest = 40;
-constexpr int narrowest = 8;
+constexpr int narrowest = 24;
 
 } // namespace
 
