@@ -82,15 +82,15 @@ QLayout *JournalEntryEditor::quantityLayout()
 
 void JournalEntryEditor::addTellTales(QGridLayout *form)
 {
-    const auto add = [&](const QString &name) {
-        auto *label = new ElidedLabel(this);
+    const auto add = [&](const QString &name, Qt::TextElideMode mode) {
+        auto *label = new ElidedLabel(this, mode);
         label->setObjectName(name);
         form->addWidget(label, form->rowCount(), 0, 1, form->columnCount());
         return label;
     };
-    lblDay = add(QStringLiteral("lblDay"));
-    lblAdded = add(QStringLiteral("lblAdded"));
-    lblAdded->hide(); // but for add mode
+    lblDay = add(QStringLiteral("lblDay"), Qt::ElideRight);
+    lblAdded = add(QStringLiteral("lblAdded"), Qt::ElideMiddle); // a name, and then the figures
+    lblAdded->hide();                                            // but for add mode
 }
 
 QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,

@@ -15,8 +15,9 @@ constexpr int narrowest = 24;
 
 } // namespace
 
-ElidedLabel::ElidedLabel(QWidget *parent)
+ElidedLabel::ElidedLabel(QWidget *parent, Qt::TextElideMode mode)
     : QLabel(parent)
+    , m_mode(mode)
 {
     setTextFormat(Qt::PlainText);
 }
@@ -42,7 +43,7 @@ int ElidedLabel::textFlags() const
 
 QString ElidedLabel::elidedText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), textFlags());
+    return fontMetrics().elidedText(text(), m_mode, contentsRect().width(), textFlags());
 }
 
 bool ElidedLabel::event(QEvent *event)

@@ -11,7 +11,7 @@ class ElidedLabel : public QLabel
     Q_OBJECT
 
 public:
-    explicit ElidedLabel(QWidget *parent = nullptr);
+    explicit ElidedLabel(QWidget *parent = nullptr, Qt::TextElideMode mode = Qt::ElideRight);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -23,4 +23,6 @@ protected:
 private:
     int textFlags() const;
     QString elidedText() const;
+
+    Qt::TextElideMode m_mode;
 };

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
 
@@ -55,6 +56,9 @@ void verifyWithinReach(QWidget &window)
     if (window.windowType() == Qt::Dialog) // others are placed by the window manager
         QVERIFY2(screen.contains(withTitle), qPrintable(window.objectName()));
     for (auto *control : window.findChildren<QWidget *>()) {
+        if (const auto *list = qobject_cast<QTreeView *>(control); list && list->isVisible())
+            QVERIFY2(list->header()->length() <= list->viewport()->width(),
+                     qPrintable(list->objectName()));
         const QString text = control->property("text").toString();
         const QString what = window.objectName() + u' ' + control->objectName() + u' ' + text;
         const bool isButton = qobject_cast<QAbstractButton *>(control);
@@ -76,7 +80,8 @@ void tst_screens::init()
 {
     mainWindow.reset();
     journal = std::make_unique<DayJournal>();
-    journal->exec("update Meal set Unit = replace(hex(zeroblob(300)), '00', 'cup ');"
+    journal->exec("update Meal set Unit = replace(hex(zeroblob(300)), '00', 'cup '),"
+                  " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
                   "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
                   " where ExerciseID = 1;"
                   "insert into MealConsume values (-1, 1, 46225, 0.5, 3);"
