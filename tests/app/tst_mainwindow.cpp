@@ -30,7 +30,6 @@ private slots:
     void failedPrintingIsSaid();
     void exitClosesEveryWindow();
     void laysOut();
-    void partsKeepApart();
 
 private:
     QAction &entry(const char *name) { return control<QAction>(*m_window, name); }
@@ -208,24 +207,6 @@ void tst_mainwindow::laysOut()
     QCOMPARE(layout.graph.size(), QSize(952, 530));
     QCOMPARE(layout.buttonTop, 561);
     QCOMPARE(layout.dateTop, 573);
-}
-
-void tst_mainwindow::partsKeepApart()
-{
-    for (const QSize &size : {QSize(1, 1), QSize(2000, 1400)}) {
-        m_window->resize(size);
-        QTest::qWait(20);
-        const QRect graph = control<QWidget>(*m_window, "graph").geometry();
-        QVERIFY(graph.height() > control<QWidget>(*m_window, "btnPrev").height());
-        QRect before = graph;
-        for (const char *name : {"btnPrev", "btnNext", "txtDate", "btnHelp"}) {
-            const auto &part = control<QWidget>(*m_window, name);
-            QVERIFY2(part.parentWidget()->rect().contains(part.geometry()), name);
-            QVERIFY2(!part.geometry().intersects(before), name);
-            QVERIFY2(part.height() >= part.fontMetrics().height(), name);
-            before = part.geometry();
-        }
-    }
 }
 
 QTEST_MAIN(tst_mainwindow)

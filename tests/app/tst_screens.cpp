@@ -143,6 +143,8 @@ void tst_screens::open(QWidget &from, QStringList path)
 
 void tst_screens::windowsOfTheirOwn()
 {
+    mainWindow->resize(1, 1); // as small as it gets
+    verifyWithinReach(*mainWindow);
     const auto showProgress = [this] {
         showGeneralProgress(*journal->session, journal->messages,
                             progress::periodOfMonths(QDate(2026, 7, 1), 3), mainWindow.get());
