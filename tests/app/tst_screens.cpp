@@ -153,10 +153,10 @@ void tst_screens::windowsOfTheirOwn()
     HelpViewer help(QString(), mainWindow.get());
     inDialog(
         "helpViewer", [&] { help.exec(); }, verifyWithinReach);
-    const auto showLongMessage = [this] {
-        MessageBoxes().error(mainWindow.get(), u"A very long note. "_qs.repeated(1000));
-    };
-    inDialog("message", showLongMessage, verifyWithinReach);
+    for (const QString &text : {u"A very long note. "_qs.repeated(1000), QString(2000, u'x')}) {
+        const auto say = [&] { MessageBoxes().error(mainWindow.get(), text); };
+        inDialog("message", say, verifyWithinReach);
+    }
 }
 
 void tst_screens::formOfLargeTextScrolls()
