@@ -1,6 +1,7 @@
 #include "ui/screenfit.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
@@ -19,24 +20,30 @@ QMargins frameOf(const QWidget &window)
             qMax(side, outside.bottom() - inside.bottom())};
 }
 
-// Where the window manager or the toolkit, not knowing the frame, has put it partly out of sight.
+// The toolkit does not know the frame, and the user's screen may have become smaller.
 void moveInside(QWidget &window)
 {
-    if (window.isMaximized())
-        return;
     const QRect screen = screenOf(window).availableGeometry();
-    const QRect frame = window.geometry().marginsAdded(frameOf(window));
-    QPoint corner(qMin(frame.left(), screen.right() - frame.width() + 1),
-                  qMin(frame.top(), screen.bottom() - frame.height() + 1));
-    corner = {qMax(corner.x(), screen.left()), qMax(corner.y(), screen.top())};
-    if (corner != frame.topLeft())
-        window.move(window.pos() + corner - frame.topLeft());
+    const QRect inside = window.geometry();
+    // What leaves room for a low title stays where the user has put it.
+    const QRect belowTitle = screen.adjusted(0, window.fontMetrics().height(), 0, 0);
+    if (window.isMaximized() || belowTitle.contains(inside))
+        return;
+    const QRect room = screen.marginsRemoved(frameOf(window));
+    const QPoint last = room.bottomRight() - QPoint(inside.width() - 1, inside.height() - 1);
+    const QPoint corner(qMax(room.left(), qMin(inside.left(), last.x())),
+                        qMax(room.top(), qMin(inside.top(), last.y())));
+    window.move(window.pos() + corner - inside.topLeft());
 }
 
 } // namespace
 
 QScreen &screenOf(const QWidget &window)
 {
+    if (window.testAttribute(Qt::WA_Moved)) {
+        if (QScreen *screen = QGuiApplication::screenAt(window.geometry().center()))
+            return *screen;
+    }
     const QWidget *parent = window.parentWidget();
     return *(parent ? parent->screen() : window.screen());
 }

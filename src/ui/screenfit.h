@@ -9,7 +9,7 @@ class QWidget;
 
 /// What a screen leaves for the inside of a window: without panels, title and frame.
 QSize roomFor(const QWidget &window, const QScreen &screen);
-/// The screen on which a window opens: its parent's.
+/// The screen on which a window opens: where it has been put, else its parent's.
 QScreen &screenOf(const QWidget &window);
 
 /// Makes a window no larger than its screen has room for. It is for the window's contents to get
