@@ -1,7 +1,7 @@
 #include "app/application.h"
 
+#include "ui/attempt.h"
 #include "ui/icons.h"
-#include "ui/messages.h"
 #include "ui/screenfit.h"
 
 Application::Application(int &argc, char **argv, Messages &messages)
@@ -17,8 +17,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception &error) {
-        m_messages.error(activeWindow(), tr("The last action could not be carried out: %1.")
-                                             .arg(QString::fromUtf8(error.what())));
+        tellFailure(activeWindow(), m_messages, error);
     }
     return true;
 }

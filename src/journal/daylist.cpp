@@ -76,13 +76,13 @@ void DayList::showDay(QDate day)
     dtpDate->setDate(m_session.currentDate());
 }
 
-std::vector<ListRow> DayList::load() const
+ListRows DayList::load() const
 {
     Recordset &source = rows();
     const auto close = qScopeGuard([&source] { source.close(); });
     std::vector<ListRow> list;
     DayTotals totals(m_columns.totals.size());
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         list.push_back(currentRow());
         std::vector<double> figures;
         for (const auto &[column, field] : m_columns.totals)
@@ -93,7 +93,7 @@ std::vector<ListRow> DayList::load() const
         list.emplace_back();
         list.push_back(totalsRow(totals));
     }
-    return list;
+    return {std::move(list), source.leftOut(), source.isCutShort()};
 }
 
 ListRow DayList::totalsRow(const DayTotals &totals) const
