@@ -58,6 +58,7 @@ QLayout *frmExercisePerform::makeForm()
     form->addLayout(quantityLayout(), 3, 1);
     form->addWidget(lblUnit, 3, 2, 1, 2);
     form->addWidget(figures, 4, 0, 1, 4);
+    addTellTales(form);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -86,6 +87,7 @@ void frmExercisePerform::loadActivities()
 
 void frmExercisePerform::Populate()
 {
+    JournalEntryEditor::Populate();
     dtpBeginTime->setTime(session().currentTime());
     dtpEndTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
@@ -145,6 +147,11 @@ void frmExercisePerform::Gather()
 QTime frmExercisePerform::entryTime() const
 {
     return dtpBeginTime->time();
+}
+
+QString frmExercisePerform::entryName() const
+{
+    return dcbExercise->displayedText();
 }
 
 void frmExercisePerform::clearChoosers()

@@ -8,12 +8,17 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,13 +36,66 @@ public:
         return QSize(width, height) + QSize(2, 2) * frameWidth();
     }
 
+    /// Where the columns are wider than the list, its names and units give way, the widest first.
+    void keepNumbersInSight()
+    {
+        int excess = isVisible() ? header()->length() - viewport()->width() : 0;
+        std::vector<int> texts; // widths of their columns, 0 for the others
+        for (int column = 0; column < model()->columnCount(); ++column)
+            texts.push_back(isText(column) ? columnWidth(column) : 0);
+        const int step = fontMetrics().averageCharWidth();
+        for (; excess > 0; excess -= step) {
+            const auto widest = std::max_element(texts.begin(), texts.end());
+            if (*widest <= fewestCharacters * step)
+                break;
+            *widest -= step;
+            setColumnWidth(static_cast<int>(widest - texts.begin()), *widest);
+        }
+    }
+
 protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QTreeView::resizeEvent(event);
+        keepNumbersInSight();
+    }
+
+    void showEvent(QShowEvent *event) override
+    {
+        QTreeView::showEvent(event);
+        keepNumbersInSight();
+    }
+
+    /// Whatever is cut off tells itself.
+    bool viewportEvent(QEvent *event) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QTreeView::viewportEvent(event);
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QModelIndex index = indexAt(help->pos());
+        if (!index.isValid() || index.data(Qt::ToolTipRole).isValid() ||
+            sizeHintForIndex(index).width() <= columnWidth(index.column()))
+            return QTreeView::viewportEvent(event);
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()),
+                           viewport(), visualRect(index));
+        return true;
+    }
+
     void focusInEvent(QFocusEvent *event) override
     {
         QTreeView::focusInEvent(event);
         // The first row is current now though not selected, and Down would pass it by.
         if (!selectionModel()->hasSelection())
             selectionModel()->clearCurrentIndex();
+    }
+
+private:
+    static constexpr int fewestCharacters = 12; ///< of a text, in the narrowest window
+
+    bool isText(int column) const
+    {
+        return !static_cast<ListModel *>(model())->column(column).isNumber &&
+               header()->sectionResizeMode(column) == QHeaderView::Interactive;
     }
 };
 
@@ -198,12 +256,15 @@ void RecordList::edit(qint32 id)
 void RecordList::deleteSelected()
 {
     const bool catalogue = m_family == ListFamily::Catalogue;
-    // In a catalogue with rows, but none selected, the question would be about nothing either.
-    if (selectedTag() == 0)
-        m_messages.error(window(), catalogue ? tr("Nothing to delete") : tr("No record selected"));
-    else if (m_messages.ask(window(), tr("Are you sure"),
-                            tr("Are you sure you want to delete the selected record?")))
-        removeSelected();
+    const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
+    if (nothing || m_messages.ask(window(), tr("Are you sure"),
+                                  tr("Are you sure you want to delete the selected record?"))) {
+        if (selectedTag() != 0)
+            removeSelected();
+        else // in a catalogue the question comes before the look at the selection
+            m_messages.error(window(),
+                             catalogue ? tr("Nothing to delete") : tr("No record selected"));
+    }
     m_list->setFocus();
 }
 
@@ -267,4 +328,5 @@ void RecordList::sizeColumns()
         m_list->setColumnWidth(column, qMax(before, qMin(contentsWidth(column), widest)));
     }
     m_isSized = true;
+    static_cast<ReportView *>(m_list)->keepNumbersInSight();
 }

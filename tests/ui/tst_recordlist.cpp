@@ -91,6 +91,7 @@ void tst_recordlist::columnsShowTheirWidestText()
     f.rows.resize(1500, ListRow{1, {"08:00", "Tea", "1"}});
     const QString wide = f.rows[1400].texts[1] = "Tea with milk, sugar and a biscuit";
     const QString tooWide = f.rows[1450].texts[0] = QString(300, u'x');
+    f.list.resize(900, 300);
     f.list.refresh();
     const QFontMetrics metrics(f.view.font());
     QVERIFY(f.view.columnWidth(1) > metrics.horizontalAdvance(wide));
