@@ -4,6 +4,8 @@
 #include "session/session.h"
 #include "ui/messages.h"
 
+#include <QLineEdit>
+
 RecordEditor::RecordEditor(Session &session, Messages &messages, Recordset &source,
                            const QString &name, const QString &caption, QWidget *parent)
     : FormDialog(session, messages, name, caption, parent)
@@ -29,6 +31,9 @@ void RecordEditor::load()
     openSource();
     m_loading = true;
     Populate();
+    // Of a text too long for its box, the beginning tells more than the end.
+    for (QLineEdit *box : findChildren<QLineEdit *>())
+        box->home(false);
     m_loading = false;
 }
 
