@@ -1,5 +1,7 @@
 #include "catalogue.h"
 
+#include "energy.h"
+
 #include "data/namecollation.h"
 
 #include <QDir>
@@ -38,7 +40,8 @@ Meal readMeal(const TsvRow &row, int category)
     return meal;
 }
 
-void loadMeals(const QString &path, Catalogue &catalogue, NameIndex &categoryNames)
+void loadMeals(const QString &path, const EnergyCheck &energy, Catalogue &catalogue,
+               NameIndex &categoryNames)
 {
     const TsvTable table(path, {u"Name"_s, u"Unit"_s, u"DefaultQty"_s, u"Increment"_s,
                                 u"Calories"_s, u"Fat"_s, u"Carbohydrate"_s, u"Protein"_s});
@@ -50,6 +53,7 @@ void loadMeals(const QString &path, Catalogue &catalogue, NameIndex &categoryNam
     for (const TsvRow &row : table.rows()) {
         const Meal meal = readMeal(row, category);
         catalogue.mealNames.add(meal.name, path, row.line());
+        energy.check(row, meal);
         catalogue.meals << meal;
     }
 }
@@ -100,10 +104,12 @@ Catalogue loadCatalogue(const QString &folder)
 {
     Catalogue catalogue;
     NameIndex categoryNames;
+    const EnergyCheck energy(folder + u"/energy.tsv"_s);
     const QDir meals(folder + u"/meals"_s);
     const QStringList files = meals.entryList({u"*.tsv"_s}, QDir::Files, QDir::Name);
     for (const QString &file : files)
-        loadMeals(meals.filePath(file), catalogue, categoryNames);
+        loadMeals(meals.filePath(file), energy, catalogue, categoryNames);
+    energy.checkNames(catalogue.mealNames);
     loadActivities(folder + u"/activities.tsv"_s, catalogue);
     return catalogue;
 }

@@ -64,7 +64,7 @@ struct Catalogue
 };
 
 /// Reads activities.tsv and the files of the folder "meals", one per category, in the order of
-/// their names. Throws SourceError.
+/// their names, and checks the meals' calories by energy.tsv. Throws SourceError.
 Catalogue loadCatalogue(const QString &folder);
 
 } // namespace delivered

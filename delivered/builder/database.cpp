@@ -29,20 +29,13 @@ Value valueOf(const std::optional<Currency> &number)
 
 // Inserts a row with a value for each "?" of the list; returns its key.
 qint64 insert(Connection &connection, const std::string &tableAndColumns,
-              std::initializer_list<Value> values)
+              const std::vector<Value> &values)
 {
     std::string marks = "?";
     for (size_t i = 1; i < values.size(); ++i)
         marks += ",?";
-    SQLite::Statement &statement =
-        connection.prepared("insert into " + tableAndColumns + " values (" + marks + ")");
-    return guarded([&] {
-        int index = 0;
-        for (const Value &value : values)
-            bindValue(statement, ++index, value);
-        statement.exec();
-        return qint64(connection.database().getLastInsertRowid());
-    });
+    connection.write("insert into " + tableAndColumns + " values (" + marks + ")", values);
+    return connection.database().getLastInsertRowid();
 }
 
 void writeCommon(Connection &connection, const CommonRow &common)
@@ -88,11 +81,7 @@ QList<qint64> writeActivities(Connection &connection, const QList<Activity> &act
     // The very statement and factor that follow a change of the weight, so that they change
     // nothing as long as it stays the same.
     const float koef = units::weightFactor(roundToInt16(weight.toDouble()), true);
-    SQLite::Statement &scale = connection.prepared(commands::RecalculateWeightDependent.sql);
-    guarded([&] {
-        bindValue(scale, 1, koef);
-        scale.exec();
-    });
+    connection.write(commands::RecalculateWeightDependent.sql, {koef});
     return exercises;
 }
 

@@ -27,5 +27,6 @@ void frmDate::accept()
     if (!Validate())
         return;
     session().setCurrentDate(dtpDate->date());
-    FormDialog::accept();
+    if (session().currentDate() == dtpDate->date()) // the main window has told why it is not
+        FormDialog::accept();
 }

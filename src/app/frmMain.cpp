@@ -24,6 +24,7 @@
 #include "session/samplejournal.h"
 #include "session/session.h"
 #include "settings/frmCommon.h"
+#include "ui/attempt.h"
 #include "ui/icons.h"
 #include "ui/messages.h"
 
@@ -81,7 +82,7 @@ void frmMain::addEntry(QMenu *menu, const QString &name, const QString &caption,
     m_entries[name] = action;
     action->setEnabled(handler != nullptr);
     if (handler)
-        connect(action, &QAction::triggered, this, handler);
+        connect(action, &QAction::triggered, this, attempting(this, m_messages, handler));
 }
 
 void frmMain::makeMenus()
@@ -196,32 +197,38 @@ void frmMain::makeConnections()
     connect(m_view->btnPrev, &QPushButton::clicked, this, &frmMain::showPreviousDay);
     connect(m_view->btnNext, &QPushButton::clicked, this, &frmMain::showNextDay);
     connect(m_view->btnHelp, &QPushButton::clicked, this, &frmMain::showHelpOfMainForm);
-    connect(m_view->graph, &TrellumGraph::mealItemChosen, this, &frmMain::chooseMeal);
-    connect(m_view->graph, &TrellumGraph::freeMealPlaceChosen, this, &frmMain::addMealAt);
-    connect(m_view->graph, &TrellumGraph::activityItemChosen, this, &frmMain::chooseActivity);
-    connect(m_view->graph, &TrellumGraph::freeActivityPlaceChosen, this, &frmMain::addActivityAt);
-    connect(&m_session, &Session::dayChanged, this, &frmMain::RePaintGraph);
-    connect(&m_session, &Session::journalChanged, this, &frmMain::RePaintGraph);
+    const auto handler = [this](auto method) { return attempting(this, m_messages, method); };
+    connect(m_view->graph, &TrellumGraph::mealItemChosen, this, handler(&frmMain::chooseMeal));
+    connect(m_view->graph, &TrellumGraph::freeMealPlaceChosen, this, handler(&frmMain::addMealAt));
+    connect(m_view->graph, &TrellumGraph::activityItemChosen, this,
+            handler(&frmMain::chooseActivity));
+    connect(m_view->graph, &TrellumGraph::freeActivityPlaceChosen, this,
+            handler(&frmMain::addActivityAt));
+    connect(&m_session, &Session::dayChanged, this, &frmMain::followDay);
+    connect(&m_session, &Session::journalChanged, this, &frmMain::followJournal);
 }
 
 void frmMain::LoadGraph()
 {
     TrellumGraph &graph = *m_view->graph;
     const QDate day = m_session.currentDate();
+    // Both are read before anything is shown: a day that can't be read leaves the one before it.
+    Recordset &meals = m_session.data().rsMealConsumeSorted;
+    Recordset &activities = m_session.data().rsExercisePerformSorted;
+    meals.reopen({Value(day)});
+    activities.reopen({Value(day)});
+
     m_view->txtDate->setText(m_session.text().mediumDate(day));
+    m_shownDate = day;
     graph.clear();
     graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
-
-    Recordset &meals = m_session.data().rsMealConsumeSorted;
-    for (meals.reopen({Value(day)}); !meals.isEof(); meals.moveNext())
+    for (; !meals.isEof(); meals.moveNext())
         graph.addMeal(meals.integer("MealConsumeID"_L1), meals.time("ConsumeTime"_L1),
                       chartFigure(meals.number("sCarbohydrate"_L1)),
                       chartFigure(meals.number("sFat"_L1)),
                       chartFigure(meals.number("sProtein"_L1)));
     meals.close();
-
-    Recordset &activities = m_session.data().rsExercisePerformSorted;
-    for (activities.reopen({Value(day)}); !activities.isEof(); activities.moveNext())
+    for (; !activities.isEof(); activities.moveNext())
         graph.addActivity(activities.integer("ExercisePerformID"_L1), activities.time("timeBeg"_L1),
                           activities.time("timeEnd"_L1),
                           chartFigure(activities.number("sCalories"_L1)));
@@ -232,6 +239,25 @@ void frmMain::RePaintGraph()
 {
     LoadGraph();
     m_view->graph->repaintChart();
+}
+
+void frmMain::followDay()
+{
+    const QString day = m_session.text().mediumDate(m_session.currentDate());
+    if (attempt(
+            this, m_messages, [this] { RePaintGraph(); },
+            tr("%1 can't be shown; the chart stays as it was").arg(day)))
+        return;
+    // Without a signal: what is shown has not changed.
+    const QSignalBlocker blocker(m_session);
+    m_session.setCurrentDate(m_shownDate);
+}
+
+void frmMain::followJournal()
+{
+    attempt(
+        this, m_messages, [this] { RePaintGraph(); },
+        tr("The chart can't be drawn anew. What was stored before is stored"));
 }
 
 void frmMain::showPreviousDay()
@@ -250,7 +276,7 @@ void frmMain::setDate()
     frmDate(m_session, m_messages, this).exec();
     // Another day has been shown already, when the session told of it.
     if (m_session.currentDate() == before)
-        RePaintGraph();
+        followJournal();
 }
 
 template<typename Editor>
@@ -259,14 +285,14 @@ void frmMain::openEditor(qint32 id, bool addMode)
     Editor editor(m_session, m_messages, this);
     editor.setAddMode(addMode);
     if (editor.run(id))
-        RePaintGraph();
+        followJournal();
 }
 
 template<typename List>
 void frmMain::openDayList()
 {
     List(m_session, m_messages, this).run();
-    RePaintGraph();
+    followJournal();
 }
 
 void frmMain::showMeals()
@@ -322,19 +348,19 @@ void frmMain::addActivityAt(QTime time)
 void frmMain::openMeasurements()
 {
     frmMeasurements(m_session, m_messages, this).exec();
-    RePaintGraph();
+    followJournal();
 }
 
 void frmMain::addMeasurement()
 {
     if (frmBody(m_session, m_messages, this).run(0))
-        RePaintGraph();
+        followJournal();
 }
 
 void frmMain::addNote()
 {
     if (frmUserNote(m_session, m_messages, this).run(0))
-        RePaintGraph();
+        followJournal();
 }
 
 void frmMain::printChart()
@@ -369,8 +395,10 @@ void frmMain::deleteTrialData()
     };
     if (!m_messages.ask(this, tr("Are you sure?"), lines.join(Session::lineBreak())))
         return;
-    deleteSampleJournal(m_session.data());
-    RePaintGraph();
+    attempt(
+        this, m_messages, [this] { deleteSampleJournal(m_session.data()); },
+        tr("The trial data can't be deleted"));
+    followJournal();
 }
 
 void frmMain::openMealCategories()
@@ -381,13 +409,13 @@ void frmMain::openMealCategories()
 void frmMain::openMeals()
 {
     frmMeals(m_session, m_messages, this).run();
-    RePaintGraph(); // the day's meals may have other calories now
+    followJournal(); // the day's meals may have other calories now
 }
 
 void frmMain::openExercises()
 {
     frmExercises(m_session, m_messages, this).run();
-    RePaintGraph();
+    followJournal();
 }
 
 void frmMain::openCommonParameters()
@@ -396,7 +424,7 @@ void frmMain::openCommonParameters()
     dialog.setFirstStart(false);
     dialog.run();
     if (dialog.OkPressed())
-        RePaintGraph();
+        followJournal();
 }
 
 void frmMain::openGeneralProgress()

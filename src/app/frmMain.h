@@ -1,6 +1,7 @@
 // The main window.
 #pragma once
 
+#include <QDate>
 #include <QMainWindow>
 
 #include <map>
@@ -43,6 +44,9 @@ private:
     void addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler = {});
     void showPictures();
 
+    /// Draws what the session tells of, or says that it can't be drawn.
+    void followDay();
+    void followJournal();
     void showPreviousDay();
     void showNextDay();
     void setDate();
@@ -77,4 +81,5 @@ private:
     DayView *m_view;
     QToolBar *tlbToolBar;
     std::map<QString, QAction *> m_entries;
+    QDate m_shownDate; ///< of the chart
 };

@@ -3,6 +3,7 @@
 #include "catalogue/frmWeightAdjustment.h"
 #include "catalogue/weightadjustment.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 
 #include <QCheckBox>
@@ -78,7 +79,8 @@ void frmExercise::makeConnections()
         m_caloriesChanged = true;
         showDependence();
     });
-    connect(btnWeightAdjust, &QPushButton::clicked, this, &frmExercise::adjustToWeight);
+    connect(btnWeightAdjust, &QPushButton::clicked, this,
+            attempting(this, messages(), &frmExercise::adjustToWeight));
 }
 
 void frmExercise::Populate()
@@ -142,6 +144,11 @@ QString frmExercise::refusedStoreMessage() const
 {
     return tr("Can't store this record in database. Please check whether there is already "
               "Activity with the same name in the database");
+}
+
+QString frmExercise::takenNameCause() const
+{
+    return tr("An activity of this name exists already.");
 }
 
 void frmExercise::adjustToWeight()

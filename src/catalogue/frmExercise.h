@@ -19,6 +19,8 @@ protected:
     bool Validate() override;
     void Gather() override;
     QString refusedStoreMessage() const override;
+    QString takenNameCause() const override;
+    bool dependsOnParameters() const override { return true; }
 
 private:
     void makeControls();

@@ -3,6 +3,7 @@
 #include "catalogue/frmMealCategory.h"
 #include "catalogue/nutrition.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/datacombo.h"
 
 #include <QGridLayout>
@@ -118,7 +119,8 @@ void frmMeal::makeChecks()
 
 void frmMeal::makeConnections()
 {
-    connect(btnNewCategory, &QPushButton::clicked, this, &frmMeal::createCategory);
+    connect(btnNewCategory, &QPushButton::clicked, this,
+            attempting(this, messages(), &frmMeal::createCategory));
     connect(txtUnit, &QLineEdit::textChanged, this, &frmMeal::showCaloriesLabel);
     for (QLineEdit *box : {txtCalories, txtFat, txtCarboHydrate, txtProtein})
         connect(box, &QLineEdit::textChanged, this, &frmMeal::splitCalories);
@@ -180,6 +182,11 @@ QString frmMeal::refusedStoreMessage() const
 {
     return tr("Can't store this record in database. Please check whether there is already Meal "
               "with the same name in the database");
+}
+
+QString frmMeal::takenNameCause() const
+{
+    return tr("A meal of this name exists already.");
 }
 
 void frmMeal::createCategory()

@@ -30,6 +30,7 @@ protected:
     void Gather() override;
     void recordStored() override;
     QString refusedStoreMessage() const override;
+    QString takenNameCause() const override;
 
 private:
     /// A column of the record with the box that it is bound to.

@@ -35,3 +35,8 @@ QString frmMealCategory::refusedStoreMessage() const
     return tr("Can't store this record in database. Please check whether there is already Meal "
               "Category with the same name in the database");
 }
+
+QString frmMealCategory::takenNameCause() const
+{
+    return tr("A meal category of this name exists already.");
+}

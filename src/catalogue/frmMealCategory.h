@@ -15,4 +15,5 @@ protected:
     void Populate() override;
     void Gather() override;
     QString refusedStoreMessage() const override;
+    QString takenNameCause() const override;
 };

@@ -2,6 +2,7 @@
 
 #include "catalogue/frmMeal.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/datacombo.h"
 
 #include <QHBoxLayout>
@@ -34,7 +35,8 @@ frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
     head->addWidget(dcbMealCategory);
     head->addStretch();
     setHead(head);
-    connect(dcbMealCategory, &DataCombo::boundValueChanged, this, &frmMeals::categoryChanged);
+    connect(dcbMealCategory, &DataCombo::boundValueChanged, this,
+            attempting(this, messages, &frmMeals::categoryChanged));
 }
 
 void frmMeals::load()

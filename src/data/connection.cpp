@@ -137,32 +137,80 @@ void Connection::exec(const char *sql)
     guarded([&] { m_database->exec(sql); });
 }
 
-SQLite::Statement &Connection::prepared(const std::string &sql)
+int Connection::write(const std::string &sql, const std::vector<Value> &values)
 {
-    return guarded([&]() -> SQLite::Statement & {
+    WriteTransaction transaction(*this);
+    const int changed = guarded([&] {
+        const StatementUse statement = prepared(sql);
+        int index = 0;
+        for (const Value &value : values)
+            bindValue(*statement, ++index, value);
+        return statement->exec();
+    });
+    transaction.commit();
+    return changed;
+}
+
+StatementUse Connection::prepared(const std::string &sql)
+{
+    return guarded([&] {
         auto &slot = m_prepared[sql];
         if (!slot)
             slot = std::make_unique<SQLite::Statement>(*m_database, sql);
-        slot->tryReset();
         slot->clearBindings();
-        return *slot;
+        return StatementUse(*slot);
     });
+}
+
+bool Connection::isInTransaction() const
+{
+    return sqlite3_get_autocommit(m_database->getHandle()) == 0;
 }
 
 WriteTransaction::WriteTransaction(Connection &connection)
     : m_connection(connection)
+    , m_outermost(!connection.isInTransaction())
 {
-    m_connection.exec("begin immediate");
+    if (m_outermost)
+        guarded([&] { m_connection.prepared("begin immediate")->exec(); });
 }
 
 WriteTransaction::~WriteTransaction()
 {
-    if (m_open)
-        m_connection.database().tryExec("rollback");
+    if (m_open && m_outermost)
+        rollBack();
+}
+
+// The engine may have rolled back by itself: then there is nothing left to do.
+void WriteTransaction::rollBack()
+{
+    m_open = false;
+    m_connection.database().tryExec("rollback");
 }
 
 void WriteTransaction::commit()
 {
-    m_connection.exec("commit");
-    m_open = false;
+    if (!m_outermost)
+        return;
+    try {
+        guarded([&] { m_connection.prepared("commit")->exec(); });
+        m_open = false;
+    } catch (const StoreError &error) {
+        rollBack();
+        if (error.kind() != StoreError::Kind::Uncertain)
+            throw;
+        confirmDeletedJournal();
+    }
+}
+
+// The rollback journal is deleted, so the changes stand, but its folder could not be synchronized:
+// a power failure might bring it back. A further transaction replaces it and synchronizes again.
+void WriteTransaction::confirmDeletedJournal()
+{
+    try {
+        m_connection.exec("begin immediate; update Common set weight = weight; commit");
+    } catch (const StoreError &) {
+        rollBack();
+        throw StoreError(StoreError::Kind::Uncertain, "the folder can't be synchronized");
+    }
 }

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 /// Runs an action of the engine and turns its exceptions into StoreError.
 template<typename Action>
@@ -27,6 +28,27 @@ decltype(auto) guarded(Action action)
 void bindValue(SQLite::Statement &statement, int index, const Value &value);
 /// The value of a column of the statement's current row, counted from 0.
 Value columnValue(SQLite::Statement &statement, int column);
+
+/// A prepared statement while it is used: reset on every way out of its scope. One that was left
+/// half-way, by a refusal as much as by a row, would hold its lock on the file and keep the
+/// connection inside a transaction that nobody commits.
+class StatementUse
+{
+public:
+    explicit StatementUse(SQLite::Statement &statement)
+        : m_statement(statement)
+    {
+    }
+    ~StatementUse() { m_statement.tryReset(); }
+    StatementUse(const StatementUse &) = delete;
+    StatementUse &operator=(const StatementUse &) = delete;
+
+    SQLite::Statement &operator*() const { return m_statement; }
+    SQLite::Statement *operator->() const { return &m_statement; }
+
+private:
+    SQLite::Statement &m_statement;
+};
 
 /// An open, encrypted database file. Everything committed through it is on the disk when the call
 /// returns. Not copyable; used from one thread.
@@ -45,9 +67,13 @@ public:
 
     /// Runs statements without parameters and without rows.
     void exec(const char *sql);
-    /// The statement of this text, prepared once, reset and without bindings.
-    SQLite::Statement &prepared(const std::string &sql);
+    /// Runs a statement with these values for its marks, durably unless within a transaction; the
+    /// number of rows changed.
+    int write(const std::string &sql, const std::vector<Value> &values);
+    /// The statement of this text, prepared once, without bindings.
+    StatementUse prepared(const std::string &sql);
     SQLite::Database &database() { return *m_database; }
+    bool isInTransaction() const;
 
     /// How long a statement waits for another program to let go of the file, in milliseconds.
     static constexpr int busyTimeout = 2000;
@@ -63,7 +89,9 @@ private:
 };
 
 /// A transaction that holds the file for writing from its first moment, so that what it reads
-/// can't change under it. Rolled back unless committed.
+/// can't change under it. Rolled back unless committed. Within another one it is a part of that:
+/// the outermost alone commits, and what is refused in it is undone with the whole. Every write of
+/// the store goes through here; afterwards, refused or not, no transaction is open.
 class WriteTransaction
 {
 public:
@@ -72,10 +100,15 @@ public:
     WriteTransaction(const WriteTransaction &) = delete;
     WriteTransaction &operator=(const WriteTransaction &) = delete;
 
-    /// Durable when it returns. Throws StoreError; the transaction is then rolled back.
+    /// Durable when it returns. Throws StoreError; nothing of the transaction is then stored,
+    /// except where the kind is Uncertain.
     void commit();
 
 private:
+    void rollBack();
+    void confirmDeletedJournal();
+
     Connection &m_connection;
+    const bool m_outermost;
     bool m_open = true;
 };

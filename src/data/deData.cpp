@@ -2,16 +2,20 @@
 
 int deData::run(const Command &command, std::initializer_list<Value> values)
 {
-    return guarded([&] {
-        SQLite::Statement &statement = Con.prepared(command.sql);
-        bindParameters(statement, command, values);
-        const int changed = statement.exec();
-        statement.tryReset();
-        return changed;
+    WriteTransaction transaction(Con);
+    const int changed = guarded([&] {
+        const StatementUse statement = Con.prepared(command.sql);
+        bindParameters(*statement, command, values);
+        return statement->exec();
     });
+    transaction.commit();
+    return changed;
 }
 
 int deData::run(const char *sql)
 {
-    return guarded([&] { return Con.database().exec(sql); });
+    WriteTransaction transaction(Con);
+    const int changed = guarded([&] { return Con.database().exec(sql); });
+    transaction.commit();
+    return changed;
 }

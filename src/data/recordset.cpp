@@ -66,21 +66,14 @@ void Recordset::open(std::initializer_list<Value> values)
 
 void Recordset::readRows()
 {
-    // Reset in any case: a statement left half-way would hold its lock on the file.
-    struct Reset
-    {
-        SQLite::Statement &statement;
-        ~Reset() { statement.tryReset(); }
-    } reset{*m_statement};
+    const StatementUse use(*m_statement);
 
-    m_values.clear();
-    m_rowCount = 0;
-    m_current = 0;
+    m_rows = {};
     const int columns = m_statement->getColumnCount();
     while (m_statement->executeStep()) {
         for (int i = 0; i < columns; ++i)
-            m_values.push_back(columnValue(*m_statement, i));
-        ++m_rowCount;
+            m_rows.values.push_back(columnValue(*m_statement, i));
+        ++m_rows.count;
     }
 }
 
@@ -93,18 +86,16 @@ void Recordset::reopen(std::initializer_list<Value> values)
 void Recordset::close()
 {
     cancelUpdate();
-    m_values.clear();
-    m_rowCount = 0;
-    m_current = 0;
+    m_rows = {};
     m_open = false;
 }
 
 bool Recordset::moveTo(QLatin1StringView column, qint32 id)
 {
     const size_t at = columnOf(column);
-    for (size_t row = 0; row < m_rowCount; ++row) {
+    for (size_t row = 0; row < m_rows.count; ++row) {
         if (cell(row, at).toInt32() == id) {
-            m_current = row;
+            m_rows.current = row;
             return true;
         }
     }
@@ -134,7 +125,7 @@ const Value &Recordset::value(QLatin1StringView column) const
     }
     if (!m_open || isEof())
         throw std::logic_error(std::string("rs") + m_command.name + " has no current row");
-    return m_values[m_current * m_columns.size() + at];
+    return m_rows.values[m_rows.current * m_columns.size() + at];
 }
 
 void Recordset::requireUpdatable() const
@@ -186,45 +177,80 @@ void Recordset::insertRow()
     }
     const std::string sql =
         std::string("insert into ") + m_command.table + " (" + names + ") values (" + marks + ")";
-    guarded([&] {
-        SQLite::Statement &statement = m_connection.prepared(sql);
-        int index = 0;
-        for (const Change &change : m_changes)
-            bindValue(statement, ++index, change.value);
-        statement.exec();
-        statement.tryReset();
-    });
-
-    m_current = m_rowCount++;
-    m_values.resize(m_rowCount * m_columns.size());
+    std::vector<Value> values;
     for (const Change &change : m_changes)
-        cell(m_current, change.column) = change.value;
+        values.push_back(change.value);
+    m_connection.write(sql, values);
+
+    m_rows.current = m_rows.count++;
+    m_rows.values.resize(m_rows.count * m_columns.size());
+    for (const Change &change : m_changes)
+        cell(m_rows.current, change.column) = change.value;
     // The keys of the tables are their row numbers, whoever handed them out.
-    cell(m_current, columnOf(QLatin1StringView(m_command.key))) =
+    cell(m_rows.current, columnOf(QLatin1StringView(m_command.key))) =
         Value(qint64(m_connection.database().getLastInsertRowid()));
 }
 
 void Recordset::updateRow()
 {
     std::string assignments;
-    for (const Change &change : m_changes)
+    std::vector<Value> values;
+    for (const Change &change : m_changes) {
         assignments += (assignments.empty() ? "" : ", ") + m_columns[change.column] + " = ?";
-    const std::string sql = std::string("update ") + m_command.table + " set " + assignments +
-                            " where " + m_command.key + " = ?";
-    const Value key = cell(m_current, columnOf(QLatin1StringView(m_command.key)));
-    guarded([&] {
-        SQLite::Statement &statement = m_connection.prepared(sql);
-        int index = 0;
-        for (const Change &change : m_changes)
-            bindValue(statement, ++index, change.value);
-        bindValue(statement, ++index, key);
-        const int changed = statement.exec();
-        statement.tryReset();
-        if (changed == 0)
-            throw StoreError(StoreError::Kind::Gone, "the record was deleted by another program");
-    });
+        values.push_back(change.value);
+    }
+    const std::string sql =
+        std::string("update ") + m_command.table + " set " + assignments + unchangedRow(values);
+    if (m_connection.write(sql, values) == 0)
+        throwMissing();
     for (const Change &change : m_changes)
-        cell(m_current, change.column) = change.value;
+        cell(m_rows.current, change.column) = change.value;
+}
+
+// The condition that finds the current row while what is to be written in it is as it was read;
+// the values that it compares with go behind the others.
+std::string Recordset::unchangedRow(std::vector<Value> &values)
+{
+    std::string condition = std::string(" where ") + m_command.key + " = ?";
+    values.push_back(currentKey());
+    for (const Change &change : m_changes) {
+        condition += " and " + m_columns[change.column] + " is ?";
+        values.push_back(cell(m_rows.current, change.column));
+    }
+    return condition;
+}
+
+bool Recordset::finds(const std::string &condition, const std::vector<Value> &values)
+{
+    return guarded([&] {
+        const StatementUse statement =
+            m_connection.prepared(std::string("select 1 from ") + m_command.table + condition);
+        int index = 0;
+        for (const Value &value : values)
+            bindValue(*statement, ++index, value);
+        return statement->executeStep();
+    });
+}
+
+void Recordset::requireUnchanged()
+{
+    requireUpdatable();
+    std::vector<Value> values;
+    if (!m_adding && !finds(unchangedRow(values), values))
+        throwMissing();
+}
+
+// Either the row is gone, or it is no longer the one that was read.
+void Recordset::throwMissing()
+{
+    if (finds(std::string(" where ") + m_command.key + " = ?", {currentKey()}))
+        throw StoreError(StoreError::Kind::Changed, "another program has changed the record");
+    throw StoreError(StoreError::Kind::Gone, "the record has been deleted");
+}
+
+Value Recordset::currentKey()
+{
+    return cell(m_rows.current, columnOf(QLatin1StringView(m_command.key)));
 }
 
 void Recordset::cancelUpdate()
@@ -233,20 +259,22 @@ void Recordset::cancelUpdate()
     m_changes.clear();
 }
 
+void Recordset::restore(Rows rows)
+{
+    cancelUpdate();
+    m_rows = std::move(rows);
+}
+
 void Recordset::remove()
 {
     requireUpdatable();
     const Value key = value(QLatin1StringView(m_command.key));
     const std::string sql =
         std::string("delete from ") + m_command.table + " where " + m_command.key + " = ?";
-    guarded([&] {
-        SQLite::Statement &statement = m_connection.prepared(sql);
-        bindValue(statement, 1, key);
-        statement.exec();
-        statement.tryReset();
-    });
+    m_connection.write(sql, {key});
     cancelUpdate();
-    const auto first = m_values.begin() + static_cast<std::ptrdiff_t>(m_current * m_columns.size());
-    m_values.erase(first, first + static_cast<std::ptrdiff_t>(m_columns.size()));
-    --m_rowCount;
+    const auto first =
+        m_rows.values.begin() + static_cast<std::ptrdiff_t>(m_rows.current * m_columns.size());
+    m_rows.values.erase(first, first + static_cast<std::ptrdiff_t>(m_columns.size()));
+    --m_rows.count;
 }

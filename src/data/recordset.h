@@ -35,10 +35,21 @@ public:
     /// Forgets the rows and any pending change. Harmless on a closed one.
     void close();
 
-    bool isEof() const { return m_current >= m_rowCount; }
-    size_t rowCount() const { return m_rowCount; }
-    void moveFirst() { m_current = 0; }
-    void moveNext() { ++m_current; }
+    /// The rows as they were read or last written, to be put back by restore() when a transaction
+    /// that update() was a part of has been undone. restore() discards a pending change.
+    struct Rows
+    {
+        std::vector<Value> values; ///< row by row
+        size_t count = 0;
+        size_t current = 0;
+    };
+    const Rows &rows() const { return m_rows; }
+    void restore(Rows rows);
+
+    bool isEof() const { return m_rows.current >= m_rows.count; }
+    size_t rowCount() const { return m_rows.count; }
+    void moveFirst() { m_rows.current = 0; }
+    void moveNext() { ++m_rows.current; }
     /// Stands on the first row whose column holds this whole number; false, and the position
     /// unchanged, where there is none.
     bool moveTo(QLatin1StringView column, qint32 id);
@@ -58,9 +69,12 @@ public:
     void addNew();
     /// Sets a column of the new or current record; nothing is written yet.
     void set(QLatin1StringView column, const Value &value);
-    /// Writes the pending change. On StoreError it stays pending: cancelUpdate() discards it.
+    /// Writes the pending change, of a row only while the columns to write are as they were read.
+    /// On StoreError it stays pending: cancelUpdate() discards it.
     void update();
     void cancelUpdate();
+    /// Throws the StoreError with which update() would refuse a row that is gone or changed.
+    void requireUnchanged();
     bool isChangePending() const { return m_adding || !m_changes.empty(); }
     /// Deletes the current record from its table; end-of-file where it was the only one.
     void remove();
@@ -73,19 +87,24 @@ private:
     };
 
     size_t columnOf(QLatin1StringView name) const;
-    Value &cell(size_t row, size_t column) { return m_values[row * m_columns.size() + column]; }
+    Value &cell(size_t row, size_t column)
+    {
+        return m_rows.values[row * m_columns.size() + column];
+    }
     void readRows();
     void insertRow();
     void updateRow();
+    std::string unchangedRow(std::vector<Value> &values);
+    bool finds(const std::string &condition, const std::vector<Value> &values);
+    [[noreturn]] void throwMissing();
+    Value currentKey();
     void requireUpdatable() const;
 
     Connection &m_connection;
     const Command &m_command;
     std::unique_ptr<SQLite::Statement> m_statement; ///< prepared at the first opening
     std::vector<std::string> m_columns;
-    std::vector<Value> m_values; ///< row by row
-    size_t m_rowCount = 0;
-    size_t m_current = 0;
+    Rows m_rows;
     bool m_open = false;
     bool m_adding = false;
     std::vector<Change> m_changes;

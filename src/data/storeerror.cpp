@@ -13,6 +13,9 @@ StoreError::Kind kindOf(const SQLite::Exception &error)
         return StoreError::Kind::NameTaken;
     case SQLITE_CONSTRAINT_FOREIGNKEY:
         return StoreError::Kind::ReferenceRefused;
+    // Only the deletion of the rollback journal, the last step of a commit, ends this way.
+    case SQLITE_IOERR_DIR_FSYNC:
+        return StoreError::Kind::Uncertain;
     default:
         break;
     }
@@ -22,6 +25,8 @@ StoreError::Kind kindOf(const SQLite::Exception &error)
         return StoreError::Kind::Busy;
     case SQLITE_FULL:
         return StoreError::Kind::Full;
+    case SQLITE_IOERR:
+        return StoreError::Kind::InputOutput;
     case SQLITE_READONLY:
     case SQLITE_CANTOPEN:
         return StoreError::Kind::ReadOnly;

@@ -8,19 +8,24 @@ namespace SQLite {
 class Exception;
 }
 
-/// What the database engine refused, and why. The data are as they were before the refused change.
+/// What the database engine refused, and why. The data are as they were before the refused change,
+/// unless the kind is Uncertain.
 class StoreError : public std::runtime_error
 {
 public:
     enum class Kind
     {
-        NameTaken,        ///< a unique name is already in the table
-        ReferenceRefused, ///< other records refer to this one, or it refers to none
-        Busy,             ///< another program holds the file beyond the time-out
-        Full,             ///< no room on the disk
-        ReadOnly,         ///< the file or its folder can't be written
-        Damaged,          ///< not a database of this program, or a broken one
-        Gone,             ///< the record was deleted by another program
+        NameTaken,         ///< a unique name is already in the table
+        ReferenceRefused,  ///< other records refer to this one, or it refers to none
+        Busy,              ///< another program holds the file beyond the time-out
+        Full,              ///< no room on the disk
+        InputOutput,       ///< the disk reported an error
+        Uncertain,         ///< the disk reported one when all was written: it may be stored
+        ReadOnly,          ///< the file or its folder can't be written
+        Damaged,           ///< not a database of this program, or a broken one
+        Gone,              ///< the record was deleted meanwhile
+        Changed,           ///< another program changed the record since it was read
+        ParametersChanged, ///< or the common parameters
         Other
     };
 

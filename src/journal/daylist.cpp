@@ -3,6 +3,7 @@
 #include "data/recordset.h"
 #include "journal/daytotals.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 
@@ -62,10 +63,18 @@ void DayList::run()
     exec();
 }
 
+// A day that can't be read is not shown: picker, list and chart stay with the day before it.
 void DayList::showDay(QDate day)
 {
+    const QDate before = m_session.currentDate();
     m_session.setCurrentDate(day);
-    m_list->refresh();
+    if (m_session.currentDate() == day &&
+        attempt(
+            this, m_messages, [this] { m_list->refresh(); }, tr("The day can't be shown")))
+        return;
+    m_session.setCurrentDate(before);
+    const QSignalBlocker blocker(dtpDate);
+    dtpDate->setDate(m_session.currentDate());
 }
 
 void DayList::refuseDate()

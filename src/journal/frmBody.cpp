@@ -23,17 +23,24 @@ frmBody::frmBody(Session &session, Messages &messages, QWidget *parent)
     , txtHips(makeBox(QStringLiteral("txtHips"), tr("Hips")))
     , lblGirthUnit(new QLabel(this))
 {
-    const bool metric = !session.parameters().isImperial();
     lblWeightUnit->setObjectName(QStringLiteral("lblWeightUnit"));
-    lblWeightUnit->setText(units::weightLabel(metric));
     lblGirthUnit->setObjectName(QStringLiteral("lblGirthUnit"));
-    lblGirthUnit->setText(units::girthLabel(metric));
     dtpDate->setAccessibleName(tr("Date"));
+    showUnits();
+    // Another program may change them while this window is open.
+    connect(&session, &Session::parametersChanged, this, &frmBody::showUnits);
+    setForm(makeForm());
+    makeChecks();
+}
+
+void frmBody::showUnits()
+{
+    const bool metric = !session().parameters().isImperial();
+    lblWeightUnit->setText(units::weightLabel(metric));
+    lblGirthUnit->setText(units::girthLabel(metric));
     txtWeight->setAccessibleDescription(lblWeightUnit->text());
     for (QLineEdit *girth : {txtBreast, txtWaist, txtHips})
         girth->setAccessibleDescription(lblGirthUnit->text());
-    setForm(makeForm());
-    makeChecks();
 }
 
 QLayout *frmBody::makeForm()
@@ -105,16 +112,23 @@ qint32 frmBody::otherMeasurement()
 
 bool frmBody::confirmStore()
 {
-    const qint32 other = otherMeasurement();
-    if (other == 0)
-        return true;
-    if (!messages().ask(this, tr("Same date"),
-                        tr("There is already Body Measurement for this date in the database. Do "
-                           "you want to replace it?")))
-        return false;
-    // At once: it stays deleted even where the store that follows is refused.
-    session().data().run(commands::BodyDelete, {Value(other)});
-    return true;
+    m_replaced = otherMeasurement();
+    return m_replaced == 0 ||
+           messages().ask(this, tr("Same date"),
+                          tr("There is already Body Measurement for this date in the database. Do "
+                             "you want to replace it?"));
+}
+
+// The other measurement stays deleted where the store of this one is refused.
+std::vector<Step> frmBody::storeSteps()
+{
+    std::vector<Step> steps = RecordEditor::storeSteps();
+    if (m_replaced != 0)
+        steps.insert(steps.end() - 1, [this] {
+            source().requireUnchanged(); // or the other would be deleted for nothing
+            session().data().run(commands::BodyDelete, {Value(m_replaced)});
+        });
+    return steps;
 }
 
 void frmBody::recordStored()

@@ -23,10 +23,12 @@ protected:
     void Populate() override;
     void Gather() override;
     bool confirmStore() override;
+    std::vector<Step> storeSteps() override;
+    bool dependsOnParameters() const override { return true; }
     void recordStored() override;
 
 private:
-    QLineEdit *makeGirth(const QString &name, const QString &accessibleName);
+    void showUnits();
     QLayout *makeForm();
     void makeChecks();
     qint32 otherMeasurement();
@@ -39,4 +41,5 @@ private:
     QLineEdit *txtHips;
     QLabel *lblGirthUnit;
     qint32 m_storedId = 0;
+    qint32 m_replaced = 0; ///< BodyID of the measurement that the user agreed to replace
 };

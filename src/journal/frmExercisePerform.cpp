@@ -5,6 +5,7 @@
 #include "journal/performancefigures.h"
 #include "journal/quantitysteps.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/datacombo.h"
 
 #include <QGridLayout>
@@ -32,7 +33,8 @@ void frmExercisePerform::makeControls()
 {
     dcbExercise = makeChooser(QStringLiteral("dcbExercise"), tr("Activity"));
     btnNewCategory = makeNewButton(QStringLiteral("btnNewCategory"), tr("&New Activity"));
-    connect(btnNewCategory, &QPushButton::clicked, this, &frmExercisePerform::createActivity);
+    connect(btnNewCategory, &QPushButton::clicked, this,
+            attempting(this, messages(), &frmExercisePerform::createActivity));
     dtpBeginTime = makeTime(QStringLiteral("dtpBeginTime"), tr("Begin Time"));
     dtpEndTime = makeTime(QStringLiteral("dtpEndTime"), tr("End Time"));
     makeQuantity();

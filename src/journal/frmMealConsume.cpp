@@ -5,6 +5,7 @@
 #include "journal/consumptionfigures.h"
 #include "journal/quantitysteps.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/datacombo.h"
 
 #include <QGridLayout>
@@ -24,7 +25,8 @@ frmMealConsume::frmMealConsume(Session &session, Messages &messages, QWidget *pa
     makeControls();
     setForm(makeForm());
     makeChecks();
-    connect(dcbMealCategory, &DataCombo::boundValueChanged, this, &frmMealConsume::categoryChanged);
+    connect(dcbMealCategory, &DataCombo::boundValueChanged, this,
+            attempting(this, messages, &frmMealConsume::categoryChanged));
     connect(dcbMeal, &DataCombo::boundValueChanged, this, &frmMealConsume::mealChanged);
     loadCategories();
 }
@@ -34,7 +36,8 @@ void frmMealConsume::makeControls()
     dcbMealCategory = makeChooser(QStringLiteral("dcbMealCategory"), tr("Meal Category"));
     dcbMeal = makeChooser(QStringLiteral("dcbMeal"), tr("Meal"));
     btnNewMeal = makeNewButton(QStringLiteral("btnNewMeal"), tr("&New Meal"));
-    connect(btnNewMeal, &QPushButton::clicked, this, &frmMealConsume::createMeal);
+    connect(btnNewMeal, &QPushButton::clicked, this,
+            attempting(this, messages(), &frmMealConsume::createMeal));
     dtpTime = makeTime(QStringLiteral("dtpTime"), tr("Time"));
     makeQuantity();
 }

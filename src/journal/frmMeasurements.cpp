@@ -4,6 +4,7 @@
 #include "journal/frmUserNote.h"
 #include "session/session.h"
 #include "settings/units.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 #include "ui/recordlist.h"
@@ -171,7 +172,8 @@ QWidget *frmMeasurements::makeNotePane()
 
 void frmMeasurements::makeConnections()
 {
-    connect(dtpDate, &QDateEdit::dateChanged, this, &frmMeasurements::refresh);
+    connect(dtpDate, &QDateEdit::dateChanged, this,
+            attempting(this, m_messages, &frmMeasurements::refresh));
     whenRefused(*dtpDate, [this] {
         m_messages.error(this, tr("The Date From field contains illegal data"));
     });

@@ -1,6 +1,7 @@
 #include "session/samplejournal.h"
 
 #include "data/numbers.h"
+#include "data/steps.h"
 #include "data/valuehelpers.h"
 
 using namespace Qt::Literals;
@@ -8,26 +9,34 @@ using namespace Qt::Literals;
 void moveSampleJournal(deData &data, QDate today)
 {
     Recordset &common = data.rsCommon;
-    if (!common.isOpen())
-        common.open();
+    common.reopen();
     const qint16 nDays = toInt16(common.date("installDate"_L1).daysTo(today));
     const qint16 x = toInt16(MinOf(50 - nDays, 50));
 
-    // In two steps, first away and then on, never in one.
-    data.run(commands::RecalcBodyDates, {Value(-x)});
-    data.run(commands::RecalcBodyDates, {Value(x + nDays)});
-    data.run(commands::RecalcExerciseDates, {Value(int(nDays))});
-    data.run(commands::RecalcMealDates, {Value(int(nDays))});
-    data.run(commands::RecalcUserNoteDates, {Value(int(nDays))});
-
-    common.set("installDate"_L1, Value(today));
-    common.update();
+    const auto move = [&data](const Command &command, int days) -> Step {
+        return [&data, &command, days] { data.run(command, {Value(days)}); };
+    };
+    runAsOne(data.Con,
+             {// In two steps, first away and then on, never in one.
+              move(commands::RecalcBodyDates, -x), move(commands::RecalcBodyDates, x + nDays),
+              move(commands::RecalcExerciseDates, nDays), move(commands::RecalcMealDates, nDays),
+              move(commands::RecalcUserNoteDates, nDays),
+              [&] {
+                  common.set("installDate"_L1, Value(today));
+                  common.update();
+              }},
+             Refusal::KeepsEarlierSteps);
 }
 
 void deleteSampleJournal(deData &data)
 {
-    data.run("delete from Body where BodyId<0");
-    data.run("delete from ExercisePerform where ExercisePerformID<0");
-    data.run("delete from MealConsume where MealConsumeID<0");
-    data.run("delete from UserNote where UserNoteId<0");
+    const auto remove = [&data](const char *sql) -> Step {
+        return [&data, sql] { data.run(sql); };
+    };
+    runAsOne(data.Con,
+             {remove("delete from Body where BodyId<0"),
+              remove("delete from ExercisePerform where ExercisePerformID<0"),
+              remove("delete from MealConsume where MealConsumeID<0"),
+              remove("delete from UserNote where UserNoteId<0")},
+             Refusal::KeepsEarlierSteps);
 }

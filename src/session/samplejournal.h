@@ -5,11 +5,11 @@
 
 /// Moves the sample journal so that it lies around `today` as it lay around the stored
 /// installDate, and sets installDate to today. Every body measurement is moved, a user's own too:
-/// run only at the very first start. The commands run one by one; an error in one leaves the
-/// earlier ones applied. Throws StoreError, and OverflowError where the days between are beyond
-/// 16 bits.
+/// run only at the very first start. One action, which a kill leaves done or not begun; an error in
+/// one of its commands leaves the earlier ones applied. Throws StoreError, and OverflowError where
+/// the days between are beyond 16 bits.
 void moveSampleJournal(deData &data, QDate today);
 
-/// Deletes the sample journal. An error stops at the failing statement; the statements before it
-/// stay applied.
+/// Deletes the sample journal, as one action; an error stops at the failing statement, and the
+/// statements before it stay applied. Throws StoreError.
 void deleteSampleJournal(deData &data);

@@ -4,6 +4,12 @@
 
 using namespace Qt::Literals;
 
+CommonParameters commonParametersOf(const Recordset &common)
+{
+    return {roundToInt16(common.number("weight"_L1)), common.text("Measurement"_L1),
+            common.number("metabolicRate"_L1)};
+}
+
 Session::Session(deData &data, const Clock &clock, const QLocale &locale)
     : m_data(data)
     , m_clock(clock)
@@ -29,14 +35,24 @@ void Session::setCurrentTime(QTime time)
 
 void Session::readCommonParameters()
 {
-    Recordset &common = m_data.rsCommon;
-    if (!common.isOpen())
-        common.open();
-    CommonParameters stored;
-    stored.weight = roundToInt16(common.number("weight"_L1));
-    stored.measurement = common.text("Measurement"_L1);
-    stored.metabolicRate = common.number("metabolicRate"_L1);
-    m_parameters = stored;
+    m_data.rsCommon.reopen();
+    setParameters(commonParametersOf(m_data.rsCommon));
+}
+
+void Session::setParameters(const CommonParameters &parameters)
+{
+    if (parameters == m_parameters)
+        return;
+    m_parameters = parameters;
+    Q_EMIT parametersChanged();
+}
+
+void Session::requireCurrentParameters()
+{
+    m_data.rsCommon.reopen();
+    if (commonParametersOf(m_data.rsCommon) != m_parameters)
+        throw StoreError(StoreError::Kind::ParametersChanged,
+                         "another program has changed the common parameters");
 }
 
 QString Session::listTimeFormat() const

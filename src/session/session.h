@@ -18,7 +18,12 @@ struct CommonParameters
     // and the windows of body measurements metric.
     bool isMetric() const { return measurement == QLatin1String("M"); }
     bool isImperial() const { return measurement == QLatin1String("I"); }
+    bool operator==(const CommonParameters &) const = default;
 };
+
+/// The parameters in the current row of command Common; the weight is rounded half to even.
+/// Throws OverflowError for a weight beyond 16 bits.
+CommonParameters commonParametersOf(const Recordset &common);
 
 /// Made by start-up and handed to each window by reference; there are no globals.
 class Session : public QObject
@@ -42,9 +47,12 @@ public:
     void setCurrentTime(QTime time);
 
     const CommonParameters &parameters() const { return m_parameters; }
-    /// Takes the parameters from the stored row; the weight is rounded half to even. Throws
-    /// StoreError, and OverflowError for a weight beyond 16 bits, leaving the old ones.
+    /// Takes the parameters from the stored row. Throws StoreError, and OverflowError for a weight
+    /// beyond 16 bits, leaving the old ones.
     void readCommonParameters();
+    void setParameters(const CommonParameters &parameters);
+    /// Throws StoreError where another program has stored other parameters meanwhile.
+    void requireCurrentParameters();
 
     bool is24HourClock() const { return m_text.is24HourClock(); }
     /// "Hh:Nn" or "h:Nn am/pm", what LocaleText::listTime writes.
@@ -63,6 +71,7 @@ public:
 Q_SIGNALS:
     void dayChanged();
     void journalChanged();
+    void parametersChanged();
 
 private:
     deData &m_data;

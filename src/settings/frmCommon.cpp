@@ -126,10 +126,17 @@ void frmCommon::Gather()
     source().set("metabolicRate"_L1, Value(*session().text().toCurrency(txtMetabolicRate->text())));
 }
 
+std::vector<Step> frmCommon::storeSteps()
+{
+    std::vector<Step> steps = RecordEditor::storeSteps();
+    steps.emplace_back(
+        [this] { recalculateStoredData(session().data(), commonParametersOf(source())); });
+    return steps;
+}
+
 void frmCommon::recordStored()
 {
-    session().readCommonParameters();
-    recalculateStoredData(session().data(), session().parameters());
+    session().setParameters(commonParametersOf(source()));
     m_okPressed = true;
     RecordEditor::recordStored();
     if (!m_firstStart)

@@ -28,6 +28,8 @@ protected:
     bool appendsRecord() const override { return false; }
     void Populate() override;
     void Gather() override;
+    std::vector<Step> storeSteps() override;
+    Refusal refusal() const override { return Refusal::UndoesAll; }
     void recordStored() override;
     QString refusedStoreMessage() const override;
 

@@ -6,5 +6,5 @@ struct CommonParameters;
 
 /// Converts the body measurements that are written in the other unit system and scales the
 /// weight-dependent activities from their base calories to the user's weight. Harmless when
-/// repeated. Each command is durable on its own; throws StoreError.
+/// repeated; throws StoreError.
 void recalculateStoredData(deData &data, const CommonParameters &parameters);

@@ -1,6 +1,7 @@
 #include "ui/formdialog.h"
 
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
@@ -110,7 +111,8 @@ QLayout *FormDialog::makeButtons()
     btnCancel = new QPushButton(tr("&Cancel"), this);
     btnCancel->setObjectName(QStringLiteral("btnCancel"));
     btnHelp = makeHelpButton(this);
-    connect(btnOK, &QPushButton::clicked, this, &QDialog::accept);
+    connect(btnOK, &QPushButton::clicked, this,
+            [this] { attempt(this, m_messages, [this] { accept(); }); });
     connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto *buttons = new QHBoxLayout;

@@ -19,10 +19,12 @@ QString withPlainLineFeeds(QString text)
 }
 
 int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
-           QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
+           const QString &cause, QMessageBox::StandardButtons buttons,
+           QMessageBox::StandardButton defaultButton)
 {
     QMessageBox box(icon, title, withPlainLineFeeds(text), buttons, parent);
     box.setTextFormat(Qt::PlainText); // a note's text may hold what looks like markup
+    box.setInformativeText(cause);
     box.setDefaultButton(defaultButton);
     return box.exec();
 }
@@ -64,9 +66,9 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
 
 } // namespace
 
-void Messages::error(QWidget *parent, const QString &text)
+void Messages::error(QWidget *parent, const QString &text, const QString &cause)
 {
-    show(parent, Icon::Exclamation, QCoreApplication::translate("Messages", "Error"), text);
+    show(parent, Icon::Exclamation, QCoreApplication::translate("Messages", "Error"), text, cause);
 }
 
 void Messages::information(QWidget *parent, const QString &text)
@@ -74,19 +76,20 @@ void Messages::information(QWidget *parent, const QString &text)
     show(parent, Icon::Information, QCoreApplication::applicationName(), text);
 }
 
-void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const QString &text)
+void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const QString &text,
+                        const QString &cause)
 {
     const auto boxIcon = icon == Icon::Information ? QMessageBox::Information
                          : icon == Icon::Critical  ? QMessageBox::Critical
                                                    : QMessageBox::Warning;
     if (isTooTall(text))
-        runScrolledBox(parent, boxIcon, title, text);
+        runScrolledBox(parent, boxIcon, title, cause.isEmpty() ? text : text + u'\n' + cause);
     else
-        runBox(parent, boxIcon, title, text, QMessageBox::Ok, QMessageBox::Ok);
+        runBox(parent, boxIcon, title, text, cause, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool MessageBoxes::ask(QWidget *parent, const QString &title, const QString &text)
 {
-    return runBox(parent, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
-                  QMessageBox::No) == QMessageBox::Yes;
+    return runBox(parent, QMessageBox::Question, title, text, {},
+                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }

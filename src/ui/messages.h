@@ -18,13 +18,18 @@ public:
 
     virtual ~Messages() = default;
 
-    /// Modal, with an OK button.
-    virtual void show(QWidget *parent, Icon icon, const QString &title, const QString &text) = 0;
+    /// Modal, with an OK button. The cause, where it is known, stands below the text.
+    virtual void show(QWidget *parent, Icon icon, const QString &title, const QString &text,
+                      const QString &cause) = 0;
+    void show(QWidget *parent, Icon icon, const QString &title, const QString &text)
+    {
+        show(parent, icon, title, text, {});
+    }
     /// Modal, question icon, Yes and No with No as the default; true only for Yes.
     virtual bool ask(QWidget *parent, const QString &title, const QString &text) = 0;
 
     /// Title "Error", exclamation icon: a failed check or a refused change.
-    void error(QWidget *parent, const QString &text);
+    void error(QWidget *parent, const QString &text, const QString &cause = {});
     /// Information icon, the program's name as the title.
     void information(QWidget *parent, const QString &text);
 };
@@ -33,6 +38,7 @@ public:
 class MessageBoxes : public Messages
 {
 public:
-    void show(QWidget *parent, Icon icon, const QString &title, const QString &text) override;
+    void show(QWidget *parent, Icon icon, const QString &title, const QString &text,
+              const QString &cause) override;
     bool ask(QWidget *parent, const QString &title, const QString &text) override;
 };

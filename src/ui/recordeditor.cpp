@@ -2,9 +2,11 @@
 
 #include "data/storeerror.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 
 #include <QLineEdit>
+#include <QScopeGuard>
 
 RecordEditor::RecordEditor(Session &session, Messages &messages, Recordset &source,
                            const QString &name, const QString &caption, QWidget *parent)
@@ -17,10 +19,10 @@ bool RecordEditor::run(qint32 recordId)
 {
     m_recordId = recordId;
     m_stored = false;
+    const auto close = qScopeGuard([this] { m_source.close(); });
     load();
     focusFirstField();
     exec();
-    m_source.close();
     return m_stored;
 }
 
@@ -29,6 +31,8 @@ void RecordEditor::load()
     if (appendsRecord())
         setWindowTitle(tr("%1 - New").arg(windowTitle()));
     openSource();
+    if (!appendsRecord() && m_source.isEof())
+        throw StoreError(StoreError::Kind::Gone, "the record has been deleted");
     m_loading = true;
     Populate();
     // Of a text too long for its box, the beginning tells more than the end.
@@ -52,24 +56,48 @@ void RecordEditor::accept()
 
 bool RecordEditor::store()
 {
+    const Recordset::Rows before = m_source.rows();
     try {
         if (appendsRecord())
             m_source.addNew();
-        else if (m_source.isEof())
-            throw StoreError(StoreError::Kind::Gone, "the record was deleted by another program");
         Gather();
         if (!confirmStore()) {
             m_source.cancelUpdate();
             return false;
         }
-        m_source.update();
+        runAsOne(session().data().Con, storeSteps(), refusal());
         return true;
-    } catch (const std::runtime_error &) {
-        // Discarded before anything is said, so that the next OK begins anew.
-        m_source.cancelUpdate();
-        messages().error(this, refusedStoreMessage());
+    } catch (const std::exception &error) {
+        // Put back before anything is said, so that the next OK begins anew.
+        m_source.restore(before);
+        refuseStore(error);
         return false;
     }
+}
+
+std::vector<Step> RecordEditor::storeSteps()
+{
+    std::vector<Step> steps;
+    if (dependsOnParameters())
+        steps.emplace_back([this] { session().requireCurrentParameters(); });
+    steps.emplace_back([this] { m_source.update(); });
+    return steps;
+}
+
+void RecordEditor::refuseStore(const std::exception &error)
+{
+    QString cause = causeOf(error);
+    const auto *refusal = dynamic_cast<const StoreError *>(&error);
+    if (refusal && refusal->kind() == StoreError::Kind::NameTaken)
+        cause = takenNameCause();
+    if (refusal && refusal->kind() == StoreError::Kind::ParametersChanged)
+        attempt(this, messages(), [this] {
+            session().readCommonParameters();
+            session().announceJournalChange();
+        });
+    if (refusal && refusal->kind() == StoreError::Kind::Changed)
+        attempt(this, messages(), [this] { openSource(); });
+    messages().error(this, refusedStoreMessage(), cause);
 }
 
 void RecordEditor::recordStored()

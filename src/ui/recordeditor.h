@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/recordset.h"
+#include "data/steps.h"
 #include "ui/formdialog.h"
 
 /// A modal dialog that edits one record through the result set of its single-record command.
@@ -14,6 +15,7 @@ class RecordEditor : public FormDialog
 
 public:
     /// Shows the dialog modally for a record, 0 for a new one; true where something was stored.
+    /// Throws StoreError, and shows nothing, where the record can't be read or is gone.
     bool run(qint32 recordId);
 
     qint32 recordId() const { return m_recordId; }
@@ -31,10 +33,19 @@ protected:
     /// A last look at the gathered record before it is written; false discards the change and
     /// leaves the dialog open (the window has said why).
     virtual bool confirmStore() { return true; }
+    /// What storing the gathered record takes, as one transaction, and what remains of it where a
+    /// step is refused: the record alone, unless the window adds to it.
+    virtual std::vector<Step> storeSteps();
+    virtual Refusal refusal() const { return Refusal::KeepsEarlierSteps; }
+    /// Whether what is typed means something else once another program has changed the user's
+    /// parameters: such a store is refused, and the session tells of the new ones.
+    virtual bool dependsOnParameters() const { return false; }
     /// After a successful write; the base closes the dialog.
     virtual void recordStored();
     /// What is said when the store is refused.
     virtual QString refusedStoreMessage() const;
+    /// What is said below it where a unique name is taken.
+    virtual QString takenNameCause() const { return {}; }
     /// Opens the source for the record to edit; for a new one it yields no row.
     virtual void openSource();
     /// Whether OK appends a record rather than changing the one that was opened.
@@ -49,6 +60,7 @@ private:
     void accept() override;
     void load();
     bool store();
+    void refuseStore(const std::exception &error);
 
     Recordset &m_source;
     qint32 m_recordId = 0;

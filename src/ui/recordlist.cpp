@@ -1,6 +1,7 @@
 #include "ui/recordlist.h"
 
 #include "data/storeerror.h"
+#include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 
@@ -185,8 +186,14 @@ void RecordList::editSelected()
 
 void RecordList::edit(qint32 id)
 {
-    if (const std::optional<Reselection> stored = m_actions.edit(id))
-        refresh(*stored);
+    std::optional<Reselection> stored;
+    // A record that can't be opened may be gone: the list is read anew then, too.
+    if (!attempt(
+            window(), m_messages, [&] { stored = m_actions.edit(id); },
+            tr("The record can't be opened")))
+        stored.emplace();
+    if (stored)
+        refreshOrTell(*stored);
     m_list->setFocus();
 }
 
@@ -207,15 +214,25 @@ void RecordList::removeSelected()
     const int row = selectedRow();
     try {
         m_actions.remove(selectedTag());
-    } catch (const StoreError &) {
-        m_messages.error(window(), m_family == ListFamily::Catalogue
-                                       ? tr("This record can't be deleted because there are "
-                                            "records in the database, which refer to it")
-                                       : tr("This record can't be deleted from database"));
+    } catch (const std::exception &error) {
+        m_messages.error(window(),
+                         m_family == ListFamily::Catalogue
+                             ? tr("This record can't be deleted because there are "
+                                  "records in the database, which refer to it")
+                             : tr("This record can't be deleted from database"),
+                         causeOf(error));
         return;
     }
-    refresh();
+    refreshOrTell({});
     select(qMin(row, m_model->rowCount() - 1));
+}
+
+// What was stored or deleted before is so, whether the rows can be read afterwards or not.
+void RecordList::refreshOrTell(const Reselection &reselection)
+{
+    attempt(
+        window(), m_messages, [&] { refresh(reselection); },
+        tr("The list can't be read; it shows what it showed before"));
 }
 
 void RecordList::arrangeColumns()

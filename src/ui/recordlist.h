@@ -77,6 +77,7 @@ private:
     void deleteSelected();
     void removeSelected();
     void edit(qint32 id);
+    void refreshOrTell(const Reselection &reselection);
     void select(int row);
     int selectedRow() const;
     qint32 selectedTag() const;

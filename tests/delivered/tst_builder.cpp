@@ -64,8 +64,10 @@ void tst_builder::init()
                         path(u"schema.sql"_s)));
     write(u"common.tsv"_s, commonColumns + u"74\tM\t1\t1\t1\t1\t2026-01-01\n"_s);
     write(u"catalogue/meals/1.tsv"_s, u"# Category: Pies\n"_s + mealColumns +
-                                          u"Pie\tslice\t1\t0.5\t250\t10\t20\t5\n"
-                                          "Water\tglass\t\t\t0\t0\t0\t0\n"_s);
+                                          u"Pie\tslice\t1\t0.5\t200\t10\t20\t5\n"
+                                          "Water\tglass\t\t\t0\t0\t0\t0\n"
+                                          "Rum\tshot\t1\t\t88\t0\t0.1\t0\n"_s);
+    write(u"catalogue/energy.tsv"_s, u"Meal\tAlcohol\tOff\tReason\nRum\t12.6\t\talcohol\n"_s);
     write(u"catalogue/activities.tsv"_s,
           u"Name\tUnit\tDefaultQty\tWeightDependent\tCaloriesAtReference\n"
           "Walking\tminute\t30\t1\t2.84\nPiano\tminute\t\t0\t1.47\n"_s);
@@ -87,12 +89,20 @@ void tst_builder::refusesBrokenSources_data()
     };
 
     const char *meals = "catalogue/meals/1.tsv";
-    defect(meals, "Tea|cup|1|1|2|0|0", ":5: There are 7 cells instead of 8");
-    defect(meals, "PIE|slice|||1|0|0|0", ":5: The name \"PIE\" is taken at ");
-    defect(meals, "Tea|cup|||1,5|0|0|0", ":5: Calories \"1,5\" is not a decimal");
+    defect(meals, "Tea|cup|1|1|2|0|0", ":6: There are 7 cells instead of 8");
+    defect(meals, "PIE|slice|||1|0|0|0", ":6: The name \"PIE\" is taken at ");
+    defect(meals, "Tea|cup|||1,5|0|0|0", ":6: Calories \"1,5\" is not a decimal");
     defect(meals, "Tea|cup|||1|0.00001|0|0",
-           ":5: Fat \"0.00001\" is not a decimal of at most four");
-    defect(meals, "Tea|cup|||1|999999999999999|0|0", ":5: Fat 999999999999999 is out of range");
+           ":6: Fat \"0.00001\" is not a decimal of at most four");
+    defect(meals, "Tea|cup|||1|999999999999999|0|0", ":6: Fat 999999999999999 is out of range");
+    defect(meals, "Wine|glass|||126|0|3.8|0.1",
+           ":6: \"Wine\" has 126 kcal, but what it holds makes 15.6");
+    defect(meals, "Oil|spoon|||124|1.4|0|0",
+           ":6: \"Oil\" has 124 kcal, but what it holds makes 12.6");
+    const char *energy = "catalogue/energy.tsv";
+    defect(energy, "Pie||-5|fibre", ":3: Meal \"Pie\" fits without this row");
+    defect(energy, "Cake||-5|fibre", ":3: Meal \"Cake\" is not in the catalogue");
+    defect(energy, "Rum||88|alcohol", ":3: Meal \"Rum\" has a row already");
     const char *activities = "catalogue/activities.tsv";
     defect(activities, "Rest|hour||1|0", ":4: CaloriesAtReference should be more than 0");
     defect("sample/meals.tsv", "0|08:00|Cake|1", ":3: Meal \"Cake\" is not in the catalogue");
@@ -132,8 +142,9 @@ void tst_builder::computesWhatTheProgramWould()
     delivered::writeDatabase(database, delivered::loadSources(m_folder->path()));
     const QStringList expected{
         "1|Pies",
-        "1|1|Pie|slice|1|0.5|250|10|20|5|118.4211|105.2631|26.3158",
+        "1|1|Pie|slice|1|0.5|200|10|20|5|94.7368|84.2106|21.0526",
         "2|1|Water|glass|||0|0|0|0|0|0|0",
+        "3|1|Rum|shot|1||88|0|0.1|0|0|88|0",
         "1|Walking|minute|30|3.0888|2.84|1",
         "2|Piano|minute||1.47|1.47|0",
         "-1|1|46022|0.3125|1.5",

@@ -182,11 +182,14 @@ void tst_body::yesReplacesTheOther()
 
 void tst_body::refusesARecordThatIsGone()
 {
-    journal->exec("insert into Body values (10, 46225, 80, 100, 90, 95, 'M')");
+    journal->exec("insert into Body values (10, 46225, 80, 100, 90, 95, 'M'),"
+                  " (11, 46224, 80, 100, 90, 95, 'M')");
     journal->messages.answers = {true};
     const auto editor = journal->edit<frmBody>(11, [this](QWidget &dialog) {
-        enter(dialog, {"70", "98", "85", "94"});
+        journal->exec("delete from Body where BodyID = 11");
+        setDate(dialog, today);
         press(dialog, "btnOK");
+        QCOMPARE(journal->messages.said.back().cause, "The record has been deleted meanwhile.");
         QCOMPARE(journal->messages.takeText(), refused);
     });
     QVERIFY(!editor->OkPressed());

@@ -21,16 +21,18 @@ public:
         Icon icon;
         QString title;
         QString text;
+        QString cause = {};
         bool isQuestion = false;
     };
 
-    void show(QWidget *, Icon icon, const QString &title, const QString &text) override
+    void show(QWidget *, Icon icon, const QString &title, const QString &text,
+              const QString &cause) override
     {
-        said.push_back({icon, title, text});
+        said.push_back({icon, title, text, cause});
     }
     bool ask(QWidget *, const QString &title, const QString &text) override
     {
-        said.push_back({Icon::Information, title, text, true});
+        said.push_back({Icon::Information, title, text, {}, true});
         return !answers.isEmpty() && answers.takeFirst();
     }
 

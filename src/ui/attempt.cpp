@@ -1,0 +1,74 @@
+#include "ui/attempt.h"
+
+#include "data/numbers.h"
+#include "data/storeerror.h"
+#include "ui/messages.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Refusal", text);
+}
+
+QString causeOf(StoreError::Kind kind)
+{
+    switch (kind) {
+    case StoreError::Kind::Busy:
+        return tr("Another program is using the database.");
+    case StoreError::Kind::Full:
+        return tr("The disk is full.");
+    case StoreError::Kind::InputOutput:
+        return tr("The disk reported an error.");
+    case StoreError::Kind::Uncertain:
+        return tr("The disk reported an error at the very end: the change may have been stored. "
+                  "Please look before you repeat it.");
+    case StoreError::Kind::ReadOnly:
+        return tr("The database file can't be written.");
+    case StoreError::Kind::Damaged:
+        return tr("The database file is damaged.");
+    case StoreError::Kind::Gone:
+        return tr("The record has been deleted meanwhile.");
+    case StoreError::Kind::Changed:
+        return tr("Another program has changed the record since it was opened. Stored once more, "
+                  "your values take the place of the other ones.");
+    case StoreError::Kind::ParametersChanged:
+        return tr("Another program has changed the common parameters meanwhile. Please check your "
+                  "values against the units that stand beside them now.");
+    case StoreError::Kind::NameTaken:
+    case StoreError::Kind::ReferenceRefused:
+    case StoreError::Kind::Other:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+QString causeOf(const std::exception &error)
+{
+    if (const auto *refusal = dynamic_cast<const StoreError *>(&error))
+        return causeOf(refusal->kind());
+    if (dynamic_cast<const OverflowError *>(&error))
+        return tr("A number is outside the range of what can be stored.");
+    return {};
+}
+
+bool attempt(QWidget *window, Messages &messages, const std::function<void()> &action,
+             const QString &failure)
+{
+    try {
+        action();
+        return true;
+    } catch (const std::exception &error) {
+        QString cause = causeOf(error);
+        if (cause.isEmpty())
+            cause = QString::fromUtf8(error.what());
+        messages.error(window,
+                       failure.isEmpty() ? tr("The last action could not be carried out") : failure,
+                       cause);
+        return false;
+    }
+}
