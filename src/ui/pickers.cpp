@@ -103,9 +103,12 @@ public:
 protected:
     bool event(QEvent *event) override
     {
-        if (event->type() == QEvent::InputMethod)
-            setTyping(true);
-        return Edit::event(event);
+        if (event->type() != QEvent::InputMethod)
+            return Edit::event(event);
+        setTyping(true);
+        const bool isDone = Edit::event(event);
+        setTyping(!showsValue());
+        return isDone;
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -63,7 +63,7 @@ bool SectionTyping::isAllSelected() const
 void SectionTyping::select(const Span &span)
 {
     m_ranOn = false;
-    m_isTornOff = false;
+    m_tornOff.clear();
     m_box.setSelection(int(span.at), int(span.size));
 }
 
@@ -90,6 +90,11 @@ void SectionTyping::walk(bool forward)
         select(index + 1);
     else
         select(index == 0 ? 0 : index - 1);
+}
+
+bool SectionTyping::isTornOff() const
+{
+    return !m_tornOff.isEmpty() && m_tornOff == m_box.text();
 }
 
 void SectionTyping::type(QChar c)
@@ -124,7 +129,8 @@ void SectionTyping::typeDigit(QChar c)
         m_ranOn = true;
     }
     m_box.insert(c);
-    m_isTornOff = m_ranOn && spans()[indexAtCursor()].size == 1;
+    const bool tornOff = m_ranOn && spans()[indexAtCursor()].size == 1;
+    m_tornOff = tornOff ? m_box.text() : QString();
 }
 
 void SectionTyping::typeLetter(QChar c)

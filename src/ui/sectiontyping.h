@@ -31,7 +31,7 @@ public:
     size_t indexAtCursor() const;
     /// Whether digits that ran on into a section ended before it was full: "130" may be 1:30 or the
     /// beginning of 13:00.
-    bool isTornOff() const { return m_isTornOff; }
+    bool isTornOff() const;
 
 private:
     struct Span
@@ -54,5 +54,5 @@ private:
     std::vector<QDateTimeEdit::Section> m_sections;
     bool m_haveWord = false;
     bool m_ranOn = false;
-    bool m_isTornOff = false;
+    QString m_tornOff; ///< the text that ended so
 };
