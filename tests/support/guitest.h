@@ -109,10 +109,10 @@ inline void typeKeys(const QString &text)
     }
 }
 
-/// The wheel turned down over a field, wherever the focus is.
+/// The wheel turned up over a field, wherever the focus is.
 inline void turnWheelOver(QWidget &field)
 {
-    QWheelEvent wheel({}, {}, {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+    QWheelEvent wheel({}, {}, {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                       false);
     QApplication::sendEvent(&field, &wheel);
 }
