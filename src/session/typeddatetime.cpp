@@ -8,8 +8,8 @@ namespace {
 
 struct Number
 {
-    int value;
-    int digits;
+    int value = 0;
+    int digits = 0;
     bool isName = false; ///< of a month
 };
 
@@ -32,7 +32,7 @@ Pieces piecesOf(const QString &text)
     for (const char32_t c : text.toStdU32String()) {
         if (QChar::isDigit(c)) {
             if (in != Digits)
-                pieces.numbers.push_back({0, 0});
+                pieces.numbers.emplace_back();
             Number &number = pieces.numbers.back();
             // Longer ones are refused by their digits.
             if (++number.digits <= 8)
@@ -79,13 +79,12 @@ QString orderOf(const QString &format)
 /// Eight digits, or six, in the order of the locale.
 std::vector<Number> splitDigits(Number all, const QString &order)
 {
-    std::vector<Number> parts;
-    int divisor = all.digits == 8 ? 100000000 : 1000000;
-    for (const QChar part : order) {
-        const int digits = part == u'y' ? all.digits - 4 : 2;
-        const int rest = all.value % divisor;
-        divisor /= digits == 4 ? 10000 : 100;
-        parts.push_back({rest / divisor, digits});
+    std::vector<Number> parts(size_t(order.size()));
+    for (qsizetype i = order.size() - 1; i >= 0; --i) {
+        const int digits = order[i] == u'y' ? all.digits - 4 : 2;
+        const int range = digits == 4 ? 10000 : 100;
+        parts[size_t(i)] = {all.value % range, digits};
+        all.value /= range;
     }
     return parts;
 }

@@ -65,6 +65,7 @@ DataCombo::DataCombo(QWidget *parent)
         if (auto *names = qobject_cast<QListView *>(list))
             names->setUniformItemSizes(true);
         list->setItemDelegate(new NameDelegate(list));
+        list->setTextElideMode(Qt::ElideRight);
     }
 
     connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::offerMatches);

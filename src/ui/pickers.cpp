@@ -50,6 +50,7 @@ public:
         this->setLocale(session.text().locale());
         this->setDisplayFormat(format);
         std::vector<QDateTimeEdit::Section> sections;
+        sections.reserve(size_t(this->sectionCount()));
         for (int i = 0; i < this->sectionCount(); ++i)
             sections.push_back(this->sectionAt(i));
         m_sections.setSections(std::move(sections), format.contains(QLatin1String("MMM")) ||
@@ -139,6 +140,9 @@ protected:
             Edit::keyPressEvent(event);
     }
 
+    // Past the base's own: it would walk the sections before it left the field, and on entering
+    // write the value over a refused text.
+    // NOLINTBEGIN(bugprone-parent-virtual-call)
     bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 
     void focusInEvent(QFocusEvent *event) override
@@ -149,6 +153,7 @@ protected:
         if (!isBack && event->reason() != Qt::MouseFocusReason)
             selectForTyping();
     }
+    // NOLINTEND(bugprone-parent-virtual-call)
 
     void focusOutEvent(QFocusEvent *event) override
     {
