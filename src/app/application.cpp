@@ -1,6 +1,6 @@
 #include "app/application.h"
 
-#include "ui/messages.h"
+#include "ui/attempt.h"
 
 Application::Application(int &argc, char **argv, Messages &messages)
     : QApplication(argc, argv)
@@ -13,8 +13,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception &error) {
-        m_messages.error(activeWindow(), tr("The last action could not be carried out: %1.")
-                                             .arg(QString::fromUtf8(error.what())));
+        tellFailure(activeWindow(), m_messages, error);
     }
     return true;
 }

@@ -35,9 +35,11 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QTimer>
 #include <QToolBar>
 
 #include <limits>
+#include <utility>
 
 using namespace Qt::Literals;
 
@@ -213,10 +215,13 @@ void frmMain::LoadGraph()
     TrellumGraph &graph = *m_view->graph;
     const QDate day = m_session.currentDate();
     // Both are read before anything is shown: a day that can't be read leaves the one before it.
+    // Of a damaged file it shows what it can.
     Recordset &meals = m_session.data().rsMealConsumeSorted;
     Recordset &activities = m_session.data().rsExercisePerformSorted;
-    meals.reopen({Value(day)});
-    activities.reopen({Value(day)});
+    meals.reopenReadable({Value(day)});
+    activities.reopenReadable({Value(day)});
+    m_missing = whatIsMissing(meals.leftOut() + activities.leftOut(),
+                              meals.isCutShort() || activities.isCutShort());
 
     m_view->txtDate->setText(m_session.text().mediumDate(day));
     m_shownDate = day;
@@ -239,6 +244,16 @@ void frmMain::RePaintGraph()
 {
     LoadGraph();
     m_view->graph->repaintChart();
+    tellMissing();
+}
+
+// Once for a day, and not at every repainting.
+void frmMain::tellMissing()
+{
+    const QDate day = m_missing.isEmpty() ? QDate() : m_shownDate;
+    if (std::exchange(m_toldDate, day) != day && day.isValid())
+        m_messages.error(this, tr("%1 is not shown in full").arg(m_session.text().mediumDate(day)),
+                         m_missing);
 }
 
 void frmMain::followDay()
@@ -454,6 +469,7 @@ void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     m_view->graph->setFocus();
+    QTimer::singleShot(0, this, &frmMain::tellMissing); // behind its message the window is seen
 }
 
 void frmMain::changeEvent(QEvent *event)

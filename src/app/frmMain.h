@@ -47,6 +47,7 @@ private:
     /// Draws what the session tells of, or says that it can't be drawn.
     void followDay();
     void followJournal();
+    void tellMissing();
     void showPreviousDay();
     void showNextDay();
     void setDate();
@@ -82,4 +83,6 @@ private:
     QToolBar *tlbToolBar;
     std::map<QString, QAction *> m_entries;
     QDate m_shownDate; ///< of the chart
+    QString m_missing; ///< why it doesn't show all of the day; empty where it does
+    QDate m_toldDate;  ///< the day of which that was said last
 };

@@ -1,19 +1,50 @@
 #include "app/startup.h"
 
 #include "app/frmMain.h"
+#include "data/pendingrollback.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
 #include "settings/frmCommon.h"
+#include "ui/attempt.h"
 #include "ui/messages.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::Literals;
 
 namespace {
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("StartUp", text);
+}
+
+// Why a store that was cut short can't be undone, and what to do; empty where it can.
+QString rollbackAdvice(const QString &databasePath)
+{
+    switch (examineRollback(databasePath)) {
+    case PendingRollback::None:
+    case PendingRollback::Sound:
+        return {};
+    case PendingRollback::Foreign:
+        return tr("The file Corvana.mdb-journal beside it was left by a store that was cut short, "
+                  "but not in this Corvana.mdb: it would spoil it. Have you put back a copy? Then "
+                  "move Corvana.mdb-journal into another folder and start again. Nothing has been "
+                  "changed.");
+    case PendingRollback::Damaged:
+        return tr("A store was cut short, and the file is damaged: undoing the store with "
+                  "Corvana.mdb-journal does not make it whole. Copy both files into another folder "
+                  "and keep them. Then put back your last copy of Corvana.mdb, or, where you have "
+                  "none, remove Corvana.mdb-journal only, to see what can still be read. Nothing "
+                  "has been changed.");
+    case PendingRollback::Untried:
+        break;
+    }
+    return tr(
+        "A store was cut short and has to be undone, which is tried on a copy first, but there "
+        "is no room for it in the folder for temporary files. Please make room and start "
+        "again. Nothing has been changed.");
 }
 
 } // namespace
@@ -46,28 +77,68 @@ bool StartUp::run()
 
 bool StartUp::openDatabase()
 {
-    try {
-        m_data = std::make_unique<deData>(Installation(m_settings.programFolder).databasePath());
-        return true;
-    } catch (const StoreError &) {
-        m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
-                                 tr("Can't access database. Please make sure the database file "
-                                    "Corvana.mdb is present in the program folder."));
-        return false;
+    const QString path = Installation(m_settings.programFolder).databasePath();
+    QString cause = rollbackAdvice(path);
+    if (cause.isEmpty()) {
+        try {
+            m_data = std::make_unique<deData>(path);
+            return true;
+        } catch (const StoreError &error) {
+            // A missing file counts as damaged, and of that the text below says enough.
+            if (error.kind() != StoreError::Kind::Damaged)
+                cause = causeOf(error);
+        }
     }
+    m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
+                             tr("Can't access database. Please make sure the database file "
+                                "Corvana.mdb is present in the program folder."),
+                             cause);
+    return false;
 }
 
 void StartUp::makeSession()
 {
     m_session = std::make_unique<Session>(*m_data, m_settings.clock, m_settings.locale);
-    m_session->readCommonParameters();
+    try {
+        m_session->readCommonParameters();
+    } catch (const OverflowError &) {
+        m_session->setParameters({.measurement = m_data->rsCommon.text("Measurement"_L1)});
+        m_settings.messages.error(
+            nullptr,
+            tr("The body weight or the background calories are no number that the program can "
+               "hold"),
+            tr("Please set them anew: Settings, Common."));
+    }
+}
+
+// A file that doesn't tell is put right, so that this is said once.
+void StartUp::tellDamage(Installation &installation)
+{
+    m_settings.messages.error(
+        nullptr, tr("The file Corvana.ini in the program folder is damaged or can't be read"),
+        tr("It remembers that the first start is done, and that is taken for granted now: no date "
+           "in your journal is changed."));
+    try {
+        installation.setFirstStartDone();
+    } catch (const std::runtime_error &) {
+        // Where it can't be written, it is told of again at the next start.
+    }
 }
 
 bool StartUp::runFirstStart()
 {
     Installation installation(m_settings.programFolder);
-    if (installation.isFirstStartDone())
-        return true;
+    if (installation.isDamaged())
+        tellDamage(installation);
+    else if (!installation.isFirstStartDone())
+        return askForParameters(installation);
+    return true;
+}
+
+bool StartUp::askForParameters(Installation &installation)
+{
+    // Found out afterwards, the dates would be moved again at every start.
+    installation.requireWritable();
     m_settings.messages.information(nullptr,
                                     tr("Because it is a very first start of this program, you will "
                                        "be prompted now to specify common parameters."));

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class Installation;
 class Messages;
 class Session;
 class deData;
@@ -39,6 +40,8 @@ private:
     bool openDatabase();
     void makeSession();
     bool runFirstStart();
+    bool askForParameters(Installation &installation);
+    void tellDamage(Installation &installation);
 
     StartUpSettings m_settings;
     std::unique_ptr<deData> m_data;

@@ -36,8 +36,8 @@ void CatalogueList::run()
     exec();
 }
 
-std::vector<ListRow> CatalogueList::readRows(Recordset &records, QLatin1StringView tag,
-                                             std::initializer_list<QLatin1StringView> columns) const
+ListRows CatalogueList::readRows(Recordset &records, QLatin1StringView tag,
+                                 std::initializer_list<QLatin1StringView> columns) const
 {
     std::vector<ListRow> rows;
     rows.reserve(records.rowCount());
@@ -48,7 +48,7 @@ std::vector<ListRow> CatalogueList::readRows(Recordset &records, QLatin1StringVi
         rows.push_back(std::move(row));
     }
     records.close();
-    return rows;
+    return {std::move(rows), records.leftOut(), records.isCutShort()};
 }
 
 void CatalogueList::remove(qint32 id)

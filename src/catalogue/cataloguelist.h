@@ -23,7 +23,7 @@ protected:
                   const QString &caption, std::vector<ListColumn> columns, QWidget *parent);
 
     /// The rows in the list command's order.
-    virtual std::vector<ListRow> rows() = 0;
+    virtual ListRows rows() = 0;
     /// Opens the editor, 0 for a new record; what to reselect where it stored something.
     virtual std::optional<Reselection> edit(qint32 id) = 0;
     /// Fills the window for its opening.
@@ -31,8 +31,8 @@ protected:
 
     /// All records of an open result set as rows, and closes it: the identifier as the tag, the
     /// values as texts, Null as the empty one.
-    std::vector<ListRow> readRows(Recordset &records, QLatin1StringView tag,
-                                  std::initializer_list<QLatin1StringView> columns) const;
+    ListRows readRows(Recordset &records, QLatin1StringView tag,
+                      std::initializer_list<QLatin1StringView> columns) const;
     /// Puts what belongs to the list above it.
     void setHead(QLayout *head);
 

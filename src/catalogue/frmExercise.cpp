@@ -89,7 +89,7 @@ void frmExercise::Populate()
         showColumn(txtName, "Name"_L1);
         showColumn(txtCaloriesConsume, "CaloriesConsume"_L1);
         showColumn(txtUnit, "Unit"_L1);
-        chkWeightDependent->setChecked(source().integer("WeightDependent"_L1) == 1);
+        chkWeightDependent->setChecked(source().number("WeightDependent"_L1) == 1);
         showColumn(txtDefaultQty, "DefaultQty"_L1);
     }
     showDependence();

@@ -16,10 +16,10 @@ frmExercises::frmExercises(Session &session, Messages &messages, QWidget *parent
 {
 }
 
-std::vector<ListRow> frmExercises::rows()
+ListRows frmExercises::rows()
 {
     Recordset &activities = session().data().rsExerciseSorted;
-    activities.reopen();
+    activities.reopenReadable();
     return readRows(activities, "ExerciseID"_L1,
                     {"Name"_L1, "CaloriesConsume"_L1, "Unit"_L1, "DefaultQty"_L1});
 }

@@ -129,7 +129,7 @@ void frmMeal::makeConnections()
 void frmMeal::loadCategories()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
     categories.close();
 }

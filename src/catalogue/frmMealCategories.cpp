@@ -12,10 +12,10 @@ frmMealCategories::frmMealCategories(Session &session, Messages &messages, QWidg
 {
 }
 
-std::vector<ListRow> frmMealCategories::rows()
+ListRows frmMealCategories::rows()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     return readRows(categories, "MealCategoryID"_L1, {"Name"_L1});
 }
 

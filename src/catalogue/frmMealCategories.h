@@ -11,6 +11,6 @@ public:
     frmMealCategories(Session &session, Messages &messages, QWidget *parent = nullptr);
 
 protected:
-    std::vector<ListRow> rows() override;
+    ListRows rows() override;
     std::optional<Reselection> edit(qint32 id) override;
 };

@@ -51,7 +51,7 @@ void frmMeals::load()
 void frmMeals::loadCategories()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
     categories.close();
 }
@@ -62,13 +62,13 @@ void frmMeals::categoryChanged()
         list()->refresh();
 }
 
-std::vector<ListRow> frmMeals::rows()
+ListRows frmMeals::rows()
 {
     const std::optional<qint32> category = dcbMealCategory->boundValue();
     if (!category)
         return {};
     Recordset &meals = session().data().rsMealSorted;
-    meals.reopen({Value(*category)});
+    meals.reopenReadable({Value(*category)});
     return readRows(meals, "MealID"_L1,
                     {"Name"_L1, "Unit"_L1, "Fat"_L1, "Carbohydrate"_L1, "Protein"_L1, "Calories"_L1,
                      "DefaultQty"_L1, "Increment"_L1});

@@ -13,7 +13,7 @@ public:
     frmMeals(Session &session, Messages &messages, QWidget *parent = nullptr);
 
 protected:
-    std::vector<ListRow> rows() override;
+    ListRows rows() override;
     std::optional<Reselection> edit(qint32 id) override;
     void load() override;
 

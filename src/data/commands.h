@@ -22,8 +22,8 @@ struct Parameter
     ParameterType type = ParameterType::None;
 };
 
-/// A named command. `table` and `key` say where an updatable result set writes to; they are null
-/// for the others.
+/// A named command. `table` says where an updatable result set writes to; it is null for the
+/// others. `key` is the column with the identifier of a row, null where rows have none.
 struct Command
 {
     const char *name;
@@ -46,19 +46,26 @@ inline constexpr Command MealCategory{"MealCategory",
                                       "MealCategoryID"};
 
 inline constexpr Command MealCategorySorted{"MealCategorySorted",
-                                            "select * from MealCategory order by Name"};
+                                            "select * from MealCategory order by Name",
+                                            {},
+                                            nullptr,
+                                            "MealCategoryID"};
 
 inline constexpr Command Meal{
     "Meal", "select * from Meal where MealID = :id", {{{":id", Integer}}}, "Meal", "MealID"};
 
 inline constexpr Command MealSorted{"MealSorted",
                                     "select * from Meal where MealCategoryID = :id order by Name",
-                                    {{{":id", Integer}}}};
+                                    {{{":id", Integer}}},
+                                    nullptr,
+                                    "MealID"};
 
 inline constexpr Command MealForCategory{
     "MealForCategory",
     "select * from Meal where MealCategoryID = :ID order by Name",
-    {{{":ID", Integer}}}};
+    {{{":ID", Integer}}},
+    nullptr,
+    "MealID"};
 
 inline constexpr Command Exercise{"Exercise",
                                   "select * from Exercise where ExerciseID = :a",
@@ -66,7 +73,8 @@ inline constexpr Command Exercise{"Exercise",
                                   "Exercise",
                                   "ExerciseID"};
 
-inline constexpr Command ExerciseSorted{"ExerciseSorted", "select * from Exercise order by Name"};
+inline constexpr Command ExerciseSorted{
+    "ExerciseSorted", "select * from Exercise order by Name", {}, nullptr, "ExerciseID"};
 
 // Daily journal
 
@@ -77,7 +85,9 @@ inline constexpr Command MealConsumeSorted{
     " Round(FatBC*Qty) + Round(CarbohydrateBC*Qty) + Round(ProteinBC*Qty) as sCalories, Name"
     " from MealConsume inner join Meal on MealConsume.MealID = Meal.MealID"
     " where MealConsume.ConsumeDate = :d order by ConsumeTime",
-    {{{":d", Date}}}};
+    {{{":d", Date}}},
+    nullptr,
+    "MealConsumeID"};
 
 inline constexpr Command MealConsume{
     "MealConsume",
@@ -97,7 +107,9 @@ inline constexpr Command ExercisePerformSorted{
     " from ExercisePerform inner join Exercise"
     " on ExercisePerform.ExerciseID = Exercise.ExerciseID"
     " where PerformDate = :dt order by timeBeg",
-    {{{":dt", Date}}}};
+    {{{":dt", Date}}},
+    nullptr,
+    "ExercisePerformID"};
 
 inline constexpr Command ExercisePerform{"ExercisePerform",
                                          "select * from ExercisePerform"
@@ -111,14 +123,18 @@ inline constexpr Command ExercisePerform{"ExercisePerform",
 inline constexpr Command BodySorted{
     "BodySorted",
     "select * from Body where DateMeasured >= :DateMeasuredFrom order by DateMeasured",
-    {{{":DateMeasuredFrom", Text}}}};
+    {{{":DateMeasuredFrom", Text}}},
+    nullptr,
+    "BodyID"};
 
 inline constexpr Command Body{
     "Body", "select * from Body where BodyID = :id", {{{":id", Integer}}}, "Body", "BodyID"};
 
 inline constexpr Command BodyCheck{"BodyCheck",
                                    "select * from Body where DateMeasured = :dt and BodyID <> :id",
-                                   {{{":dt", Date}, {":id", Integer}}}};
+                                   {{{":dt", Date}, {":id", Integer}}},
+                                   nullptr,
+                                   "BodyID"};
 
 inline constexpr Command BodyDelete{
     "BodyDelete", "delete from Body where BodyID = :id", {{{":id", Text}}}};
@@ -126,7 +142,9 @@ inline constexpr Command BodyDelete{
 inline constexpr Command UserNoteSorted{
     "UserNoteSorted",
     "select * from UserNote where DateTo >= :theDateFrom order by DateFrom",
-    {{{":theDateFrom", Date}}}};
+    {{{":theDateFrom", Date}}},
+    nullptr,
+    "UserNoteID"};
 
 inline constexpr Command UserNote{"UserNote",
                                   "select * from UserNote where UserNoteID = :id",

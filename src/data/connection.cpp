@@ -181,11 +181,14 @@ WriteTransaction::~WriteTransaction()
         rollBack();
 }
 
-// The engine may have rolled back by itself: then there is nothing left to do.
+// The engine may have rolled back by itself: then there is nothing left to do. What an error of the
+// disk kept it from undoing it undoes at the next look at the file, which is taken here, so that no
+// rollback journal stays behind.
 void WriteTransaction::rollBack()
 {
     m_open = false;
     m_connection.database().tryExec("rollback");
+    m_connection.database().tryExec("select count(*) from Common");
 }
 
 void WriteTransaction::commit()

@@ -1,6 +1,7 @@
 #include "data/currency.h"
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -39,6 +40,10 @@ Currency Currency::fromInteger(qint64 value)
 
 Currency Currency::fromDouble(double value)
 {
+    // The double nearest to the greatest decimal, and so what is stored of it, lies beyond it.
+    constexpr qint64 greatest = std::numeric_limits<qint64>::max();
+    if (std::abs(value) == Currency(greatest).toDouble())
+        return Currency(value < 0 ? -greatest : greatest);
     const double units = roundHalfEven(value * double(unitsPerOne));
     constexpr double limit = 9223372036854775808.0; // 2^63, exact in a double
     if (!(units >= -limit && units < limit))

@@ -24,6 +24,12 @@ Value converted(const Value &value, ParameterType type)
     return value;
 }
 
+bool isIdentifier(const Value &value)
+{
+    const auto *whole = std::get_if<qint64>(&value.storage());
+    return whole && *whole == qint64(qint32(*whole));
+}
+
 } // namespace
 
 void bindParameters(SQLite::Statement &statement, const Command &command,
@@ -69,8 +75,15 @@ void Recordset::readRows()
     const StatementUse use(*m_statement);
 
     m_rows = {};
+    m_leftOut = 0;
+    m_cutShort = false;
     const int columns = m_statement->getColumnCount();
+    const int key = m_command.key ? int(columnOf(QLatin1StringView(m_command.key))) : -1;
     while (m_statement->executeStep()) {
+        if (key >= 0 && !isIdentifier(columnValue(*m_statement, key))) {
+            ++m_leftOut;
+            continue;
+        }
         for (int i = 0; i < columns; ++i)
             m_rows.values.push_back(columnValue(*m_statement, i));
         ++m_rows.count;
@@ -81,6 +94,18 @@ void Recordset::reopen(std::initializer_list<Value> values)
 {
     close();
     open(values);
+}
+
+void Recordset::reopenReadable(std::initializer_list<Value> values)
+{
+    try {
+        reopen(values);
+    } catch (const StoreError &error) {
+        if (error.kind() != StoreError::Kind::Damaged)
+            throw;
+        m_open = true;
+        m_cutShort = true;
+    }
 }
 
 void Recordset::close()

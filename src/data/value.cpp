@@ -27,6 +27,8 @@ double dayFraction(QTime time)
 
 QTime timeOfDayFraction(double fraction)
 {
+    if (!std::isfinite(fraction))
+        return QTime(0, 0);
     const double minutes = std::round((fraction - std::floor(fraction)) * minutesPerDay);
     const int minute = static_cast<int>(minutes) % minutesPerDay;
     return QTime(minute / 60, minute % 60);
@@ -52,7 +54,14 @@ qint32 Value::toInt32() const
 
 QDate Value::toDate() const
 {
-    return isNull() ? QDate() : dateOfDayNumber(toInt32());
+    bool isNumber = !isNull();
+    if (const auto *text = std::get_if<QString>(&m_value))
+        text->toDouble(&isNumber);
+    try {
+        return isNumber ? dateOfDayNumber(toInt32()) : QDate();
+    } catch (const OverflowError &) {
+        return {};
+    }
 }
 
 QString Value::toText() const
@@ -63,9 +72,12 @@ QString Value::toText() const
         return QString::number(*whole);
     if (const auto *number = std::get_if<double>(&m_value)) {
         // Scaled activities have more than four places; what a person reads has four at most.
-        constexpr double currencyLimit = 9e14;
-        return std::abs(*number) < currencyLimit ? Currency::fromDouble(*number).toText()
-                                                 : QString::number(*number, 'f', 0);
+        constexpr double readableLimit = 1e21;
+        constexpr qint64 greatest = std::numeric_limits<qint64>::max();
+        if (std::abs(*number) <= Currency::fromTenThousandths(greatest).toDouble())
+            return Currency::fromDouble(*number).toText();
+        return std::abs(*number) < readableLimit ? QString::number(*number, 'f', 0)
+                                                 : QString::number(*number);
     }
     return {};
 }

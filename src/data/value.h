@@ -15,7 +15,7 @@ QDate dateOfDayNumber(qint64 day);
 
 /// Time of day as a fraction of a day in whole minutes; seconds are dropped.
 double dayFraction(QTime time);
-/// The nearest minute of a fraction; whole days are ignored.
+/// The nearest minute of a fraction; whole days are ignored, infinities are midnight.
 QTime timeOfDayFraction(double fraction);
 
 /// Null, a whole number, a floating-point number or a text. Dates, times of day and decimals are
@@ -64,7 +64,8 @@ public:
 
     bool isNull() const { return std::holds_alternative<std::monostate>(m_value); }
     /// Conversions. Null gives 0 or the empty text; a text that is no number counts as 0; whole
-    /// numbers are rounded half to even and throw OverflowError outside their range.
+    /// numbers are rounded half to even and throw OverflowError outside their range. What is no
+    /// day is the invalid date.
     qint32 toInt32() const;
     double toDouble() const;
     Currency toCurrency() const { return Currency::fromDouble(toDouble()); }

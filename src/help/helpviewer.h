@@ -16,5 +16,5 @@ public:
 };
 
 /// Opens the help file, if it is not open yet, and shows a page modally: the contents for an
-/// empty or unknown name. Says so where the file can't be opened.
+/// empty or unknown name. Says so where the file is missing or damaged.
 void showHelp(QWidget *parent, const QString &helpFile, const QString &page);

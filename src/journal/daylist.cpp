@@ -87,13 +87,13 @@ void DayList::refuseDate()
     });
 }
 
-std::vector<ListRow> DayList::load() const
+ListRows DayList::load() const
 {
     Recordset &source = rows();
     const auto close = qScopeGuard([&source] { source.close(); });
     std::vector<ListRow> list;
     DayTotals totals(m_columns.totals.size());
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         list.push_back(currentRow());
         std::vector<double> figures;
         for (const auto &[column, field] : m_columns.totals)
@@ -104,7 +104,7 @@ std::vector<ListRow> DayList::load() const
         list.emplace_back();
         list.push_back(totalsRow(totals));
     }
-    return list;
+    return {std::move(list), source.leftOut(), source.isCutShort()};
 }
 
 ListRow DayList::totalsRow(const DayTotals &totals) const

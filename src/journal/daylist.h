@@ -52,7 +52,7 @@ protected:
 
 private:
     QLayout *makeDateRow(const QString &caption);
-    std::vector<ListRow> load() const;
+    ListRows load() const;
     ListRow totalsRow(const class DayTotals &totals) const;
     std::optional<Reselection> edit(qint32 id);
     void remove(qint32 id);

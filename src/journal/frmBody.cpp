@@ -78,10 +78,10 @@ void frmBody::Populate()
         return;
     const LocaleText &text = session().text();
     dtpDate->setDate(source().date("DateMeasured"_L1));
-    txtWeight->setText(text.toText(source().number("Weight"_L1)));
-    txtWaist->setText(text.toText(source().number("Waist"_L1)));
-    txtBreast->setText(text.toText(source().number("Breast"_L1)));
-    txtHips->setText(text.toText(source().number("Hips"_L1)));
+    txtWeight->setText(text.toText(source().value("Weight"_L1)));
+    txtWaist->setText(text.toText(source().value("Waist"_L1)));
+    txtBreast->setText(text.toText(source().value("Breast"_L1)));
+    txtHips->setText(text.toText(source().value("Hips"_L1)));
 }
 
 void frmBody::Gather()

@@ -80,7 +80,7 @@ Recordset &frmExercisePerform::activities() const
 
 void frmExercisePerform::loadActivities()
 {
-    activities().reopen();
+    activities().reopenReadable();
     dcbExercise->setRows(activities(), "ExerciseID"_L1, "Name"_L1);
 }
 
@@ -93,7 +93,7 @@ void frmExercisePerform::Populate()
     dcbExercise->setBoundValue(source().integer("ExerciseID"_L1));
     dtpBeginTime->setTime(source().time("timeBeg"_L1));
     dtpEndTime->setTime(source().time("timeEnd"_L1));
-    txtQty->setText(session().text().toText(source().currency("Qty"_L1)));
+    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
 }
 
 void frmExercisePerform::activityChanged()

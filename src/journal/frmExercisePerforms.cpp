@@ -32,7 +32,7 @@ ListRow frmExercisePerforms::currentRow() const
     const LocaleText &text = session().text();
     return {rows().integer("ExercisePerformID"_L1),
             {text.listTime(rows().time("timeBeg"_L1)), text.listTime(rows().time("timeEnd"_L1)),
-             rows().text("Name"_L1), text.toText(rows().number("Qty"_L1)),
+             rows().text("Name"_L1), text.toText(rows().value("Qty"_L1)),
              rows().text("sCalories"_L1)}};
 }
 

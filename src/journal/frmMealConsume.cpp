@@ -17,6 +17,21 @@
 
 using namespace Qt::Literals;
 
+namespace {
+
+constexpr Currency usualIncrement = Currency::fromTenThousandths(Currency::unitsPerOne);
+
+Currency incrementOf(const Value &stored)
+{
+    try {
+        return stored.isNull() ? usualIncrement : stored.toCurrency();
+    } catch (const OverflowError &) {
+        return usualIncrement; // no step that anybody could take
+    }
+}
+
+} // namespace
+
 frmMealConsume::frmMealConsume(Session &session, Messages &messages, QWidget *parent)
     : JournalEntryEditor(session, messages, session.data().rsMealConsume,
                          {"MealConsumeID"_L1, "ConsumeDate"_L1, NewMealConsumeID},
@@ -89,7 +104,7 @@ Recordset &frmMealConsume::meals() const
 void frmMealConsume::loadCategories()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopen();
+    categories.reopenReadable();
     dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
     categories.close();
 }
@@ -103,7 +118,7 @@ void frmMealConsume::Populate()
     dcbMealCategory->setBoundValue(source().integer("MealCategoryID"_L1));
     dcbMeal->setBoundValue(source().integer("MealID"_L1));
     dtpTime->setTime(source().time("ConsumeTime"_L1));
-    txtQty->setText(session().text().toText(source().currency("Qty"_L1)));
+    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
 }
 
 void frmMealConsume::categoryChanged()
@@ -111,7 +126,7 @@ void frmMealConsume::categoryChanged()
     const std::optional<qint32> category = dcbMealCategory->boundValue();
     if (!category)
         return;
-    meals().reopen({Value(*category)});
+    meals().reopenReadable({Value(*category)});
     dcbMeal->setRows(meals(), "MealID"_L1, "Name"_L1);
     meals().moveFirst();
     if (meals().isEof())
@@ -124,8 +139,7 @@ void frmMealConsume::mealChanged()
 {
     const std::optional<qint32> meal = dcbMeal->boundValue();
     const bool chosen = meal && meals().isOpen() && meals().moveTo("MealID"_L1, *meal);
-    m_increment = chosen && !meals().isNull("Increment"_L1) ? meals().currency("Increment"_L1)
-                                                            : Currency::fromInteger(1);
+    m_increment = chosen ? incrementOf(meals().value("Increment"_L1)) : usualIncrement;
     showChoice(chosen ? &meals() : nullptr);
 }
 

@@ -32,7 +32,7 @@ ListRow frmMealConsumes::currentRow() const
     const LocaleText &text = session().text();
     return {rows().integer("MealConsumeID"_L1),
             {text.listTime(rows().time("ConsumeTime"_L1)), rows().text("Name"_L1),
-             text.toText(rows().number("Qty"_L1)), rows().text("sFat"_L1),
+             text.toText(rows().value("Qty"_L1)), rows().text("sFat"_L1),
              rows().text("sCarbohydrate"_L1), rows().text("sProtein"_L1),
              rows().text("sCalories"_L1)}};
 }

@@ -32,6 +32,13 @@ QString onOneLine(QString text)
     return text;
 }
 
+/// What is no day reads as it is stored.
+QString dateText(const LocaleText &text, const Value &value)
+{
+    const QDate date = value.toDate();
+    return date.isValid() ? text.shortDate(date) : text.toText(value);
+}
+
 void removeRecord(Recordset &source, qint32 id)
 {
     const auto close = qScopeGuard([&source] { source.close(); });
@@ -70,6 +77,12 @@ frmMeasurements::frmMeasurements(Session &session, Messages &messages, QWidget *
     refresh();
     directAccessKeys(nullptr);
     makeConnections();
+}
+
+// The focus moves on once more while the lists are being deleted, and must not be followed then.
+frmMeasurements::~frmMeasurements()
+{
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 RecordList *frmMeasurements::makeMeasurementList()
@@ -196,33 +209,33 @@ void frmMeasurements::directAccessKeys(const QWidget *focus)
     m_notes->setAccessKeysActive(toNotes);
 }
 
-std::vector<ListRow> frmMeasurements::measurements() const
+ListRows frmMeasurements::measurements() const
 {
     const LocaleText &text = m_session.text();
     Recordset &source = m_session.data().rsBodySorted;
     std::vector<ListRow> rows;
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext())
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext())
         rows.push_back(
             {source.integer("BodyID"_L1),
-             {text.shortDate(source.date("DateMeasured"_L1)),
-              text.toText(source.number("Weight"_L1)), text.toText(source.number("Breast"_L1)),
-              text.toText(source.number("Waist"_L1)), text.toText(source.number("Hips"_L1))}});
+             {dateText(text, source.value("DateMeasured"_L1)),
+              text.toText(source.value("Weight"_L1)), text.toText(source.value("Breast"_L1)),
+              text.toText(source.value("Waist"_L1)), text.toText(source.value("Hips"_L1))}});
     source.close();
-    return rows;
+    return {std::move(rows), source.leftOut(), source.isCutShort()};
 }
 
-std::vector<ListRow> frmMeasurements::notes() const
+ListRows frmMeasurements::notes() const
 {
     const LocaleText &text = m_session.text();
     Recordset &source = m_session.data().rsUserNoteSorted;
     std::vector<ListRow> rows;
-    for (source.reopen({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
+    for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
         const QString note = source.text("NoteText"_L1);
         rows.push_back({source.integer("UserNoteID"_L1),
-                        {text.shortDate(source.date("DateFrom"_L1)),
-                         text.shortDate(source.date("DateTo"_L1)), onOneLine(note)},
+                        {dateText(text, source.value("DateFrom"_L1)),
+                         dateText(text, source.value("DateTo"_L1)), onOneLine(note)},
                         note});
     }
     source.close();
-    return rows;
+    return {std::move(rows), source.leftOut(), source.isCutShort()};
 }

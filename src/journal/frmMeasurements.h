@@ -19,6 +19,7 @@ class frmMeasurements : public QDialog
 
 public:
     frmMeasurements(Session &session, Messages &messages, QWidget *parent = nullptr);
+    ~frmMeasurements() override;
 
 private:
     RecordList *makeMeasurementList();
@@ -30,8 +31,8 @@ private:
     void makeConnections();
     void refresh();
     void directAccessKeys(const QWidget *focus);
-    std::vector<ListRow> measurements() const;
-    std::vector<ListRow> notes() const;
+    ListRows measurements() const;
+    ListRows notes() const;
 
     Session &m_session;
     Messages &m_messages;

@@ -4,10 +4,10 @@
 #include "session/session.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
+#include "ui/plaintextbox.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -33,7 +33,7 @@ void frmUserNote::makeControls()
     dtpDateFrom->setAccessibleName(tr("Date From"));
     dtpDateTo = makeDatePicker(session(), QStringLiteral("dtpDateTo"), this);
     dtpDateTo->setAccessibleName(tr("Date To"));
-    txtNote = new QPlainTextEdit(this);
+    txtNote = new PlainTextBox(this);
     txtNote->setObjectName(QStringLiteral("txtNote"));
     txtNote->setAccessibleName(tr("User Note Text"));
     txtNote->setTabChangesFocus(true);
@@ -80,7 +80,7 @@ void frmUserNote::Populate()
         return;
     dtpDateFrom->setDate(source().date("DateFrom"_L1));
     dtpDateTo->setDate(source().date("DateTo"_L1));
-    txtNote->setPlainText(source().text("NoteText"_L1));
+    txtNote->setText(source().text("NoteText"_L1));
 }
 
 void frmUserNote::Gather()

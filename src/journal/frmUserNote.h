@@ -4,7 +4,7 @@
 #include "ui/recordeditor.h"
 
 class QDateEdit;
-class QPlainTextEdit;
+class PlainTextBox;
 
 /// The user note editor. The periods of two notes never share a day: a note that would overlap
 /// another one is refused. In the text, Enter begins a new line and Ctrl+Enter presses OK.
@@ -32,6 +32,6 @@ private:
 
     QDateEdit *dtpDateFrom;
     QDateEdit *dtpDateTo;
-    QPlainTextEdit *txtNote;
+    PlainTextBox *txtNote;
     qint32 m_storedId = 0;
 };

@@ -111,7 +111,7 @@ void JournalEntryEditor::showChoice(const Recordset *row)
     else if (!isLoading())
         txtQty->setText(row->isNull("DefaultQty"_L1)
                             ? QStringLiteral("1")
-                            : session().text().toText(row->currency("DefaultQty"_L1)));
+                            : session().text().toText(row->value("DefaultQty"_L1)));
     recalculate();
 }
 

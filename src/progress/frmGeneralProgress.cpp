@@ -293,10 +293,15 @@ void showGeneralProgress(Session &session, Messages &messages, const Period &per
 {
     try {
         frmGeneralProgress(session, messages, period, parent).exec();
+    } catch (const DayOverflow &error) {
+        messages.error(parent, frmGeneralProgress::tr(
+                                   "The progress can't be shown: a measurement or the balance of "
+                                   "%1 is too large. Please correct it and try again")
+                                   .arg(session.text().mediumDate(error.day)));
     } catch (const OverflowError &) {
         messages.error(parent, frmGeneralProgress::tr(
-                                   "The progress can't be shown: a measurement or a day's balance "
-                                   "in this period is too large. Please correct it and try again"));
+                                   "The progress can't be shown: a measurement of this period is "
+                                   "too large. Please correct it and try again"));
     } catch (const std::out_of_range &) {
         messages.error(parent, frmGeneralProgress::tr(
                                    "The progress can't be shown: the period has too many days"));

@@ -23,20 +23,33 @@ float toSingle(double value)
     return single;
 }
 
+/// Stores a row's values on the day that a column names; a fault tells the day.
+template<typename Store>
+void storeOnDay(DaySeries &series, const Recordset &rows, QLatin1StringView dateColumn, Store store)
+{
+    const QDate date = rows.date(dateColumn);
+    try {
+        store(series.at(series.dayOf(date)));
+    } catch (const OverflowError &error) {
+        throw DayOverflow(date, error.what());
+    }
+}
+
 void loadBody(deData &data, DaySeries &series)
 {
     Recordset &rows = data.rsGPBody;
     rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
     for (; !rows.isEof(); rows.moveNext()) {
-        Day &day = series.at(series.dayOf(rows.date("DateMeasured"_L1)));
-        day.waist = toSingle(rows.number("Waist"_L1));
-        day.breast = toSingle(rows.number("Breast"_L1));
-        day.hips = toSingle(rows.number("Hips"_L1));
-        day.weight = toSingle(rows.number("Weight"_L1));
-        day.source = BodySource::Measured;
-        for (const float girth : {day.waist, day.breast, day.hips})
-            series.girths.widen(girth);
-        series.weights.widen(day.weight);
+        storeOnDay(series, rows, "DateMeasured"_L1, [&](Day &day) {
+            day.waist = toSingle(rows.number("Waist"_L1));
+            day.breast = toSingle(rows.number("Breast"_L1));
+            day.hips = toSingle(rows.number("Hips"_L1));
+            day.weight = toSingle(rows.number("Weight"_L1));
+            day.source = BodySource::Measured;
+            for (const float girth : {day.waist, day.breast, day.hips})
+                series.girths.widen(girth);
+            series.weights.widen(day.weight);
+        });
     }
     rows.close();
 }
@@ -46,10 +59,11 @@ void loadCalories(deData &data, DaySeries &series, double metabolicRate)
     Recordset &rows = data.rsGPCalories;
     rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
     for (; !rows.isEof(); rows.moveNext()) {
-        Day &day = series.at(series.dayOf(rows.date("curDate"_L1)));
-        day.calories = roundToInt16(rows.number("calories"_L1) - metabolicRate * hoursPerDay);
-        day.hasCalories = true;
-        series.calories.widen(day.calories);
+        storeOnDay(series, rows, "curDate"_L1, [&](Day &day) {
+            day.calories = roundToInt16(rows.number("calories"_L1) - metabolicRate * hoursPerDay);
+            day.hasCalories = true;
+            series.calories.widen(day.calories);
+        });
     }
     rows.close();
 }

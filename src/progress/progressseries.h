@@ -5,6 +5,7 @@
 #include "progress/progressperiod.h"
 
 #include <array>
+#include <string>
 #include <vector>
 
 namespace progress {
@@ -61,6 +62,19 @@ struct Note
     QDate DateTo;
 };
 
+/// A measurement or the balance of this day is outside the range of its type.
+class DayOverflow : public OverflowError
+{
+public:
+    DayOverflow(QDate of, const std::string &what)
+        : OverflowError(what)
+        , day(of)
+    {
+    }
+
+    const QDate day;
+};
+
 class DaySeries
 {
 public:
@@ -103,7 +117,7 @@ private:
 };
 
 /// Reads a period. The balance of a day takes a whole day of background burn from what was
-/// recorded. Throws StoreError; OverflowError where a balance exceeds 16 bits or a measurement
+/// recorded. Throws StoreError; DayOverflow where a balance exceeds 16 bits or a measurement
 /// single precision; std::out_of_range as DaySeries does.
 DaySeries loadSeries(deData &data, const Period &period, double metabolicRate);
 

@@ -3,8 +3,9 @@
 
 #include <QString>
 
-/// Kept in the program's folder, beside the database: it outlives a replaced database file, and a
-/// folder copied to another machine takes it along, so that no measurement is moved there again.
+/// Kept in Corvana.ini in the program's folder, beside the database: it outlives a replaced
+/// database file, and a folder copied to another machine takes it along, so that no measurement is
+/// moved there again.
 class Installation
 {
 public:
@@ -13,9 +14,23 @@ public:
     QString databasePath() const;
     QString helpPath() const;
 
+    /// True as well where the file is there but doesn't tell: to begin the first start anew would
+    /// move the user's own measurements.
     bool isFirstStartDone() const;
+    /// Whether the file is there but can't be read, or doesn't tell whether the first start is
+    /// done.
+    bool isDamaged() const;
+    /// Throws std::runtime_error where setFirstStartDone() would; changes nothing.
+    void requireWritable() const;
     /// Written to the disk when it returns; throws std::runtime_error where it can't be.
     void setFirstStartDone();
+
+    /// What was kept under a key such as "Windows/frmMain"; empty where it is missing or can't be
+    /// read.
+    QString value(const QString &key) const;
+    /// Keeps a value as well as it can: one that can't be written is not kept. What is known of
+    /// the first start stays known.
+    void setValue(const QString &key, const QString &value);
 
 private:
     QString m_folder;

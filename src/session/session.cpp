@@ -6,6 +6,7 @@ using namespace Qt::Literals;
 
 CommonParameters commonParametersOf(const Recordset &common)
 {
+    common.currency("metabolicRate"_L1); // raised here, a chart need not count with infinities
     return {roundToInt16(common.number("weight"_L1)), common.text("Measurement"_L1),
             common.number("metabolicRate"_L1)};
 }

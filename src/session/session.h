@@ -22,7 +22,7 @@ struct CommonParameters
 };
 
 /// The parameters in the current row of command Common; the weight is rounded half to even.
-/// Throws OverflowError for a weight beyond 16 bits.
+/// Throws OverflowError for a weight beyond 16 bits and a rate beyond the decimal's range.
 CommonParameters commonParametersOf(const Recordset &common);
 
 /// Made by start-up and handed to each window by reference; there are no globals.
@@ -47,8 +47,8 @@ public:
     void setCurrentTime(QTime time);
 
     const CommonParameters &parameters() const { return m_parameters; }
-    /// Takes the parameters from the stored row. Throws StoreError, and OverflowError for a weight
-    /// beyond 16 bits, leaving the old ones.
+    /// Takes the parameters from the stored row. Throws StoreError, and OverflowError as
+    /// commonParametersOf does, leaving the old ones.
     void readCommonParameters();
     void setParameters(const CommonParameters &parameters);
     /// Throws StoreError where another program has stored other parameters meanwhile.

@@ -86,11 +86,11 @@ void frmCommon::Populate()
 {
     const LocaleText &text = session().text();
     // Each of the first two recomputes the background calories; the stored value, last, wins.
-    txtWeight->setText(text.toText(source().number("weight"_L1)));
+    txtWeight->setText(text.toText(source().value("weight"_L1)));
     cbxMeasurement->setCurrentIndex(source().text("Measurement"_L1) == "M"_L1 ? metricItem
                                                                               : imperialItem);
     ShowWeightUnit();
-    txtMetabolicRate->setText(text.toText(source().number("metabolicRate"_L1)));
+    txtMetabolicRate->setText(text.toText(source().value("metabolicRate"_L1)));
 }
 
 bool frmCommon::isMetricChosen() const

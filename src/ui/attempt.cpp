@@ -28,7 +28,8 @@ QString causeOf(StoreError::Kind kind)
     case StoreError::Kind::ReadOnly:
         return tr("The database file can't be written.");
     case StoreError::Kind::Damaged:
-        return tr("The database file is damaged.");
+        return tr("The database file is damaged. Please keep a copy of it as it is; the help page "
+                  "\"Your data\" says how to go on.");
     case StoreError::Kind::Gone:
         return tr("The record has been deleted meanwhile.");
     case StoreError::Kind::Changed:
@@ -56,6 +57,29 @@ QString causeOf(const std::exception &error)
     return {};
 }
 
+QString whatIsMissing(size_t leftOut, bool isCutShort)
+{
+    QStringList sentences;
+    if (leftOut > 0)
+        sentences +=
+            tr("Records that can't be shown, since their identifiers are out of range: %1.")
+                .arg(leftOut);
+    if (isCutShort)
+        sentences += tr("There may be more records.") + u' ' + causeOf(StoreError::Kind::Damaged);
+    return sentences.join(u'\n');
+}
+
+void tellFailure(QWidget *window, Messages &messages, const std::exception &error,
+                 const QString &failure)
+{
+    QString cause = causeOf(error);
+    if (cause.isEmpty())
+        cause = QString::fromUtf8(error.what());
+    messages.error(window,
+                   failure.isEmpty() ? tr("The last action could not be carried out") : failure,
+                   cause);
+}
+
 bool attempt(QWidget *window, Messages &messages, const std::function<void()> &action,
              const QString &failure)
 {
@@ -63,12 +87,7 @@ bool attempt(QWidget *window, Messages &messages, const std::function<void()> &a
         action();
         return true;
     } catch (const std::exception &error) {
-        QString cause = causeOf(error);
-        if (cause.isEmpty())
-            cause = QString::fromUtf8(error.what());
-        messages.error(window,
-                       failure.isEmpty() ? tr("The last action could not be carried out") : failure,
-                       cause);
+        tellFailure(window, messages, error, failure);
         return false;
     }
 }

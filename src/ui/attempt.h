@@ -13,6 +13,14 @@ class QWidget;
 /// than that it was.
 QString causeOf(const std::exception &error);
 
+/// Why some records are not shown, in a sentence each: those with an identifier out of range, and
+/// those behind a damaged page of the file. Empty where none are missing.
+QString whatIsMissing(size_t leftOut, bool isCutShort);
+
+/// Says what was not done, by default the last action, and why.
+void tellFailure(QWidget *window, Messages &messages, const std::exception &error,
+                 const QString &failure = {});
+
 /// Runs what a handler does. What it throws is shown, below the words that say what was not done,
 /// and goes no further: an exception must not travel through the event loop that called the
 /// handler. True where nothing was thrown.

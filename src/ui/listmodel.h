@@ -24,6 +24,21 @@ struct ListRow
     bool isTotal = false; ///< stands out from the rows that it adds up
 };
 
+/// The rows of a list, and what is known of those that can't be shown.
+struct ListRows
+{
+    ListRows(std::vector<ListRow> shown = {}, size_t notShown = 0, bool damaged = false)
+        : rows(std::move(shown))
+        , leftOut(notShown)
+        , isCutShort(damaged)
+    {
+    }
+
+    std::vector<ListRow> rows;
+    size_t leftOut;  ///< records with an identifier that the program can't hold
+    bool isCutShort; ///< a damaged page ends the rows
+};
+
 class ListModel : public QAbstractTableModel
 {
     Q_OBJECT

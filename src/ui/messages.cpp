@@ -1,11 +1,12 @@
 #include "ui/messages.h"
 
+#include "ui/plaintextbox.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 
@@ -33,6 +34,9 @@ int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const 
 /// screen for its button.
 bool isTooTall(const QString &text)
 {
+    constexpr qsizetype moreThanAScreen = 10'000; // not to be measured, which takes long
+    if (text.size() > moreThanAScreen)
+        return true;
     const QFontMetrics metrics(QApplication::font());
     const QRect width(0, 0, 60 * metrics.averageCharWidth(), 0);
     return metrics.boundingRect(width, Qt::TextWordWrap, text).height() >
@@ -48,7 +52,8 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
     box.setWindowTitle(title);
     auto *picture = new QLabel(&box);
     picture->setPixmap(QMessageBox(icon, {}, {}).iconPixmap());
-    auto *quoted = new QPlainTextEdit(withPlainLineFeeds(text), &box);
+    auto *quoted = new PlainTextBox(&box);
+    quoted->setText(withPlainLineFeeds(text));
     quoted->setObjectName(QStringLiteral("text"));
     quoted->setReadOnly(true);
     quoted->setTabChangesFocus(true);

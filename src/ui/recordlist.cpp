@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
@@ -67,6 +68,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
+    , m_missing(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
     auto *style = new ReportStyle;
@@ -81,6 +83,9 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     m_list->setAlternatingRowColors(true);
     arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
+    m_missing->setObjectName(QStringLiteral("lblMissing"));
+    m_missing->setWordWrap(true);
+    m_missing->hide();
     makeKeys();
     setNames({});
 
@@ -91,6 +96,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_list);
+    layout->addWidget(m_missing);
     layout->addLayout(m_buttons);
     setFocusProxy(m_list);
 }
@@ -139,12 +145,21 @@ void RecordList::makeKeys()
 
 void RecordList::refresh(const Reselection &reselection)
 {
-    m_model->setRows(m_actions.load());
+    ListRows loaded = m_actions.load();
+    m_model->setRows(std::move(loaded.rows));
+    tellMissing(loaded);
     sizeColumns();
     if (!reselection.name.isEmpty())
         select(m_model->rowOfText(reselection.name));
     else if (reselection.id != 0)
         select(m_model->rowOfTag(reselection.id));
+}
+
+void RecordList::tellMissing(const ListRows &loaded)
+{
+    const QString text = whatIsMissing(loaded.leftOut, loaded.isCutShort);
+    m_missing->setText(text);
+    m_missing->setVisible(!text.isEmpty());
 }
 
 void RecordList::select(int row)

@@ -10,6 +10,7 @@
 
 class Messages;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QTreeView;
 
@@ -39,7 +40,7 @@ public:
     struct Actions
     {
         /// Reads the rows in the list command's order.
-        std::function<std::vector<ListRow>()> load;
+        std::function<ListRows()> load;
         /// Opens the editor, 0 for a new record; what to reselect where it stored something.
         std::function<std::optional<Reselection>(qint32 id)> edit;
         /// Deletes the record; throws StoreError where the database refuses.
@@ -84,6 +85,7 @@ private:
     void arrangeColumns();
     int contentsWidth(int column) const;
     void sizeColumns();
+    void tellMissing(const ListRows &loaded);
 
     Messages &m_messages;
     ListFamily m_family;
@@ -93,5 +95,6 @@ private:
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
+    QLabel *m_missing; ///< in sight only where there is something to tell
     QHBoxLayout *m_buttons;
 };

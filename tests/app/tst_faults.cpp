@@ -90,7 +90,6 @@ class tst_faults : public QObject
 private slots:
     void killedWhileStoring();
     void twoProgramsOnOneFile();
-    void fullDisk();
 };
 
 void tst_faults::killedWhileStoring()
@@ -139,50 +138,6 @@ void tst_faults::twoProgramsOnOneFile()
     Connection connection(path);
     QCOMPARE(queryRows(connection, "select NextUserNoteID from Common"),
              QStringList{QString::number(1 + 2 * rowsEach)});
-}
-
-// The engine's limit of pages stands in for the end of the disk.
-void tst_faults::fullDisk()
-{
-    TestJournal journal;
-    journal.exec("insert into MealCategory values (1, 'Bread');"
-                 "insert into Meal values (1, 1, 'Bagel', 'a', 1, 1, 250, 2, 50, 9, 18, 200, 32);"
-                 "update Common set NextMealConsumeID = 2000");
-    journal.exec(qPrintable(u"PRAGMA max_page_count = "_qs + journal.row("PRAGMA page_count")));
-    const QString row = u"insert into MealConsume values (%1, 1, 46225, 0.5, 1.25)"_qs;
-    try {
-        for (int id = 1; id < 2000; ++id)
-            journal.exec(qPrintable(row.arg(id)));
-        QFAIL("the disk has no end");
-    } catch (const StoreError &error) {
-        QCOMPARE(error.kind(), StoreError::Kind::Full);
-    }
-    const QString before = journal.row("select count(*) from MealConsume");
-
-    // A person is told, keeps what was typed, and can store it once there is room again.
-    RecordedMessages messages;
-    frmMealConsume editor(*journal.session, messages);
-    editor.setAddMode(true);
-    inDialog(
-        "frmMealConsume", [&] { editor.run(0); },
-        [&](QWidget &dialog) {
-            auto &quantity = control<QLineEdit>(dialog, "txtQty");
-            auto &add = control<QPushButton>(dialog, "btnOK");
-            control<DataCombo>(dialog, "dcbMealCategory").setBoundValue(1);
-            typeInto(quantity, u"2.75"_qs);
-            QTest::mouseClick(&add, Qt::LeftButton);
-            QCOMPARE(messages.takeText(), u"Can't store this record in database. Please check "
-                                          "whether all data are valid"_qs);
-            QVERIFY(dialog.isVisible());
-            QCOMPARE(quantity.text(), u"2.75"_qs);
-            QCOMPARE(journal.row("select count(*) from MealConsume"), before);
-            QCOMPARE(journal.row("PRAGMA integrity_check"), u"ok"_qs);
-
-            journal.exec("PRAGMA max_page_count = 100000");
-            QTest::mouseClick(&add, Qt::LeftButton);
-            QVERIFY(messages.said.empty());
-        });
-    QCOMPARE(journal.row("select Qty from MealConsume where MealConsumeID >= 2000"), u"2.75"_qs);
 }
 
 int main(int argc, char **argv)

@@ -21,10 +21,16 @@ struct TestProgram
 {
     TestProgram() { makeEmptyJournal(database); }
 
-    QByteArray bytes() const
+    QByteArray bytes(const QString &suffix = {}) const
     {
-        QFile file(database);
+        QFile file(database + suffix);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void setBytes(const QByteArray &bytes, const QString &suffix = {}) const
+    {
+        QFile file(database + suffix);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("the file can't be written");
     }
     std::unique_ptr<StartUp> startUp()
     {
@@ -65,6 +71,9 @@ private slots:
     void firstStartInItsOrder();
     void interruptedFirstStartBeginsAnew();
     void failedMoveBeginsAnew();
+    void damagedMemoryMovesNothing();
+    void undoesOnlyItsOwnStore();
+    void oddParametersLetItStart();
 
 private:
     void verifyRefused(TestProgram &program, const std::function<bool()> &run);
@@ -101,11 +110,8 @@ void tst_startup::refusesUnusableDatabases()
         QFile::remove(program.database);
         Connection::create(program.database)->exec("create table Common (weight)");
     };
-    const Spoil empty = [](TestProgram &program) { QVERIFY(QFile::resize(program.database, 0)); };
-    const Spoil garbage = [](TestProgram &program) {
-        QFile file(program.database);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(65536, 'x')) > 0);
-    };
+    const Spoil empty = [](TestProgram &program) { program.setBytes({}); };
+    const Spoil garbage = [](TestProgram &program) { program.setBytes(QByteArray(65536, 'x')); };
     const Spoil unencrypted = [](TestProgram &program) {
         QFile::remove(program.database);
         SQLite::Database(program.database.toStdString(),
@@ -223,6 +229,79 @@ void tst_startup::failedMoveBeginsAnew()
     program.clock.setNow(QDateTime(QDate(2026, 1, 5), QTime(8, 0))); // the clock is put right
     QVERIFY(firstStart(*program.startUp(), accept));
     QVERIFY(program.isFirstStartDone());
+}
+
+// The user's measurements stay on their days, and no file beside it delays the start.
+void tst_startup::damagedMemoryMovesNothing()
+{
+    TestProgram program;
+    const QByteArray before = program.bytes();
+    for (const char *name : {"Corvana.ini", "Corvana.ini.lock"}) {
+        QFile file(program.folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(program.startUp()->run());
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(program.messages.takeText().contains("Corvana.ini"));
+    QVERIFY(program.startUp()->run());
+    QVERIFY(program.messages.said.empty()); // it has been put right
+    QVERIFY(program.bytes() == before);
+}
+
+void tst_startup::undoesOnlyItsOwnStore()
+{
+    TestProgram program;
+    Installation(program.folder.path()).setFirstStartDone();
+    const QString journal = u"-journal"_qs;
+    const QByteArray copy = program.bytes();
+    // More rows than the engine keeps in memory: some are in the file before the store is whole.
+    QByteArray torn;
+    QByteArray rollback;
+    {
+        Connection other(program.database);
+        other.exec("insert into Body values (1, 46000, 70, 90, 80, 95, 'M')");
+        other.exec("PRAGMA cache_size = 5; begin; with recursive n(i) as (select 1 union all"
+                   " select i + 1 from n where i < 2000)"
+                   " insert into UserNote select i, 46000, 46000, hex(randomblob(20)) from n");
+        torn = program.bytes();
+        rollback = program.bytes(journal);
+    }
+    QVERIFY(torn.size() > copy.size());
+    const auto start = [&](const QByteArray &database) {
+        program.messages.said.clear();
+        program.setBytes(database);
+        program.setBytes(rollback, journal);
+        return program.startUp()->run();
+    };
+    QVERIFY(start(torn));
+    QVERIFY(program.messages.said.empty());
+    Connection connection(program.database);
+    QCOMPARE(queryRows(connection, "select count(*), (select count(*) from UserNote) from Body"),
+             QStringList{u"1|0"_qs});
+
+    QByteArray damaged = torn;
+    damaged.replace(7 * 4096, 4096, QByteArray(4096, 'x'));
+    for (const auto &[database, advice] :
+         {std::pair(copy, "put back a copy?"), std::pair(damaged, "the file is damaged")}) {
+        QVERIFY(!start(database));
+        QVERIFY(program.messages.said.back().cause.contains(QLatin1String(advice)));
+        QVERIFY(program.bytes() == database && program.bytes(journal) == rollback);
+    }
+}
+
+void tst_startup::oddParametersLetItStart()
+{
+    for (const char *odd : {"weight = 1e300", "weight = 'heavy', metabolicRate = -9e999"}) {
+        TestProgram program;
+        Installation(program.folder.path()).setFirstStartDone();
+        Connection(program.database).exec(("update Common set " + std::string(odd)).c_str());
+        const auto startUp = program.startUp();
+        QVERIFY(startUp->run());
+        QVERIFY(program.messages.said.front().cause.contains("Common"));
+        QCOMPARE(startUp->session()->parameters(), CommonParameters{.measurement = u"M"_qs});
+    }
 }
 
 QTEST_MAIN(tst_startup)

@@ -99,11 +99,6 @@ private slots:
             Connection(path).exec(("drop index MealByCategory;" + change).c_str());
             refuses();
         }
-        for (const auto &bytes : {QByteArray(), QByteArray(20 * pageSize, '\x5a'),
-                                  contents(path).left(3 * pageSize + 100)}) {
-            write(path, bytes);
-            refuses();
-        }
     }
 
     void openingChangesNothing()

@@ -4,8 +4,10 @@
 
 #include <QDirIterator>
 #include <QMenu>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QResource>
+#include <QTemporaryFile>
 #include <QTextBrowser>
 
 class tst_help : public QObject
@@ -13,7 +15,7 @@ class tst_help : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void missingFileIsTold();
+    void unusableFileIsTold();
     void everyLinkLeadsToAPage();
     void f1OpensThePageOfItsWindow();
 
@@ -21,17 +23,31 @@ private:
     QString m_helpFile = QStringLiteral(CORVANA_HELP);
 };
 
-void tst_help::missingFileIsTold()
+void tst_help::unusableFileIsTold()
 {
-    bool told = false;
-    QTimer::singleShot(0, this, [&] {
-        QWidget *box = QApplication::activeModalWidget();
-        told = box && !qobject_cast<HelpViewer *>(box);
-        if (box)
-            box->close();
-    });
-    showHelp(nullptr, QStringLiteral("/nowhere/Corvana.hlp"), {});
-    QVERIFY(told);
+    const auto told = [this](const QString &path) {
+        QString text;
+        QTimer::singleShot(0, this, [&] {
+            QWidget *box = QApplication::activeModalWidget();
+            if (auto *message = qobject_cast<QMessageBox *>(box))
+                text = message->text();
+            if (box)
+                box->close();
+        });
+        showHelp(nullptr, path, {});
+        return text;
+    };
+    QVERIFY(told(QStringLiteral("/nowhere/Corvana.hlp")).contains("present"));
+    QFile whole(m_helpFile);
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    QByteArray flipped = bytes;
+    flipped[bytes.size() / 2] = char(flipped[bytes.size() / 2] ^ 1);
+    for (const QByteArray &damaged : {QByteArray(), bytes.chopped(1), flipped}) {
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write(damaged) == damaged.size() && file.flush());
+        QVERIFY(told(file.fileName()).contains("damaged"));
+    }
 }
 
 void tst_help::everyLinkLeadsToAPage()

@@ -24,7 +24,6 @@ private slots:
     }
     void meals();
     void activities();
-    void survivesAbsurdRows();
     void followsTheDate();
 
 private:
@@ -73,19 +72,6 @@ void tst_DayLists::activities()
     });
     QCOMPARE(journal->activities(), QStringList{"2|2|46225|360|720|10"});
     QVERIFY(!journal->data->rsExercisePerform.isOpen());
-}
-
-// Whoever has typed too many digits must be able to open the list and delete the row.
-void tst_DayLists::survivesAbsurdRows()
-{
-    journal->exec("insert into MealConsume values (7, 3, 46225, 0.95, 900000000000.5)");
-    journal->inList<frmMealConsumes>([&](QWidget &window) {
-        QCOMPARE(shown(window).last(), "|   Total (4 items)|||||");
-        selectRow(window, 3);
-        journal->messages.answers = {true};
-        press(window, "btnDelete");
-        QCOMPARE(shown(window).last(), "|   Total (3 items)||154|128|32|314");
-    });
 }
 
 void tst_DayLists::followsTheDate()

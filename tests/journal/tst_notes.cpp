@@ -96,7 +96,7 @@ void tst_notes::keepsEveryCharacterOfAStoredNote()
 {
     const QString text =
         QString("no-break\u00a0space, tab\t, 日本語, العربية, 😀, e\u0301, \n\n end ") +
-        QString(20000, u'x');
+        QString(1'000'000, u'x'); // wrapped at its blanks it would take minutes
     addNote(7, 1, 3, text);
     journal->edit<frmUserNote>(7, [](QWidget &dialog) {
         setPeriod(dialog, 3, 4); // which is no overlap with another
@@ -129,7 +129,7 @@ void tst_notes::tellsOfTheOtherNoteAndLosesAnIdentifier()
 
 void tst_notes::messageOfALongNoteFitsTheScreen()
 {
-    addNote(9, 22, 22, QString("A line of a note.\n").repeated(300));
+    addNote(9, 22, 22, QString("A line of a note.\n").repeated(300) + QString(1'000'000, u'x'));
     MessageBoxes boxes;
     frmUserNote editor(*journal->session, boxes);
     const auto steps = [&](QWidget &dialog) {

@@ -164,6 +164,8 @@ private slots:
         QVERIFY(told(400).contains(QStringLiteral("too many days")));
         m_journal->exec("update Body set Weight = 1e30"); // held, but beyond what a scale can show
         QVERIFY(told(30).contains(QStringLiteral("too large")));
+        m_journal->exec("update Body set Weight = 1e300");
+        QVERIFY(told(30).contains(m_journal->session->text().mediumDate(firstDay)));
     }
 };
 

@@ -21,15 +21,6 @@ private slots:
         QCOMPARE(session.currentDate(), QDate(2026, 12, 31));
     }
 
-    void weightBeyond16BitsIsRaised()
-    {
-        TestJournal journal;
-        journal.exec("update Common set weight = 40000, metabolicRate = 1");
-        journal.data->rsCommon.close();
-        QVERIFY_THROWS_EXCEPTION(OverflowError, journal.session->readCommonParameters());
-        QCOMPARE(journal.session->parameters().metabolicRate, 59.0);
-    }
-
     void movesTheSampleJournal_data()
     {
         QTest::addColumn<QString>("steps"); // of a body row
@@ -81,19 +72,44 @@ private slots:
                  u"1|1|1|1"_qs);
     }
 
-    void firstStartOutlivesTheDatabase()
+    void firstStartIsRemembered()
     {
-        TestJournal journal;
-        QVERIFY(!Installation(journal.folder.path()).isFirstStartDone());
-        Installation(journal.folder.path()).setFirstStartDone();
-        journal.data.reset();
-        QVERIFY(QFile::remove(journal.path()));
-        QVERIFY(Installation(journal.folder.path()).isFirstStartDone());
-        // Where there can be no file, it is raised, not lost: here the folder is a file.
-        makeEmptyJournal(journal.path());
-        QVERIFY_THROWS_EXCEPTION(std::runtime_error,
-                                 Installation(journal.path()).setFirstStartDone());
-        QCOMPARE(Installation(u"/"_qs).databasePath(), u"/Corvana.mdb"_qs);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"Corvana.ini"_qs);
+        Installation installation(folder.path());
+        const auto verify = [&](bool done, bool damaged) {
+            QCOMPARE(installation.isFirstStartDone(), done);
+            QCOMPARE(installation.isDamaged(), damaged);
+            // A value kept beside the mark leaves it as it was taken.
+            const QString place = u" 1,2;50%=\r\nü "_qs;
+            installation.setValue(u"Windows/frmMain"_qs, place);
+            installation.setValue(u"Windows/frmMeals"_qs, u"3"_qs);
+            QCOMPARE(installation.value(u"Windows/frmMain"_qs), place);
+            QCOMPARE(installation.isFirstStartDone(), done);
+            QVERIFY(!installation.isDamaged());
+            QVERIFY(QFile::remove(path));
+        };
+        verify(false, false);
+        installation.setFirstStartDone();
+        verify(true, false);
+        const std::pair<QByteArray, bool> contents[] = {{"[General]\nFirstStartDone=true\n", false},
+                                                        {"; old\r\nFirstStartDone=true\r\n", false},
+                                                        {"", true},
+                                                        {"[General]\nFirstStartDone=t", true},
+                                                        {"[General]\nFirst", true},
+                                                        {QByteArray(5000, '\xff'), true}};
+        for (const auto &[bytes, damaged] : contents) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+            file.close();
+            verify(true, damaged);
+        }
+        // Neither read nor written: known as damaged, and raised where it has to be written.
+        QVERIFY(QDir(folder.path()).mkdir(u"Corvana.ini"_qs));
+        installation.setValue(u"Windows/frmMain"_qs, u"1"_qs);
+        QVERIFY(installation.isDamaged() && installation.isFirstStartDone());
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, installation.requireWritable());
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, installation.setFirstStartDone());
     }
 
 private:
