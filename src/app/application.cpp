@@ -1,11 +1,15 @@
 #include "app/application.h"
 
 #include "ui/attempt.h"
+#include "ui/icons.h"
+#include "ui/screenfit.h"
 
 Application::Application(int &argc, char **argv, Messages &messages)
     : QApplication(argc, argv)
     , m_messages(messages)
 {
+    setWindowIcon(programIcon()); // of messages and dialogs before the main window, too
+    installEventFilter(new ScreenFit(this));
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

@@ -2,8 +2,10 @@
 
 #include "app/dayviewlayout.h"
 #include "chart/TrellumGraph.h"
+#include "ui/elidedlabel.h"
 
 #include <QFontMetrics>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,6 +26,7 @@ DayView::DayView(QWidget *parent)
     , btnNext(new QPushButton(tr("&Next"), this))
     , txtDate(new QLineEdit(this))
     , btnHelp(new QPushButton(tr("H&elp"), this))
+    , m_sampleNotice(makeSampleNotice())
 {
     Label1->setObjectName(QStringLiteral("Label1"));
     graph->setObjectName(QStringLiteral("graph"));
@@ -41,11 +44,40 @@ DayView::DayView(QWidget *parent)
     setMinimumHeight(qRound(4000 * pixelsPerTwip()));
 }
 
+// Quiet, and yet in sight wherever the day's figures are: nobody takes them for their own.
+QWidget *DayView::makeSampleNotice()
+{
+    auto *notice = new QWidget(this);
+    auto *text = new ElidedLabel(notice);
+    text->setObjectName(QStringLiteral("lblSample"));
+    text->setText(tr("The journal contains sample data"));
+    btnDeleteSample = new QPushButton(tr("De&lete It"), notice);
+    btnDeleteSample->setObjectName(QStringLiteral("btnDeleteSample"));
+    btnDeleteSample->setAccessibleName(tr("Delete sample data"));
+    btnDeleteSample->setFlat(true);
+    QFont link = btnDeleteSample->font();
+    link.setUnderline(true);
+    btnDeleteSample->setFont(link);
+    auto *layout = new QHBoxLayout(notice);
+    layout->setContentsMargins({});
+    layout->addStretch();
+    layout->addWidget(text);
+    layout->addWidget(btnDeleteSample);
+    notice->hide();
+    return notice;
+}
+
+void DayView::setSampleNoticeVisible(bool visible)
+{
+    m_sampleNotice->setVisible(visible);
+}
+
 void DayView::setNavigationVisible(bool visible)
 {
     for (QWidget *part : {static_cast<QWidget *>(btnPrev), static_cast<QWidget *>(btnNext),
                           static_cast<QWidget *>(txtDate), static_cast<QWidget *>(btnHelp)})
         part->setVisible(visible);
+    m_sampleNotice->setEnabled(visible);
 }
 
 double DayView::pixelsPerTwip() const
@@ -68,6 +100,10 @@ void DayView::layOut()
     if (!layOutDayView(size(), scale, layout))
         return;
     Label1->setGeometry(layout.heading);
+    QRect beside = layout.heading;
+    beside.setLeft(beside.left() + Label1->sizeHint().width());
+    beside.setRight(layout.graph.right());
+    m_sampleNotice->setGeometry(beside);
     graph->setGeometry(layout.graph);
 
     const int gap = qRound(90 * scale);

@@ -18,6 +18,8 @@ public:
 
     /// While the chart is printed, what does not belong on the page is out of sight.
     void setNavigationVisible(bool visible);
+    /// Says beside the heading that there is sample data, with a button to delete it.
+    void setSampleNoticeVisible(bool visible);
     double pixelsPerTwip() const;
 
     QLabel *Label1;
@@ -26,10 +28,14 @@ public:
     QPushButton *btnNext;
     QLineEdit *txtDate;
     QPushButton *btnHelp;
+    QPushButton *btnDeleteSample;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    QWidget *makeSampleNotice();
     void layOut();
+
+    QWidget *m_sampleNotice;
 };

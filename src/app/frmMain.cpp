@@ -32,7 +32,6 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QTimer>
@@ -75,117 +74,7 @@ frmMain::frmMain(Session &session, Messages &messages)
     m_view->graph->setLocale(session.text().locale());
     m_view->graph->set24HourClock(session.is24HourClock());
     LoadGraph();
-}
-
-void frmMain::addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler)
-{
-    QAction *action = menu->addAction(caption);
-    action->setObjectName(name);
-    m_entries[name] = action;
-    action->setEnabled(handler != nullptr);
-    if (handler)
-        connect(action, &QAction::triggered, this, attempting(this, m_messages, handler));
-}
-
-void frmMain::makeMenus()
-{
-    makeOperateMenu();
-    QMenu *analyze = menuBar()->addMenu(tr("&Analyze"));
-    addEntry(analyze, QStringLiteral("mnuGeneralProgress"), tr("&General Progress"),
-             &frmMain::openGeneralProgress);
-    makeSettingsMenu();
-    makeHelpMenu();
-}
-
-void frmMain::makeOperateMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Operate"));
-    addEntry(menu, QStringLiteral("mnuMealConsume"), tr("&Meal Consumed List"),
-             &frmMain::showMeals);
-    addEntry(menu, QStringLiteral("mnuAddMeal"), tr("&Add Meal"), &frmMain::addMeal);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuExercisePerformed"), tr("A&ctivities Performed List"),
-             &frmMain::showActivities);
-    addEntry(menu, QStringLiteral("mnuAddExercise"), tr("A&dd Activity"), &frmMain::addActivity);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuMeasurement"), tr("&Body Measurement and Notes"),
-             &frmMain::openMeasurements);
-    addEntry(menu, QStringLiteral("mnuAddMeasurement"), tr("Add Body Measu&rement"),
-             &frmMain::addMeasurement);
-    addEntry(menu, QStringLiteral("mnuAddNote"), tr("Add &Note"), &frmMain::addNote);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuPrintChart"), tr("&Print Daily Chart"), &frmMain::printChart);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuSetDate"), tr("&Set Date"), &frmMain::setDate);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuDeleteTrialData"), tr("Delete Trial Data"),
-             &frmMain::deleteTrialData);
-    menu->addSeparator();
-    menu->addAction(tr("E&xit"), this, &QWidget::close)->setObjectName(QStringLiteral("mnuExit"));
-}
-
-void frmMain::makeSettingsMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Settings"));
-    addEntry(menu, QStringLiteral("mnuMealCategories"), tr("Meal &Categories"),
-             &frmMain::openMealCategories);
-    addEntry(menu, QStringLiteral("mnuMeal"), tr("&Meal"), &frmMain::openMeals);
-    addEntry(menu, QStringLiteral("mnuExercises"), tr("&Activities"), &frmMain::openExercises);
-    menu->addSeparator();
-    addEntry(menu, QStringLiteral("mnuCommon"), tr("C&ommon"), &frmMain::openCommonParameters);
-}
-
-void frmMain::makeHelpMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Help"));
-    addEntry(menu, QStringLiteral("mnuHelpAbout"), tr("&About"), &frmMain::showAbout);
-    addEntry(menu, QStringLiteral("mnuHelpContents"), tr("&Contents"), &frmMain::showHelpContents);
-    addEntry(menu, QStringLiteral("mnuHelpMainForm"), tr("&Main Form"),
-             &frmMain::showHelpOfMainForm);
-}
-
-void frmMain::makeToolBar()
-{
-    struct Button
-    {
-        const char *key;
-        QString toolTip;
-    };
-    const Button buttons[] = {
-        {"mnuMealConsume", tr("Meal Consume List")},
-        {"mnuAddMeal", tr("Add Meal")},
-        {nullptr, {}},
-        {"mnuExercisePerformed", tr("Activities Performed List")},
-        {"mnuAddExercise", tr("Add Activity")},
-        {nullptr, {}},
-        {"mnuMeasurement", tr("Body Measurement & Notes")},
-        {"mnuAddMeasurement", tr("Add Measurement")},
-        {"mnuAddNote", tr("Add Note")},
-        {nullptr, {}},
-        {"mnuPrintChart", tr("Print Daily Chart")},
-        {"mnuGeneralProgress", tr("General Progress")},
-        {nullptr, {}},
-        {"mnuMealCategories", tr("Configure Meal Categories")},
-        {"mnuMeal", tr("Configure Meals")},
-        {"mnuExercises", tr("Configure Activities")},
-        {nullptr, {}},
-        {"mnuHelpAbout", tr("About the Program")},
-        {"mnuHelpContents", tr("Help Contents")},
-    };
-    tlbToolBar->setObjectName(QStringLiteral("tlbToolBar"));
-    tlbToolBar->setWindowTitle(tr("Toolbar"));
-    tlbToolBar->setMovable(false);
-    tlbToolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be switched off
-    for (const Button &button : buttons) {
-        if (!button.key) {
-            tlbToolBar->addSeparator();
-            continue;
-        }
-        QAction *entry = m_entries.at(QString::fromLatin1(button.key));
-        entry->setToolTip(button.toolTip);
-        tlbToolBar->addAction(entry);
-    }
-    addToolBar(tlbToolBar);
+    showSampleNotice();
 }
 
 void frmMain::showPictures()
@@ -200,6 +89,8 @@ void frmMain::makeConnections()
     connect(m_view->btnNext, &QPushButton::clicked, this, &frmMain::showNextDay);
     connect(m_view->btnHelp, &QPushButton::clicked, this, &frmMain::showHelpOfMainForm);
     const auto handler = [this](auto method) { return attempting(this, m_messages, method); };
+    connect(m_view->btnDeleteSample, &QPushButton::clicked, this,
+            handler(&frmMain::deleteTrialData));
     connect(m_view->graph, &TrellumGraph::mealItemChosen, this, handler(&frmMain::chooseMeal));
     connect(m_view->graph, &TrellumGraph::freeMealPlaceChosen, this, handler(&frmMain::addMealAt));
     connect(m_view->graph, &TrellumGraph::activityItemChosen, this,
@@ -256,6 +147,15 @@ void frmMain::tellMissing()
                          m_missing);
 }
 
+void frmMain::showSampleNotice()
+{
+    try {
+        m_view->setSampleNoticeVisible(hasSampleJournal(m_session.data()));
+    } catch (const StoreError &) {
+        // It stays as it is; what can't be read is told by who needs it.
+    }
+}
+
 void frmMain::followDay()
 {
     const QString day = m_session.text().mediumDate(m_session.currentDate());
@@ -273,6 +173,7 @@ void frmMain::followJournal()
     attempt(
         this, m_messages, [this] { RePaintGraph(); },
         tr("The chart can't be drawn anew. What was stored before is stored"));
+    showSampleNotice();
 }
 
 void frmMain::showPreviousDay()
@@ -320,9 +221,16 @@ void frmMain::addMeal()
     openEditor<frmMealConsume>(0, true);
 }
 
+/// The next entry is proposed at a time chosen on the chart; its captions have none.
+void frmMain::takeTime(QTime time)
+{
+    if (time.isValid())
+        m_session.setCurrentTime(time);
+}
+
 void frmMain::chooseMeal(int id, bool hit, QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     if (hit && id != 0)
         openEditor<frmMealConsume>(id, false);
     else
@@ -331,7 +239,7 @@ void frmMain::chooseMeal(int id, bool hit, QTime time)
 
 void frmMain::addMealAt(QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     openEditor<frmMealConsume>(0, false);
 }
 
@@ -347,7 +255,7 @@ void frmMain::addActivity()
 
 void frmMain::chooseActivity(int id, bool hit, QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     if (hit && id != 0)
         openEditor<frmExercisePerform>(id, false);
     else
@@ -356,7 +264,7 @@ void frmMain::chooseActivity(int id, bool hit, QTime time)
 
 void frmMain::addActivityAt(QTime time)
 {
-    m_session.setCurrentTime(time);
+    takeTime(time);
     openEditor<frmExercisePerform>(0, false);
 }
 
@@ -382,12 +290,15 @@ void frmMain::printChart()
 {
     bool printed = false;
     {
+        QWidget *const hadFocus = focusWidget();
         // What is out of sight on paper is out of sight here, and can't be clicked meanwhile.
         m_view->setNavigationVisible(false);
         tlbToolBar->hide();
-        const auto showAgain = qScopeGuard([this] {
+        const auto showAgain = qScopeGuard([this, hadFocus] {
             m_view->setNavigationVisible(true);
             tlbToolBar->show();
+            if (hadFocus)
+                hadFocus->setFocus();
         });
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
@@ -448,6 +359,11 @@ void frmMain::openGeneralProgress()
     settings.exec();
     if (settings.OkPressed())
         showGeneralProgress(m_session, m_messages, settings.period(), this);
+}
+
+void frmMain::leave()
+{
+    close();
 }
 
 void frmMain::showAbout()

@@ -33,16 +33,20 @@ protected:
 private:
     using Handler = void (frmMain::*)();
 
+    /// An entry of a menu; a separator where it has no caption.
+    struct Entry
+    {
+        const char *name;
+        QString caption = {};
+        Handler handler = nullptr;
+    };
+
     void makeMenus();
-    void makeOperateMenu();
-    void makeSettingsMenu();
-    void makeHelpMenu();
+    void addMenu(const char *name, const QString &caption, std::initializer_list<Entry> entries);
     void makeToolBar();
     void makeConnections();
-    /// An entry of a menu, known by its name; one without a handler waits, disabled, for its
-    /// window.
-    void addEntry(QMenu *menu, const QString &name, const QString &caption, Handler handler = {});
     void showPictures();
+    void showSampleNotice();
 
     /// Draws what the session tells of, or says that it can't be drawn.
     void followDay();
@@ -55,6 +59,7 @@ private:
     void addMeal();
     void chooseMeal(int id, bool hit, QTime time);
     void addMealAt(QTime time);
+    void takeTime(QTime time);
     void openMeasurements();
     void addMeasurement();
     void addNote();
@@ -73,6 +78,7 @@ private:
     void openExercises();
     void openCommonParameters();
     void openGeneralProgress();
+    void leave();
     void showAbout();
     void showHelpContents();
     void showHelpOfMainForm();

@@ -3,6 +3,7 @@
 #include "help/helpkey.h"
 #include "session/installation.h"
 #include "ui/messages.h"
+#include "ui/windowplaces.h"
 
 #include <QDir>
 
@@ -16,6 +17,9 @@ int main(int argc, char **argv)
     const QString folder = QCoreApplication::applicationDirPath();
     HelpKeyFilter helpKey(Installation(folder).helpPath());
     application.installEventFilter(&helpKey);
+
+    WindowPlaces places(folder);
+    application.installEventFilter(&places);
 
     const SystemClock clock;
     StartUp startUp({folder, clock, QLocale::system(), messages});

@@ -5,6 +5,7 @@
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/datacombo.h"
+#include "ui/elidedlabel.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -50,7 +51,8 @@ void frmMeal::makeControls()
 
 QLayout *frmMeal::makeForm()
 {
-    lblCalories = makeLabel(QString(), txtCalories);
+    lblCalories = new ElidedLabel(this); // it holds the unit
+    lblCalories->setBuddy(txtCalories);
     lblCalories->setObjectName(QStringLiteral("lblCalories"));
     showCaloriesLabel();
 

@@ -2,6 +2,7 @@
 
 #include "chart/emphasis.h"
 #include "chart/graphaccessible.h"
+#include "chart/secondclickguard.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -17,6 +18,7 @@ using namespace daychart;
 
 TrellumGraph::TrellumGraph(QWidget *parent)
     : QWidget(parent)
+    , m_targets(allTargets(m_shown))
     , m_fonts(font(), logicalDpiY(), this)
     , m_colors(ChartColors::of(palette()))
 {
@@ -33,8 +35,7 @@ TrellumGraph::TrellumGraph(QWidget *parent)
 
 void TrellumGraph::clear()
 {
-    m_held.meals.clear();
-    m_held.activities.clear();
+    m_held = {.backgroundRate = m_held.backgroundRate};
 }
 
 void TrellumGraph::setBackgroundRate(double caloriesPerMinute)
@@ -49,18 +50,19 @@ void TrellumGraph::set24HourClock(bool on)
 
 void TrellumGraph::addMeal(int id, QTime time, int carbohydrate, int fat, int protein)
 {
-    m_held.meals.push_back({id, time, carbohydrate, fat, protein});
+    m_held.add(MealItem{id, time, carbohydrate, fat, protein});
 }
 
 void TrellumGraph::addActivity(int id, QTime begin, QTime end, int calories)
 {
-    m_held.activities.push_back({id, begin, end, calories});
+    m_held.add(ActivityItem{id, begin, end, calories});
 }
 
 void TrellumGraph::repaintChart()
 {
     const int id = idOf(m_shown, m_cursor.target);
     m_shown = m_held;
+    m_targets = allTargets(m_shown);
     m_cursor.target = sameItem(m_cursor.target, id);
     m_pointed = {};
     m_pressed = {};
@@ -92,10 +94,18 @@ void TrellumGraph::relayout()
 {
     m_fonts = ChartFonts(font(), logicalDpiY(), this);
     m_colors = ChartColors::of(palette());
-    m_geometry = chartGeometry(m_shown, rect(), metricsOf(m_fonts, this), texts());
+    m_geometry.reset();
     m_picture = {};
     setAccessibleDescription(texts().daySummary(m_shown));
     update();
+}
+
+/// Computed when it is first asked for, however many changes came before.
+const ChartGeometry &TrellumGraph::geometry()
+{
+    if (!m_geometry)
+        m_geometry = chartGeometry(m_shown, rect(), metricsOf(m_fonts, this), texts());
+    return *m_geometry;
 }
 
 void TrellumGraph::changeEvent(QEvent *event)
@@ -126,7 +136,7 @@ const QPixmap &TrellumGraph::picture()
         m_picture = QPixmap(size() * ratio);
         m_picture.setDevicePixelRatio(ratio);
         QPainter painter(&m_picture);
-        paintDayChart(painter, m_geometry, m_colors, m_fonts, Medium::Screen);
+        paintDayChart(painter, geometry(), m_colors, m_fonts, Medium::Screen);
     }
     return m_picture;
 }
@@ -135,19 +145,19 @@ void TrellumGraph::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture());
-    paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_pointed, false);
+    paintEmphasis(painter, geometry(), m_colors, m_fonts, texts(), m_pointed, false);
     if (!hasFocus() || !m_byKeyboard)
         return;
-    paintEmphasis(painter, m_geometry, m_colors, m_fonts, texts(), m_cursor, true);
-    const double line = 0.12 * m_geometry.unit;
+    paintEmphasis(painter, geometry(), m_colors, m_fonts, texts(), m_cursor, true);
+    const double line = 0.12 * geometry().unit;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_colors.highlight, line));
-    painter.drawRect(m_geometry.area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+    painter.drawRect(geometry().area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
 }
 
 void TrellumGraph::point(QPointF position)
 {
-    setPointed({targetAt(m_geometry, position), minuteAt(m_geometry, position.x())});
+    setPointed({targetAt(geometry(), position), minuteAt(geometry(), position.x())});
 }
 
 /// Shows by the pointer's shape and by emphasis what a click would do.
@@ -183,12 +193,18 @@ void TrellumGraph::mousePressEvent(QMouseEvent *event)
         return;
     }
     m_byKeyboard = false;
-    m_pressed = targetAt(m_geometry, event->position());
+    m_pressed = targetAt(geometry(), event->position());
     m_pressedAt = event->position();
     if (m_pressed.kind == Target::Kind::None)
         return;
     const bool hasTime = m_pressed.kind != Target::Kind::Caption;
-    moveCursor({m_pressed, hasTime ? minuteAt(m_geometry, m_pressedAt.x()) : m_cursor.minute});
+    moveCursor({m_pressed, hasTime ? minuteAt(geometry(), m_pressedAt.x()) : m_cursor.minute});
+}
+
+/// The first click has chosen already.
+void TrellumGraph::mouseDoubleClickEvent(QMouseEvent *)
+{
+    m_pressed = {};
 }
 
 void TrellumGraph::mouseReleaseEvent(QMouseEvent *event)
@@ -201,11 +217,11 @@ void TrellumGraph::mouseReleaseEvent(QMouseEvent *event)
     const QPointF position = event->position();
     const bool moved =
         (position - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
-    if (pressed != targetAt(m_geometry, position) ||
+    if (pressed != targetAt(geometry(), position) ||
         (pressed.kind == Target::Kind::FreePlace && moved))
         return;
-    const bool hasTime = pressed.kind != Target::Kind::Caption;
-    choose(pressed, hasTime ? minuteAt(m_geometry, position.x()) : m_cursor.minute);
+    const SecondClickGuard guard(event->globalPosition());
+    choose(pressed, minuteAt(geometry(), position.x()));
 }
 
 void TrellumGraph::moveCursor(const Cursor &cursor)
@@ -282,7 +298,7 @@ void TrellumGraph::focusOutEvent(QFocusEvent *event)
 /// chart holds other items.
 void TrellumGraph::choose(const Target &target, int minute)
 {
-    const QTime time = timeOf(minute);
+    const QTime time = target.kind == Target::Kind::Caption ? QTime() : timeOf(minute);
     const bool meals = target.lane == Lane::Meals;
     const bool hit = target.kind == Target::Kind::Item;
     switch (target.kind) {
@@ -317,7 +333,7 @@ Target TrellumGraph::sameItem(const Target &before, int id) const
 {
     if (before.kind != Target::Kind::Item)
         return before;
-    for (const Target &target : allTargets(m_shown)) {
+    for (const Target &target : m_targets) {
         if (target.isItem(before.lane) && idOf(m_shown, target) == id)
             return target;
     }
@@ -365,12 +381,12 @@ bool TrellumGraph::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    const Cursor pointed = {targetAt(m_geometry, help->pos()),
-                            minuteAt(m_geometry, help->pos().x())};
+    const Cursor pointed = {targetAt(geometry(), help->pos()),
+                            minuteAt(geometry(), help->pos().x())};
     // The tip of a free place tells of one time only and goes when the pointer moves on.
     const QRect extent = pointed.target.kind == Target::Kind::FreePlace
                              ? QRect(help->pos(), QSize(2, 2))
-                             : boundsOf(m_geometry, pointed.target).toAlignedRect();
+                             : boundsOf(geometry(), pointed.target).toAlignedRect();
     QToolTip::showText(help->globalPos(), tipOf(pointed), this, extent);
     return true;
 }

@@ -52,8 +52,8 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /// With hit, the meal of that id was chosen; without, the list of meals (id 0). The time is
-    /// the one under the pointer; a caption has none and hands on the last one pointed at.
+    /// With hit, the meal of that id was chosen, at the time under the pointer. Without, the list
+    /// of meals was (id 0), by its caption, which has no time: it is invalid then.
     void mealItemChosen(int id, bool hit, QTime time);
     void activityItemChosen(int id, bool hit, QTime time);
     void freeMealPlaceChosen(QTime time);
@@ -66,6 +66,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -77,6 +78,7 @@ private:
 
     daychart::ChartTexts texts() const { return {locale(), m_clock24}; }
     void relayout();
+    const daychart::ChartGeometry &geometry();
     const QPixmap &picture();
     void point(QPointF position);
     void setPointed(const daychart::Cursor &pointed);
@@ -90,8 +92,9 @@ private:
 
     daychart::DayData m_held;  ///< as handed over
     daychart::DayData m_shown; ///< as of the last repaintChart; what geometry and cursors refer to
+    std::vector<daychart::Target> m_targets; ///< all that can be chosen of what is shown
     bool m_clock24 = true;
-    daychart::ChartGeometry m_geometry;
+    std::optional<daychart::ChartGeometry> m_geometry; ///< of what is shown, in this size
     daychart::ChartFonts m_fonts;
     daychart::ChartColors m_colors;
     QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little

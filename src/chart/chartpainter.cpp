@@ -32,18 +32,21 @@ public:
         paintBurn();
         paintMeals();
         paintAxes();
+        // The ground of a text keeps what is behind from running through it, but not the balance:
+        // a peak of it could lie there and nowhere else.
+        const bool onScreen = medium == Medium::Screen;
+        paintPlates(onScreen);
         paintBalance();
         for (const Swatch &swatch : g.swatches)
             paintSwatch(swatch);
-        paintItemLabels();
+        for (const auto &labels : {g.mealLabels, g.activityLabels}) {
+            for (const ItemLabel &label : labels)
+                paintText(label.text);
+        }
         for (const PlacedText &text : g.texts)
             paintText(text);
-        if (medium == Medium::Screen) {
-            for (const PlacedText &hint : g.hints) {
-                plate(hint.rect, c.ground);
-                paintText(hint);
-            }
-        }
+        for (const PlacedText &hint : onScreen ? g.hints : std::vector<PlacedText>())
+            paintText(hint);
     }
 
 private:
@@ -65,7 +68,7 @@ private:
     void paintMeals();
     void paintAxes();
     void paintBalance();
-    void paintItemLabels();
+    void paintPlates(bool withHints);
     void paintSwatch(const Swatch &swatch);
     void paintPart(Part part, const QRectF &rect);
     void paintCut(const QRectF &rect, double y);
@@ -233,16 +236,14 @@ void DayChartPainter::paintBalance()
     paintText(g.balanceEnd);
 }
 
-void DayChartPainter::paintItemLabels()
+void DayChartPainter::paintPlates(bool withHints)
 {
-    for (const ItemLabel &label : g.mealLabels) {
-        plate(label.text.rect, c.ground);
-        paintText(label.text);
+    for (const auto &labels : {g.mealLabels, g.activityLabels}) {
+        for (const auto &[item, text] : labels)
+            plate(text.rect, text.tone == Tone::OnActivity ? c.activity : c.ground);
     }
-    for (const ItemLabel &label : g.activityLabels) {
-        plate(label.text.rect, label.text.tone == Tone::OnActivity ? c.activity : c.ground);
-        paintText(label.text);
-    }
+    for (const PlacedText &hint : withHints ? g.hints : std::vector<PlacedText>())
+        plate(hint.rect, c.ground);
 }
 
 void DayChartPainter::paintSwatch(const Swatch &swatch)
@@ -261,7 +262,6 @@ void DayChartPainter::paintSwatch(const Swatch &swatch)
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// Keeps lines behind a text from running through it.
 void DayChartPainter::plate(const QRectF &rect, QColor color)
 {
     color.setAlphaF(0.8F);

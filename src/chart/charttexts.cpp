@@ -108,10 +108,24 @@ QString ChartTexts::daySummary(const DayData &day) const
     const QString balance = figures.balance() < 0
                                 ? tr("%1 less eaten than burnt").arg(energy(-figures.balance()))
                                 : tr("%1 more eaten than burnt").arg(energy(figures.balance()));
-    return tr("Eaten %1, burnt %2 of which %3 by activities, balance %4. "
-              "Meals: %5. Activities: %6.")
-        .arg(energy(figures.eaten()), energy(figures.burnt()), energy(figures.activities), balance,
-             number(qint64(day.meals.size())), number(qint64(day.activities.size())));
+    const QString sums =
+        tr("Eaten %1, burnt %2 of which %3 by activities, balance %4. Meals: %5. Activities: %6.")
+            .arg(energy(figures.eaten()), energy(figures.burnt()), energy(figures.activities),
+                 balance, number(qint64(day.mealCount())), number(qint64(day.activityCount())));
+    return (QStringList(sums) + notDrawn(day)).join(u' ');
+}
+
+QStringList ChartTexts::notDrawn(const DayData &day) const
+{
+    const QString most = number(qint64(DayData::mostDrawn));
+    QStringList sentences;
+    if (!day.moreMeals.empty())
+        sentences += tr("Drawn: the first %1 of %2 meals. The totals count all.")
+                         .arg(most, number(qint64(day.mealCount())));
+    if (!day.moreActivities.empty())
+        sentences += tr("Drawn: the first %1 of %2 activities. The totals count all.")
+                         .arg(most, number(qint64(day.activityCount())));
+    return sentences;
 }
 
 QString ChartTexts::mealTip(const MealItem &meal) const

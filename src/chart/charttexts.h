@@ -45,14 +45,14 @@ public:
     QString newItemName(Lane lane, QTime time) const;
     QString openListName(Lane lane) const;
     QString daySummary(const DayData &day) const;
+    /// A sentence for each kind of which not all are drawn.
+    QStringList notDrawn(const DayData &day) const;
 
     QString mealTip(const MealItem &meal) const;
     QString activityTip(const ActivityItem &activity) const;
     QString placeTip(Lane lane, QTime time, double balance) const;
 
 private:
-    QString signedFigure(qint64 value) const;
-
     QLocale m_locale;
     bool m_clock24;
 };

@@ -15,13 +15,14 @@ struct Change
 std::vector<Change> changesOf(const DayData &day)
 {
     std::vector<Change> changes;
-    changes.reserve(day.meals.size() + 2 * day.activities.size());
-    for (const MealItem &meal : day.meals)
+    changes.reserve(day.mealCount() + 2 * day.activityCount());
+    day.forEachMeal([&](const MealItem &meal) {
         changes.push_back({minuteOf(meal.time), double(meal.calories()), 0});
-    for (const ActivityItem &activity : day.activities) {
+    });
+    day.forEachActivity([&](const ActivityItem &activity) {
         changes.push_back({activity.beginMinute(), 0, activity.caloriesPerMinute()});
         changes.push_back({activity.endMinute(), 0, -activity.caloriesPerMinute()});
-    }
+    });
     std::stable_sort(changes.begin(), changes.end(),
                      [](const Change &a, const Change &b) { return a.minute < b.minute; });
     return changes;
@@ -32,13 +33,13 @@ std::vector<Change> changesOf(const DayData &day)
 DayFigures dayFigures(const DayData &day)
 {
     DayFigures figures;
-    for (const MealItem &meal : day.meals) {
+    day.forEachMeal([&](const MealItem &meal) {
         figures.carbohydrate += meal.carbohydrate;
         figures.fat += meal.fat;
         figures.protein += meal.protein;
-    }
-    for (const ActivityItem &activity : day.activities)
-        figures.activities += activity.calories;
+    });
+    day.forEachActivity(
+        [&](const ActivityItem &activity) { figures.activities += activity.calories; });
     figures.background = qRound64(day.backgroundRate * minutesPerDay);
     return figures;
 }

@@ -52,8 +52,37 @@ struct ActivityItem
 struct DayData
 {
     double backgroundRate = 0; ///< calories per minute, burnt without any activity
-    std::vector<MealItem> meals;
-    std::vector<ActivityItem> activities;
+    std::vector<MealItem> meals = {};
+    std::vector<ActivityItem> activities = {};
+    std::vector<MealItem> moreMeals = {}; ///< not drawn; in the totals and the balance only
+    std::vector<ActivityItem> moreActivities = {};
+
+    /// More items of a kind could neither be told apart nor be laid out in time.
+    static constexpr size_t mostDrawn = 500;
+
+    void add(const MealItem &meal)
+    {
+        (meals.size() < mostDrawn ? meals : moreMeals).push_back(meal);
+    }
+    void add(const ActivityItem &activity)
+    {
+        (activities.size() < mostDrawn ? activities : moreActivities).push_back(activity);
+    }
+    /// Calls for every item, drawn or not.
+    template<typename Call>
+    void forEachMeal(const Call &call) const
+    {
+        std::for_each(meals.begin(), meals.end(), call);
+        std::for_each(moreMeals.begin(), moreMeals.end(), call);
+    }
+    template<typename Call>
+    void forEachActivity(const Call &call) const
+    {
+        std::for_each(activities.begin(), activities.end(), call);
+        std::for_each(moreActivities.begin(), moreActivities.end(), call);
+    }
+    size_t mealCount() const { return meals.size() + moreMeals.size(); }
+    size_t activityCount() const { return activities.size() + moreActivities.size(); }
 };
 
 } // namespace daychart

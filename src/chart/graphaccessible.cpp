@@ -95,9 +95,9 @@ TrellumGraph *GraphAccessible::graph() const
     return static_cast<TrellumGraph *>(object());
 }
 
-std::vector<Target> GraphAccessible::targets() const
+const std::vector<Target> &GraphAccessible::targets() const
 {
-    return allTargets(graph()->m_shown);
+    return graph()->m_targets;
 }
 
 int GraphAccessible::childCount() const
@@ -129,7 +129,7 @@ int GraphAccessible::indexOfChild(const QAccessibleInterface *child) const
 
 int GraphAccessible::indexOf(const Target &target) const
 {
-    const std::vector<Target> all = targets();
+    const std::vector<Target> &all = targets();
     const auto found = std::find(all.begin(), all.end(), target);
     return found == all.end() ? -1 : int(found - all.begin());
 }
@@ -137,7 +137,7 @@ int GraphAccessible::indexOf(const Target &target) const
 QAccessibleInterface *GraphAccessible::childAt(int x, int y) const
 {
     const QPoint point = graph()->mapFromGlobal(QPoint(x, y));
-    return child(indexOf(targetAt(graph()->m_geometry, point)));
+    return child(indexOf(targetAt(graph()->geometry(), point)));
 }
 
 QAccessibleInterface *GraphAccessible::focusChild() const
@@ -152,7 +152,7 @@ QString GraphAccessible::childName(int index) const
 
 QRect GraphAccessible::childRect(int index) const
 {
-    const QRect rect = boundsOf(graph()->m_geometry, targets()[size_t(index)]).toAlignedRect();
+    const QRect rect = boundsOf(graph()->geometry(), targets()[size_t(index)]).toAlignedRect();
     return {graph()->mapToGlobal(rect.topLeft()), rect.size()};
 }
 

@@ -36,7 +36,7 @@ public:
 
 private:
     TrellumGraph *graph() const;
-    std::vector<Target> targets() const;
+    const std::vector<Target> &targets() const;
 
     mutable std::vector<QAccessible::Id> m_children;
 };

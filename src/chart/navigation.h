@@ -5,8 +5,8 @@
 
 namespace daychart {
 
-/// Where the keyboard stands. The minute is the time that a free place would be chosen at, and
-/// that a caption, which has no time of its own, is chosen with.
+/// Where the keyboard stands. The minute is the time that a free place would be chosen at; a
+/// caption has no time and only remembers it.
 struct Cursor
 {
     Target target;

@@ -1,5 +1,5 @@
 // The catalogue of named commands: every statement that the program runs on its tables, but for
-// the four deletions of the sample journal.
+// those of the sample journal.
 #pragma once
 
 #include <array>

@@ -142,23 +142,3 @@ Currency Currency::operator*(qint64 factor) const
         raiseOverflow();
     return Currency(units);
 }
-
-Currency Currency::operator*(Currency other) const
-{
-    // a × b = (aw + ar/10⁴) × b with b in ten-thousandths: the whole part of a times b is exact,
-    // and ar × b is split once more so that no intermediate needs more than 64 bits.
-    const qint64 whole = m_units / unitsPerOne;
-    const qint64 rest = m_units % unitsPerOne;
-    const qint64 otherWhole = other.m_units / unitsPerOne;
-    const qint64 otherRest = other.m_units % unitsPerOne;
-
-    const qint64 small = rest * otherRest; // below 10⁸ in magnitude
-    qint64 carried = small / unitsPerOne;
-    const qint64 dropped = small % unitsPerOne;
-
-    const Currency sum = other * whole + Currency(rest) * otherWhole + Currency(carried);
-    const qint64 magnitude = dropped < 0 ? -dropped : dropped;
-    const bool up =
-        magnitude * 2 > unitsPerOne || (magnitude * 2 == unitsPerOne && (sum.m_units & 1) != 0);
-    return up ? sum + Currency(dropped < 0 ? -1 : 1) : sum;
-}

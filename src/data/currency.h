@@ -38,8 +38,6 @@ public:
     Currency operator-(Currency other) const;
     /// Exact multiplication by a whole number.
     Currency operator*(qint64 factor) const;
-    /// The product of two decimals, rounded half to even at the fourth place.
-    Currency operator*(Currency other) const;
 
     constexpr auto operator<=>(const Currency &) const = default; // NOLINT(modernize-use-nullptr)
 

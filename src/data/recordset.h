@@ -82,7 +82,6 @@ public:
     void cancelUpdate();
     /// Throws the StoreError with which update() would refuse a row that is gone or changed.
     void requireUnchanged();
-    bool isChangePending() const { return m_adding || !m_changes.empty(); }
     /// Deletes the current record from its table; end-of-file where it was the only one.
     void remove();
 

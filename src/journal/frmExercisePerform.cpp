@@ -58,6 +58,7 @@ QLayout *frmExercisePerform::makeForm()
     form->addLayout(quantityLayout(), 3, 1);
     form->addWidget(lblUnit, 3, 2, 1, 2);
     form->addWidget(figures, 4, 0, 1, 4);
+    addTellTales(form);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -86,6 +87,7 @@ void frmExercisePerform::loadActivities()
 
 void frmExercisePerform::Populate()
 {
+    JournalEntryEditor::Populate();
     dtpBeginTime->setTime(session().currentTime());
     dtpEndTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
@@ -120,7 +122,7 @@ void frmExercisePerform::recalculate()
     if (!performed || !dcbExercise->boundValue() || !activities().isOpen() || activities().isEof())
         return;
     try {
-        const double perUnit = activities().number("CaloriesConsume"_L1);
+        const Currency perUnit = Currency::fromDouble(activities().number("CaloriesConsume"_L1));
         lblCalories->setText(QString::number(performanceFigure(*performed, perUnit)));
     } catch (const OverflowError &) {
         // A figure too large to be any person's activity stays blank.
@@ -145,6 +147,11 @@ void frmExercisePerform::Gather()
 QTime frmExercisePerform::entryTime() const
 {
     return dtpBeginTime->time();
+}
+
+QString frmExercisePerform::entryName() const
+{
+    return dcbExercise->displayedText();
 }
 
 void frmExercisePerform::clearChoosers()

@@ -71,6 +71,7 @@ QLayout *frmMealConsume::makeForm()
     form->addLayout(quantityLayout(), 3, 1);
     form->addWidget(lblUnit, 3, 2, 1, 2);
     form->addWidget(makeFigures(), 4, 0, 1, 4);
+    addTellTales(form);
     form->setColumnStretch(2, 1);
     return form;
 }
@@ -111,6 +112,7 @@ void frmMealConsume::loadCategories()
 
 void frmMealConsume::Populate()
 {
+    JournalEntryEditor::Populate();
     dtpTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
         return;
@@ -201,6 +203,11 @@ void frmMealConsume::Gather()
 QTime frmMealConsume::entryTime() const
 {
     return dtpTime->time();
+}
+
+QString frmMealConsume::entryName() const
+{
+    return dcbMeal->displayedText();
 }
 
 void frmMealConsume::clearChoosers()

@@ -17,6 +17,7 @@ protected:
     void Populate() override;
     void Gather() override;
     QTime entryTime() const override;
+    QString entryName() const override;
     void recalculate() override;
     QString steppedQuantity(bool up) const override;
     void clearChoosers() override;

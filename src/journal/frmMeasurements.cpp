@@ -194,6 +194,12 @@ void frmMeasurements::makeConnections()
             [this](QWidget *, QWidget *now) { directAccessKeys(now); });
 }
 
+void frmMeasurements::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    m_measurements->list()->scrollToBottom(); // to the newest
+}
+
 void frmMeasurements::refresh()
 {
     m_measurements->refresh();

@@ -21,6 +21,9 @@ public:
     frmMeasurements(Session &session, Messages &messages, QWidget *parent = nullptr);
     ~frmMeasurements() override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     RecordList *makeMeasurementList();
     RecordList *makeNoteList();

@@ -2,10 +2,12 @@
 
 #include "session/session.h"
 #include "ui/datacombo.h"
+#include "ui/elidedlabel.h"
 #include "ui/icons.h"
 #include "ui/pickers.h"
 #include "ui/updownspinner.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,6 +32,7 @@ void JournalEntryEditor::setAddMode(bool on)
     btnOK->setIcon(icon(QStringLiteral("Plus"), palette()));
     btnCancel->setText(tr("&Close"));
     btnCancel->setIcon(icon(QStringLiteral("Exit"), palette()));
+    lblAdded->show();
 }
 
 DataCombo *JournalEntryEditor::makeChooser(const QString &name, const QString &accessibleName)
@@ -61,9 +64,8 @@ void JournalEntryEditor::makeQuantity()
     txtQty = makeBox(QStringLiteral("txtQty"), tr("Quantity"));
     updSpin = new UpDownSpinner(txtQty, tr("Quantity"), this);
     updSpin->setObjectName(QStringLiteral("updSpin"));
-    lblUnit = new QLabel(this);
+    lblUnit = new ElidedLabel(this);
     lblUnit->setObjectName(QStringLiteral("lblUnit"));
-    lblUnit->setTextFormat(Qt::PlainText);
     connect(txtQty, &QLineEdit::textChanged, this, [this] { recalculate(); });
     connect(updSpin, &UpDownSpinner::upPressed, this, [this] { stepQuantity(true); });
     connect(updSpin, &UpDownSpinner::downPressed, this, [this] { stepQuantity(false); });
@@ -76,6 +78,19 @@ QLayout *JournalEntryEditor::quantityLayout()
     layout->addWidget(txtQty);
     layout->addWidget(updSpin);
     return layout;
+}
+
+void JournalEntryEditor::addTellTales(QGridLayout *form)
+{
+    const auto add = [&](const QString &name, Qt::TextElideMode mode) {
+        auto *label = new ElidedLabel(this, mode);
+        label->setObjectName(name);
+        form->addWidget(label, form->rowCount(), 0, 1, form->columnCount());
+        return label;
+    };
+    lblDay = add(QStringLiteral("lblDay"), Qt::ElideRight);
+    lblAdded = add(QStringLiteral("lblAdded"), Qt::ElideMiddle); // a name, and then the figures
+    lblAdded->hide();                                            // but for add mode
 }
 
 QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,
@@ -131,6 +146,13 @@ void JournalEntryEditor::stepQuantity(bool up)
     }
 }
 
+void JournalEntryEditor::Populate()
+{
+    const bool isNew = appendsRecord() || source().isEof();
+    const QDate day = isNew ? session().currentDate() : source().date(m_journal.dateColumn);
+    lblDay->setText(tr("Day: %1").arg(session().text().mediumDate(day)));
+}
+
 void JournalEntryEditor::Gather()
 {
     if (recordId() == 0) {
@@ -148,9 +170,20 @@ void JournalEntryEditor::recordStored()
         RecordEditor::recordStored();
         return;
     }
+    tellAdded();
     clearChoosers();
     txtQty->clear();
     lblUnit->clear();
     focusFirstField();
     session().announceJournalChange();
+}
+
+// The form is cleared for the next row: this is what is left to see of the last one.
+void JournalEntryEditor::tellAdded()
+{
+    const LocaleText &text = session().text();
+    lblAdded->setText(tr("Added: %1, %2, %3")
+                          .arg(entryName(), text.toText(*quantity()), text.listTime(entryTime())));
+    QAccessibleEvent said(lblAdded, QAccessible::Alert);
+    QAccessible::updateAccessibility(&said);
 }

@@ -38,6 +38,8 @@ protected:
 
     /// Proposed for the next entry once this one is stored.
     virtual QTime entryTime() const = 0;
+    /// Name of what was eaten or done.
+    virtual QString entryName() const = 0;
     /// Shows the calories of what is in the fields, or blanks; called on every change of the
     /// quantity.
     virtual void recalculate() = 0;
@@ -47,6 +49,7 @@ protected:
     virtual void clearChoosers() = 0;
 
     /// Overridden by the windows, which call these first.
+    void Populate() override;
     void Gather() override;
     void recordStored() override;
     bool appendsRecord() const override { return m_addMode || RecordEditor::appendsRecord(); }
@@ -57,6 +60,9 @@ protected:
     /// Makes the box, its spinner and the unit beside it.
     void makeQuantity();
     QLayout *quantityLayout();
+    /// Below the fields: the day that the entry is written to and, in add mode, the row added
+    /// last.
+    void addTellTales(QGridLayout *form);
     /// A caption of calories and, below it, the figure, at the right end of a grid.
     QLabel *addFigure(QGridLayout *grid, const QString &caption, const QString &name);
 
@@ -73,7 +79,10 @@ protected:
 
 private:
     void stepQuantity(bool up);
+    void tellAdded();
 
+    QLabel *lblDay = nullptr;
+    QLabel *lblAdded = nullptr;
     Journal m_journal;
     bool m_addMode = false;
     qint32 m_storedId = 0;

@@ -38,6 +38,7 @@ ProgressChart::ProgressChart(const DaySeries &series, const ProgressTexts &texts
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     relayout();
+    geometry(); // throws here, if it does
 }
 
 QSize ProgressChart::sizeHint() const
@@ -47,7 +48,7 @@ QSize ProgressChart::sizeHint() const
 
 QSize ProgressChart::minimumSizeHint() const
 {
-    return QSize(26, 19) * fontMetrics().height();
+    return QSize(26, 22) * fontMetrics().height();
 }
 
 void ProgressChart::showNote(std::optional<size_t> note)
@@ -60,10 +61,19 @@ void ProgressChart::relayout()
 {
     m_fonts = daychart::ChartFonts(font(), logicalDpiY(), this);
     m_colors = ProgressColors::of(palette());
-    m_geometry = progressGeometry(m_series, rect(), daychart::metricsOf(m_fonts, this), m_texts);
+    m_geometry.reset();
     m_picture = {};
     setAccessibleDescription(m_texts.dayWords(m_series, m_day));
     update();
+}
+
+/// Computed when it is first asked for, however many changes came before.
+const ChartGeometry &ProgressChart::geometry()
+{
+    if (!m_geometry)
+        m_geometry =
+            progressGeometry(m_series, rect(), daychart::metricsOf(m_fonts, this), m_texts);
+    return *m_geometry;
 }
 
 void ProgressChart::changeEvent(QEvent *event)
@@ -92,7 +102,7 @@ const QPixmap &ProgressChart::picture()
         m_picture = QPixmap(size() * ratio);
         m_picture.setDevicePixelRatio(ratio);
         QPainter painter(&m_picture);
-        paintProgressChart(painter, m_geometry, m_colors, m_fonts);
+        paintProgressChart(painter, geometry(), m_colors, m_fonts);
     }
     return m_picture;
 }
@@ -104,20 +114,20 @@ void ProgressChart::paintEvent(QPaintEvent *)
     Emphasis emphasis = {m_note, m_pointed};
     if (!emphasis.day && hasFocus())
         emphasis.day = m_day;
-    paintEmphasis(painter, m_geometry, m_colors, m_fonts, emphasis);
+    paintEmphasis(painter, geometry(), m_colors, m_fonts, emphasis);
     if (!hasFocus())
         return;
-    const double line = 0.12 * m_geometry.unit;
+    const double line = 0.12 * geometry().unit;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_colors.base.highlight, line));
-    painter.drawRect(m_geometry.area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+    painter.drawRect(geometry().area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
 }
 
-std::optional<qint16> ProgressChart::dayAt(QPointF place) const
+std::optional<qint16> ProgressChart::dayAt(QPointF place)
 {
     const bool isInside =
-        place.x() >= m_geometry.plot.left() && place.x() <= m_geometry.plot.right();
-    return isInside ? std::optional(m_geometry.days.dayAt(place.x())) : std::nullopt;
+        place.x() >= geometry().plot.left() && place.x() <= geometry().plot.right();
+    return isInside ? std::optional(geometry().days.dayAt(place.x())) : std::nullopt;
 }
 
 void ProgressChart::point(std::optional<qint16> day)
@@ -140,7 +150,7 @@ void ProgressChart::moveTo(int day)
 void ProgressChart::mouseMoveEvent(QMouseEvent *event)
 {
     point(dayAt(event->position()));
-    if (m_geometry.noteAt(event->position()))
+    if (geometry().noteAt(event->position()))
         setCursor(Qt::PointingHandCursor);
     else
         unsetCursor();
@@ -157,7 +167,7 @@ void ProgressChart::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    if (const auto note = m_geometry.noteAt(event->position()))
+    if (const auto note = geometry().noteAt(event->position()))
         Q_EMIT noteChosen(*note);
     if (const auto day = dayAt(event->position()))
         moveTo(*day);

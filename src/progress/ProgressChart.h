@@ -47,14 +47,15 @@ protected:
 
 private:
     void relayout();
+    const progress::ChartGeometry &geometry();
     const QPixmap &picture();
     void moveTo(int day);
     void point(std::optional<qint16> day);
-    std::optional<qint16> dayAt(QPointF place) const;
+    std::optional<qint16> dayAt(QPointF place);
 
     const progress::DaySeries &m_series;
     const progress::ProgressTexts &m_texts;
-    progress::ChartGeometry m_geometry;
+    std::optional<progress::ChartGeometry> m_geometry; ///< in this size
     daychart::ChartFonts m_fonts;
     progress::ProgressColors m_colors;
     QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little

@@ -1,26 +1,23 @@
 #include "progress/frmGeneralProgress.h"
 
 #include "progress/ProgressChart.h"
-#include "progress/progresspages.h"
+#include "progress/daystable.h"
+#include "progress/savepicture.h"
 #include "session/session.h"
 #include "ui/helpbutton.h"
-#include "ui/listmodel.h"
 #include "ui/messages.h"
 #include "ui/paper.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
-#include <QStandardPaths>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeView>
@@ -32,8 +29,9 @@ using namespace progress;
 namespace {
 
 constexpr double paperPoints = 9;
-constexpr int sideWidth = 16; // in lines of text
-constexpr int dayLines = 9;   // of text, so that the list below stands still
+constexpr int sideWidth = 16;          // in lines of text
+constexpr int dayLines = 9;            // of text, so that the list below stands still
+constexpr qsizetype mostOfNote = 2000; // characters
 
 QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent)
 {
@@ -56,7 +54,7 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     , m_chart(new ProgressChart(m_series, m_texts, this))
     , lblDay(new QLabel(this))
     , lvwNotes(new QTableWidget(this))
-    , lvwDays(new QTreeView(this))
+    , m_days(new DaysTable(m_series, m_table, this))
     , btnPrint(makeButton(QStringLiteral("btnPrint"), tr("&Print"), this))
     , btnSave(makeButton(QStringLiteral("btnSave"), tr("&Save Picture"), this))
     , btnCopy(makeButton(QStringLiteral("btnCopy"), tr("C&opy Table"), this))
@@ -68,7 +66,7 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     tabPages->setObjectName(QStringLiteral("tabPages"));
     tabPages->addTab(makeChartPage(), tr("&Chart"));
-    tabPages->addTab(makeTablePage(), tr("&Table"));
+    tabPages->addTab(m_days, tr("&Table"));
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tabPages, 1);
@@ -133,7 +131,7 @@ void frmGeneralProgress::fillNotes()
         letter->setFont(bold);
         letter->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
         auto *text = new QTableWidgetItem(QStringLiteral("%1\n%2").arg(
-            m_texts.days(note.DateFrom, note.DateTo), note.NoteText.trimmed()));
+            m_texts.days(note.DateFrom, note.DateTo), m_texts.noteText(note, mostOfNote)));
         lvwNotes->setItem(row, 0, letter);
         lvwNotes->setItem(row, 1, text);
     }
@@ -149,32 +147,6 @@ void frmGeneralProgress::fillNotes()
     lvwNotes->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     lvwNotes->verticalHeader()->hide();
     lvwNotes->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-}
-
-QWidget *frmGeneralProgress::makeTablePage()
-{
-    std::vector<ListColumn> columns;
-    for (const QString &header : m_table.header)
-        columns.push_back({header, {}, false});
-    constexpr int firstNumber = 1;
-    constexpr int balance = 6;
-    for (size_t i = firstNumber; i < firstNumber + allSeries.size(); ++i)
-        columns[i].isNumber = true;
-    columns[balance].isNumber = true;
-
-    std::vector<ListRow> rows;
-    for (const QStringList &cells : m_table.rows)
-        rows.push_back({0, cells, cells.constLast()});
-    auto *model = new ListModel(columns, lvwDays);
-    model->setRows(std::move(rows));
-    lvwDays->setObjectName(QStringLiteral("lvwDays"));
-    lvwDays->setAccessibleName(tr("Days"));
-    lvwDays->setModel(model);
-    lvwDays->setRootIsDecorated(false);
-    lvwDays->setUniformRowHeights(true);
-    lvwDays->setAlternatingRowColors(true);
-    lvwDays->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    return lvwDays;
 }
 
 QBoxLayout *frmGeneralProgress::makeButtons()
@@ -199,7 +171,7 @@ void frmGeneralProgress::makeConnections()
     connect(btnPrint, &QPushButton::clicked, this, &frmGeneralProgress::print);
     connect(btnSave, &QPushButton::clicked, this, &frmGeneralProgress::save);
     connect(btnCopy, &QPushButton::clicked, this, &frmGeneralProgress::copyTable);
-    auto *copyKey = new QShortcut(QKeySequence::Copy, lvwDays);
+    auto *copyKey = new QShortcut(QKeySequence::Copy, m_days->list());
     copyKey->setContext(Qt::WidgetShortcut);
     connect(copyKey, &QShortcut::activated, this, &frmGeneralProgress::copyTable);
     connect(btnClose, &QPushButton::clicked, this, &QDialog::reject);
@@ -238,49 +210,8 @@ void frmGeneralProgress::print()
 
 void frmGeneralProgress::save()
 {
-    QFileDialog dialog(this, tr("Save Picture"));
-    dialog.setObjectName(QStringLiteral("dlgSavePicture"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({tr("PNG picture (*.png)"), tr("PDF document (*.pdf)")});
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-        const bool isPdf = filter == dialog.nameFilters().constLast();
-        dialog.setDefaultSuffix(isPdf ? QStringLiteral("pdf") : QStringLiteral("png"));
-    });
-    dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    dialog.selectFile(QStringLiteral("%1 %2").arg(
-        windowTitle(), m_series.period().dateFrom.toString(Qt::ISODate)));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const QString failure = savePicture(dialog.selectedFiles().constFirst());
-    if (!failure.isEmpty())
-        m_messages.error(this, failure);
-}
-
-/// What kept the picture from being saved; empty where nothing did.
-QString frmGeneralProgress::savePicture(const QString &path) const
-{
-    const bool isPdf = path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
-    if (!isPdf && !path.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return tr("The picture can be saved as PNG or PDF. Please choose a name that ends in .png "
-                  "or .pdf");
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-
-    PageContents contents = {m_series, m_texts, windowTitle(), font()};
-    QSaveFile file(path);
-    bool isWritten = file.open(QIODevice::WriteOnly);
-    if (isWritten && isPdf) {
-        contents.font.setPointSizeF(paperPoints);
-        isWritten = writePdf(file, contents);
-    } else if (isWritten) {
-        // Twice the screen's resolution, so that it stays sharp when it is enlarged.
-        const QSize size = 2 * m_chart->size().expandedTo(m_chart->sizeHint());
-        isWritten = pictureOf(contents, size, 2 * logicalDpiY()).save(&file, "PNG");
-    }
-    if (isWritten && file.commit())
-        return {};
-    return tr("Can't save the picture: %1").arg(file.errorString());
+    savePicture(this, m_messages, {m_series, m_texts, windowTitle(), font()},
+                m_chart->size().expandedTo(m_chart->sizeHint()));
 }
 
 void frmGeneralProgress::copyTable()

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class DaysTable;
 class Messages;
 class ProgressChart;
 class QBoxLayout;
@@ -12,7 +13,6 @@ class QLabel;
 class QPushButton;
 class QTabWidget;
 class QTableWidget;
-class QTreeView;
 class Session;
 
 class frmGeneralProgress : public QDialog
@@ -28,7 +28,6 @@ public:
 private:
     QWidget *makeChartPage();
     QWidget *makeSide();
-    QWidget *makeTablePage();
     QBoxLayout *makeButtons();
     void makeConnections();
     void fillNotes();
@@ -37,7 +36,6 @@ private:
     void tellDay(qint16 day);
     void print();
     void save();
-    QString savePicture(const QString &path) const;
     void copyTable();
 
     Messages &m_messages;
@@ -49,7 +47,7 @@ private:
     ProgressChart *m_chart;
     QLabel *lblDay;
     QTableWidget *lvwNotes;
-    QTreeView *lvwDays;
+    DaysTable *m_days;
     QPushButton *btnPrint;
     QPushButton *btnSave;
     QPushButton *btnCopy;

@@ -23,7 +23,7 @@ frmGeneralProgressSettings::frmGeneralProgressSettings(Session &session, Message
 {
     dtpDate->setAccessibleName(tr("Date From"));
     dtpDate->setDate(session.currentDate().addMonths(-1));
-    opt3Month->setChecked(true);
+    opt1Month->setChecked(true); // from a month ago, more would be half empty
     setForm(makeForm());
     checkTyped(dtpDate, tr("The Date From field contains illegal data"));
     focusFirstField();

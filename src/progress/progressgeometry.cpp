@@ -1,7 +1,4 @@
-#include "progress/progressgeometry.h"
-
-#include "progress/progresslines.h"
-#include "progress/timemarks.h"
+#include "progress/progresslayout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,96 +7,15 @@ namespace progress {
 
 namespace {
 
-constexpr double margin = 0.6;
 constexpr double headerHeight = 1.35;
 constexpr double laneGap = 0.45;
 constexpr double footHeight = 2.5;
-constexpr double ticksApart = 1.25;
 constexpr int scaleSteps = 6;
 constexpr double noteRowHeight = 1.2;
 constexpr double leastBodyStep = 0.1;
 constexpr double leastBalanceStep = 1;
 
-/// Builds the geometry step by step: the heights first, which fix the scales and with them the
-/// widths of what stands beside the plot, then everything between.
-class Layout
-{
-public:
-    Layout(const DaySeries &series, const QRectF &area, const TextMetrics &metrics,
-           const ProgressTexts &texts)
-        : m_series(series)
-        , m_metrics(metrics)
-        , m_texts(texts)
-        , m_summary(summaryOf(series))
-    {
-        g.area = area;
-        g.unit = metrics.lineHeight;
-        g.isEmpty = series.isEmpty();
-    }
-
-    ChartGeometry build()
-    {
-        placeFigures();
-        layRows();
-        layColumns();
-        placeDates();
-        if (g.isEmpty) {
-            sayAcross(g.plot, ProgressTexts::tr("There are no measurements, meals, activities or "
-                                                "notes in this period."));
-            return std::move(g);
-        }
-        placeNotes();
-        placeLines();
-        placeBalance();
-        placeTicks();
-        placeTitles();
-        return std::move(g);
-    }
-
-private:
-    double em(double count) const { return count * g.unit; }
-    double width(const QString &text, TextRole role = TextRole::Plain) const
-    {
-        return m_metrics.width(text, role);
-    }
-    void text(const QRectF &rect, const QString &words, Qt::Alignment alignment,
-              TextRole role = TextRole::Plain, Tone tone = Tone::Ink)
-    {
-        g.texts.push_back({rect, words, alignment, role, tone});
-    }
-    void sayAcross(const QRectF &rect, const QString &words)
-    {
-        text(rect, words, Qt::AlignCenter, TextRole::Plain, Tone::Muted);
-    }
-
-    void placeFigures();
-    double figuresWidth(const std::vector<Figure> &figures, TextRole role) const;
-    void layRows();
-    void layColumns();
-    void placeDates();
-    void placeDayNumber(qint16 day, double labelWidth);
-    void placeMonth(const MonthPart &part);
-    void placeNotes();
-    void placeLines();
-    void placeLineLabels();
-    void placeBalance();
-    void placeTicks();
-    void placeTitles();
-    double placeTitle(const Lane &lane, const QString &title);
-    double placeSample(const Lane &lane, double x, LegendKind kind, const QString &name,
-                       Series series = Series::Weight);
-    QString lineLabel(Series series) const;
-
-    ChartGeometry g;
-    const DaySeries &m_series;
-    const TextMetrics &m_metrics;
-    const ProgressTexts &m_texts;
-    Summary m_summary;
-    double m_top = 0; ///< below the line of figures
-    QRectF m_strip;   ///< of the notes
-    int m_noteRows = 1;
-    double m_footTop = 0;
-};
+} // namespace
 
 double Layout::figuresWidth(const std::vector<Figure> &figures, TextRole role) const
 {
@@ -194,7 +110,8 @@ void Layout::layColumns()
     for (const Series series : allSeries)
         rightLabels = std::max(rightLabels, width(lineLabel(series)));
     if (m_summary.averageBalance)
-        rightLabels = std::max(rightLabels, width(m_texts.change(*m_summary.averageBalance)));
+        rightLabels =
+            std::max(rightLabels, width(m_texts.change(std::round(*m_summary.averageBalance))));
 
     const double left = std::round(g.area.left() + em(margin) + leftLabels + em(0.4));
     const double right = std::round(g.area.right() - em(margin) - rightLabels - em(0.5));
@@ -256,158 +173,6 @@ void Layout::placeDayNumber(qint16 day, double labelWidth)
          m_texts.locale().toString(m_series.date(day).day()), Qt::AlignCenter, TextRole::Plain,
          Tone::Muted);
 }
-
-void Layout::placeNotes()
-{
-    if (m_series.notes.empty())
-        return;
-    const NoteStrip strip = {m_strip, m_noteRows, em(0.25), [this](const QString &letter) {
-                                 return width(letter, TextRole::Caption);
-                             }};
-    g.notes = noteSpans(m_series, strip, g.plot, g.days);
-    text(QRectF(g.area.left(), m_strip.top(), m_strip.left() - em(0.4) - g.area.left(),
-                m_strip.height()),
-         ProgressTexts::tr("Notes"), Qt::AlignRight | Qt::AlignVCenter);
-}
-
-void Layout::placeLines()
-{
-    if (!m_series.hasBody()) {
-        const QString words = ProgressTexts::tr("No measurements in this period");
-        sayAcross(g.weight.area, words);
-        sayAcross(g.girths.area, words);
-        return;
-    }
-    for (const Series series : allSeries)
-        g.lines.push_back(seriesLine(m_series, series, g.laneOf(series), g.days));
-    placeLineLabels();
-}
-
-/// What a line is stands at its end; labels that would touch are moved apart.
-void Layout::placeLineLabels()
-{
-    std::vector<SeriesLine *> girths;
-    for (SeriesLine &line : g.lines) {
-        if (line.marks.empty())
-            continue;
-        const QString words = lineLabel(line.series);
-        const QPointF end = line.marks.back().at;
-        line.label = {QRectF(end.x() + em(0.5), end.y() - g.unit / 2, width(words), g.unit), words,
-                      Qt::AlignLeft | Qt::AlignVCenter, TextRole::Plain, Tone::Ink};
-        if (line.series != Series::Weight)
-            girths.push_back(&line);
-    }
-    std::sort(girths.begin(), girths.end(), [](const SeriesLine *a, const SeriesLine *b) {
-        return a->label.rect.top() < b->label.rect.top();
-    });
-    double lowest = g.girths.area.bottom() + g.unit / 2;
-    for (auto line = girths.rbegin(); line != girths.rend(); ++line) {
-        QRectF &rect = (*line)->label.rect;
-        rect.moveBottom(std::min(rect.bottom(), lowest));
-        lowest = rect.top();
-    }
-    double highest = g.girths.area.top() - g.unit / 2;
-    for (SeriesLine *line : girths) {
-        QRectF &rect = line->label.rect;
-        rect.moveTop(std::max(rect.top(), highest));
-        highest = rect.bottom();
-    }
-}
-
-void Layout::placeBalance()
-{
-    if (!m_series.hasCalories()) {
-        sayAcross(g.balance.area.adjusted(0, 0, 0, -g.balance.area.height() / 2),
-                  ProgressTexts::tr("No meals or activities in this period"));
-    }
-    g.columns = balanceColumns(m_series, g.balance, g.days, em(2.2));
-    g.notRecorded = notRecordedStrips(m_series, g.balance, g.days, em(0.36));
-    if (!m_summary.averageBalance)
-        return;
-    g.hasAverage = true;
-    g.averageY = g.balance.scale.y(*m_summary.averageBalance);
-    text(QRectF(g.days.right() + em(0.5), g.averageY - g.unit / 2,
-                g.area.right() - g.days.right() - em(0.5), g.unit),
-         m_texts.change(std::round(*m_summary.averageBalance)), Qt::AlignLeft | Qt::AlignVCenter);
-}
-
-void Layout::placeTicks()
-{
-    for (Lane *lane : {&g.weight, &g.girths, &g.balance}) {
-        const bool isKnown = lane == &g.balance || m_series.hasBody();
-        if (!isKnown)
-            continue;
-        for (const double value : lane->scale.ticks(em(ticksApart))) {
-            const double y = lane->scale.y(value);
-            lane->grid.push_back(y);
-            text(QRectF(g.area.left(), y - g.unit / 2, g.days.left - em(0.4) - g.area.left(),
-                        g.unit),
-                 m_texts.tick(value, lane->scale.step), Qt::AlignRight | Qt::AlignVCenter,
-                 TextRole::Plain, Tone::Muted);
-        }
-    }
-}
-
-double Layout::placeTitle(const Lane &lane, const QString &title)
-{
-    const double titleWidth = width(title, TextRole::Caption);
-    text(QRectF(lane.area.left(), lane.area.top() - em(1.15), titleWidth, g.unit), title,
-         Qt::AlignLeft | Qt::AlignVCenter, TextRole::Caption);
-    return lane.area.left() + titleWidth + em(1.2);
-}
-
-/// A sample with its name; left out, together with those after it, where there is no room.
-double Layout::placeSample(const Lane &lane, double x, LegendKind kind, const QString &name,
-                           Series series)
-{
-    const bool isLine = kind == LegendKind::Line || kind == LegendKind::FilledIn ||
-                        kind == LegendKind::BeyondScale || kind == LegendKind::Average;
-    const double sampleWidth = isLine ? em(1.7) : em(0.8);
-    const double nameWidth = width(name);
-    const double end = x + sampleWidth + em(0.35) + nameWidth;
-    if (end > g.area.right() - em(margin))
-        return g.area.right();
-    const double top = lane.area.top() - em(1.15);
-    g.legend.push_back({kind, series, QRectF(x, top + em(0.1), sampleWidth, em(0.8))});
-    text(QRectF(end - nameWidth, top, nameWidth, g.unit), name, Qt::AlignLeft | Qt::AlignVCenter);
-    return end + em(1.1);
-}
-
-void Layout::placeTitles()
-{
-    double x = placeTitle(g.weight, m_texts.nameWithUnit(Series::Weight));
-    const auto has = [this](auto... kinds) {
-        return std::any_of(g.lines.begin(), g.lines.end(), [&](const SeriesLine &line) {
-            return std::any_of(line.marks.begin(), line.marks.end(),
-                               [&](const Mark &mark) { return ((mark.kind == kinds) || ...); });
-        });
-    };
-    const bool within = has(Mark::Kind::FilledIn);
-    const bool beyond = has(Mark::Kind::AboveScale, Mark::Kind::BelowScale);
-    if (has(Mark::Kind::Measured))
-        x = placeSample(g.weight, x, LegendKind::Measured, ProgressTexts::tr("measured"));
-    if (within)
-        x = placeSample(g.weight, x, LegendKind::FilledIn, ProgressTexts::tr("filled in"));
-    if (beyond)
-        placeSample(g.weight, x, LegendKind::BeyondScale,
-                    ProgressTexts::tr("filled in, off the scale"));
-
-    x = placeTitle(g.girths, m_texts.girthsTitle());
-    for (const Series series : {Series::Breast, Series::Waist, Series::Hips}) {
-        if (m_series.hasBody())
-            x = placeSample(g.girths, x, LegendKind::Line, m_texts.name(series), series);
-    }
-
-    x = placeTitle(g.balance, m_texts.balanceTitle());
-    x = placeSample(g.balance, x, LegendKind::Surplus, ProgressTexts::tr("surplus"));
-    x = placeSample(g.balance, x, LegendKind::Deficit, ProgressTexts::tr("deficit"));
-    if (g.hasAverage)
-        x = placeSample(g.balance, x, LegendKind::Average, ProgressTexts::tr("average"));
-    if (!g.notRecorded.empty())
-        placeSample(g.balance, x, LegendKind::NotRecorded, ProgressTexts::tr("not recorded"));
-}
-
-} // namespace
 
 qint16 DayScale::dayAt(double x) const
 {

@@ -1,14 +1,11 @@
 #include "progress/progresspages.h"
 
+#include "progress/noteflow.h"
 #include "ui/paper.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTextCursor>
-#include <QTextDocument>
 
 #include <cmath>
 
@@ -21,61 +18,23 @@ constexpr double columnWidth = 15;
 constexpr double columnGap = 1.2;
 constexpr double headingHeight = 1.6;
 
-/// The notes' texts, flowing through columns of one width and height.
-class NoteColumns
-{
-public:
-    NoteColumns(const PageContents &contents, QPaintDevice *device, QSizeF column)
-        : m_size(column)
-    {
-        m_document.setDefaultFont(contents.font);
-        m_document.setDocumentMargin(0);
-        m_document.documentLayout()->setPaintDevice(device);
-        QTextCursor cursor(&m_document);
-        QTextCharFormat plain;
-        QTextCharFormat bold;
-        bold.setFontWeight(QFont::Bold);
-        QTextBlockFormat spaced;
-        // The document scales this to the device's resolution itself.
-        spaced.setBottomMargin(0.6 * QFontInfo(contents.font).pointSizeF());
-        cursor.setBlockFormat(spaced);
-        for (size_t i = 0; i < contents.series.notes.size(); ++i) {
-            const Note &note = contents.series.notes[i];
-            if (i > 0)
-                cursor.insertBlock(spaced, plain);
-            cursor.insertText(QStringLiteral("%1  %2").arg(
-                                  noteLetter(i), contents.texts.days(note.DateFrom, note.DateTo)),
-                              bold);
-            cursor.insertText(QChar(QChar::LineSeparator) + note.NoteText.trimmed(), plain);
-        }
-        m_document.setPageSize(column);
-    }
-
-    int count() const { return m_document.isEmpty() ? 0 : m_document.pageCount(); }
-
-    void paint(QPainter &painter, int column, QPointF at)
-    {
-        QAbstractTextDocumentLayout::PaintContext context;
-        context.palette = paperPalette();
-        context.clip = QRectF(QPointF(0, column * m_size.height()), m_size);
-        painter.save();
-        painter.translate(at - context.clip.topLeft());
-        painter.setClipRect(context.clip);
-        m_document.documentLayout()->draw(&painter, context);
-        painter.restore();
-    }
-
-private:
-    QTextDocument m_document;
-    QSizeF m_size;
-};
+// Characters: of a note on paper about a page, in a picture as many of all notes together.
+constexpr qsizetype mostOnPaper = 10000;
+constexpr qsizetype mostInPicture = 40000;
 
 double lineHeight(const QFont &font, QPaintDevice *device)
 {
     return QFontMetricsF(font, device).height();
 }
 
-void paintHeading(QPainter &painter, const PageContents &contents, const QRectF &page)
+struct PageNumber
+{
+    size_t page = 1;
+    size_t pages = 1;
+};
+
+void paintHeading(QPainter &painter, const PageContents &contents, const QRectF &page,
+                  PageNumber number)
 {
     const QRectF line(page.topLeft(),
                       QSizeF(page.width(), lineHeight(contents.font, painter.device())));
@@ -88,6 +47,9 @@ void paintHeading(QPainter &painter, const PageContents &contents, const QRectF 
     const Period &period = contents.series.period();
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter,
                      contents.texts.days(period.dateFrom, period.dateTo));
+    if (number.pages > 1)
+        painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter,
+                         ProgressTexts::tr("Page %1 of %2").arg(number.page).arg(number.pages));
 }
 
 void paintChart(QPainter &painter, const PageContents &contents, const QRectF &area)
@@ -109,30 +71,31 @@ void paintPages(QPainter &painter, QPagedPaintDevice &paper, const PageContents 
     const QRectF body = page.adjusted(0, headingHeight * line, 0, 0);
     const double column = columnWidth * line;
     const double across = column + columnGap * line;
-    NoteColumns notes(contents, &paper, QSizeF(column, body.height()));
+    const NoteFlow notes(contents.series, contents.texts, contents.font, &paper, column,
+                         mostOnPaper);
+    const std::vector<NoteFlow::Column> columns = notes.columns(body.height());
+    const size_t perPage = std::max<size_t>(1, size_t((body.width() + columnGap * line) / across));
+    const size_t beside = std::min<size_t>(1, columns.size()); // of the chart
+    const size_t pages = 1 + (columns.size() - beside + perPage - 1) / perPage;
 
-    paintHeading(painter, contents, page);
-    if (notes.count() == 0) {
-        paintChart(painter, contents, body);
-        return;
-    }
-    paintChart(painter, contents, body.adjusted(0, 0, -across, 0));
-    notes.paint(painter, 0, QPointF(body.right() - column, body.top()));
-
-    const int columnsPerPage = std::max(1, int((body.width() + columnGap * line) / across));
-    for (int i = 1; i < notes.count(); ++i) {
-        const int place = (i - 1) % columnsPerPage;
+    paintHeading(painter, contents, page, {1, pages});
+    paintChart(painter, contents, body.adjusted(0, 0, -across * double(beside), 0));
+    if (beside > 0)
+        notes.paint(painter, columns.front(), QPointF(body.right() - column, body.top()));
+    for (size_t i = beside; i < columns.size(); ++i) {
+        const size_t place = (i - beside) % perPage;
         if (place == 0) {
             paper.newPage();
-            paintHeading(painter, contents, page);
+            paintHeading(painter, contents, page, {2 + (i - beside) / perPage, pages});
         }
-        notes.paint(painter, i, QPointF(body.left() + place * across, body.top()));
+        notes.paint(painter, columns[i], QPointF(body.left() + double(place) * across, body.top()));
     }
 }
 
 QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution)
 {
     constexpr double metersPerInch = 0.0254;
+    constexpr double leastHeight = 8; // of a column of notes, in lines
     const int dotsPerMeter = int(std::lround(resolution / metersPerInch));
     const auto blank = [dotsPerMeter](QSize size) {
         QImage image(size, QImage::Format_RGB32);
@@ -144,19 +107,28 @@ QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution)
     QImage sample = blank({1, 1});
     const double line = lineHeight(contents.font, &sample);
     const double edge = 0.6 * line;
-    const double column = columnWidth * line;
-    const double across = column + columnGap * line;
-    NoteColumns notes(contents, &sample, QSizeF(column, chartSize.height()));
-
+    const double gap = columnGap * line;
     const QRectF chart(QPointF(edge, edge + headingHeight * line), chartSize);
-    const QRectF page(edge, edge, chart.width() + notes.count() * across, chart.bottom() - edge);
+
+    const double count =
+        std::max(1.0, std::floor((chart.width() + gap) / (columnWidth * line + gap)));
+    const double column = (chart.width() + gap) / count - gap;
+    const auto noteCount = qsizetype(contents.series.notes.size());
+    const NoteFlow notes(contents.series, contents.texts, contents.font, &sample, column,
+                         mostInPicture / std::max<qsizetype>(20, noteCount));
+    const auto columns = notes.columnsBeside(size_t(count), leastHeight * line);
+    double notesHeight = 0;
+    for (const NoteFlow::Column &dealt : columns)
+        notesHeight = std::max(notesHeight, dealt.height + gap);
+
+    const QRectF page(edge, edge, chart.width(), chart.bottom() + notesHeight - edge);
     QImage image = blank(QSizeF(page.right() + edge, page.bottom() + edge).toSize());
     QPainter painter(&image);
-    paintHeading(painter, contents, page);
+    paintHeading(painter, contents, page, {});
     paintChart(painter, contents, chart);
-    for (int i = 0; i < notes.count(); ++i)
-        notes.paint(painter, i,
-                    QPointF(chart.right() + columnGap * line + i * across, chart.top()));
+    for (size_t i = 0; i < columns.size(); ++i)
+        notes.paint(painter, columns[i],
+                    QPointF(chart.left() + double(i) * (column + gap), chart.bottom() + gap));
     return image;
 }
 

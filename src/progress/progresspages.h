@@ -20,10 +20,11 @@ struct PageContents
 };
 
 /// The chart with the notes beside it on the first page, notes that find no room there on more.
+/// Of a note that would fill more than a page, the beginning.
 void paintPages(QPainter &painter, QPagedPaintDevice &paper, const PageContents &contents);
 
-/// A picture with the chart in that size, widened by as many columns as the notes need. The
-/// resolution is in dots per inch.
+/// A picture with the chart in that size and the beginnings of the notes below it. The resolution
+/// is in dots per inch.
 QImage pictureOf(const PageContents &contents, QSize chartSize, int resolution);
 
 /// The same as a PDF, A4 or Letter after the locale. False where the device can't be written.

@@ -110,8 +110,9 @@ void ProgressPainter::paintFrame()
     horizontal(g.plot.bottom());
     for (const double x : g.weekLines)
         p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(0.25)));
+    // Not through the days' numbers.
     for (const double x : g.monthLines)
-        p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(2.2)));
+        p.drawLine(QPointF(x, g.plot.bottom() + em(1.25)), QPointF(x, g.plot.bottom() + em(2.2)));
 }
 
 void ProgressPainter::paintLane(const Lane &lane)

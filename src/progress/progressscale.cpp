@@ -10,6 +10,8 @@ namespace progress {
 
 std::vector<double> ValueScale::ticks(double apart) const
 {
+    if (height() <= 0)
+        return {}; // of a lane without values, or without room
     const double distance = height() * step / (high - low);
     const double every =
         distance >= apart ? step : step * std::ceil(daychart::roundStep(apart / distance));

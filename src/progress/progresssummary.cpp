@@ -30,7 +30,6 @@ Summary summaryOf(const DaySeries &series)
     double total = 0;
     for (qint16 day = 1; day <= series.nDays(); ++day) {
         const Day &record = series.at(day);
-        summary.measuredDays += record.source == BodySource::Measured;
         if (record.hasCalories) {
             ++summary.calorieDays;
             total += record.calories;

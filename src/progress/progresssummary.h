@@ -14,7 +14,6 @@ struct Summary
     /// kcal, over the days that have calorie data; empty where none has.
     std::optional<double> averageBalance;
     int calorieDays = 0;
-    int measuredDays = 0;
     int days = 0;
 
     std::optional<double> change(Series series) const { return changes[size_t(series)]; }

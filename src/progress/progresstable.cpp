@@ -4,19 +4,26 @@ namespace progress {
 
 namespace {
 
+constexpr qsizetype mostOfNote = 2000; // characters, once for each day that it spans
+
 QStringList rowOf(const DaySeries &series, qint16 day, const ProgressTexts &texts)
 {
     const Day &record = series.at(day);
     QStringList row = {texts.plain().shortDate(series.date(day))};
+    // Values filled in are computed in single precision and rounded as stored ones are.
     for (const Series which : allSeries)
-        row += record.isKnown(which) ? texts.plain().toText(record.value(which)) : QString();
+        row += !record.isKnown(which) ? QString()
+               : record.source == BodySource::Measured
+                   ? texts.plain().toText(record.value(which))
+                   : texts.plain().toText(double(record.value(which)));
     row += record.source == BodySource::Measured   ? ProgressTexts::tr("measured")
            : record.source == BodySource::FilledIn ? ProgressTexts::tr("filled in")
                                                    : QString();
     row += record.hasCalories ? texts.plain().toText(int(record.calories)) : QString();
     QStringList notes;
     for (const size_t note : notesOn(series, series.date(day)))
-        notes += ProgressTexts::tr("%1: %2").arg(noteLetter(note), series.notes[note].NoteText);
+        notes += ProgressTexts::tr("%1: %2").arg(noteLetter(note),
+                                                 texts.noteText(series.notes[note], mostOfNote));
     row += notes.join(QStringLiteral("; "));
     return row;
 }

@@ -1,6 +1,7 @@
 #include "progress/progresstexts.h"
 
 #include "data/valuehelpers.h"
+#include "session/excerpt.h"
 #include "settings/units.h"
 
 #include <cmath>
@@ -99,6 +100,15 @@ QString ProgressTexts::days(QDate first, QDate last) const
 QString ProgressTexts::longDate(QDate date) const
 {
     return locale().toString(date, QLocale::LongFormat);
+}
+
+QString ProgressTexts::noteText(const Note &note, qsizetype most) const
+{
+    const QString text = note.NoteText.trimmed();
+    if (text.size() <= most)
+        return text;
+    return tr("%1\n(the beginning of %2 characters)")
+        .arg(excerptOf(text, most), locale().toString(text.size()));
 }
 
 QString ProgressTexts::valueWords(const Day &day, Series series) const

@@ -52,6 +52,8 @@ public:
     /// "22 Apr 2026 – 22 Jul 2026"; a single day is said once.
     QString days(QDate first, QDate last) const;
     QString longDate(QDate date) const;
+    /// What a note says; of a longer one the first so many characters, and how many there are.
+    QString noteText(const Note &note, qsizetype most) const;
 
     /// Everything that is known of a day, a line for each figure, missing ones said to be missing.
     QString dayWords(const DaySeries &series, qint16 day) const;

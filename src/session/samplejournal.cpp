@@ -28,6 +28,19 @@ void moveSampleJournal(deData &data, QDate today)
              Refusal::KeepsEarlierSteps);
 }
 
+bool hasSampleJournal(deData &data)
+{
+    return guarded([&] {
+        const StatementUse statement =
+            data.Con.prepared("select exists (select 1 from MealConsume where MealConsumeID < 0)"
+                              " or exists (select 1 from ExercisePerform"
+                              " where ExercisePerformID < 0)"
+                              " or exists (select 1 from Body where BodyID < 0)"
+                              " or exists (select 1 from UserNote where UserNoteID < 0)");
+        return statement->executeStep() && statement->getColumn(0).getInt() != 0;
+    });
+}
+
 void deleteSampleJournal(deData &data)
 {
     const auto remove = [&data](const char *sql) -> Step {

@@ -10,6 +10,9 @@
 /// the days between are beyond 16 bits.
 void moveSampleJournal(deData &data, QDate today);
 
+/// Whether any of it is left: looks up one key per table. Throws StoreError.
+bool hasSampleJournal(deData &data);
+
 /// Deletes the sample journal, as one action; an error stops at the failing statement, and the
 /// statements before it stay applied. Throws StoreError.
 void deleteSampleJournal(deData &data);

@@ -5,12 +5,53 @@
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
+#include "ui/screenfit.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShowEvent>
 #include <QVBoxLayout>
+
+namespace {
+
+/// A form that is larger than the screen: the field that gets the focus comes into sight.
+class FormScroll : public QScrollArea
+{
+public:
+    FormScroll(QWidget *form, QWidget *parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(form);
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+            if (widget()->isAncestorOf(now))
+                bringIntoSight(*now);
+        });
+    }
+
+    QSize sizeHint() const override
+    {
+        return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(),
+                                            horizontalScrollBar()->sizeHint().height());
+    }
+
+private:
+    // All of it; ensureWidgetVisible() is content with a text box's cursor.
+    void bringIntoSight(const QWidget &field)
+    {
+        const QPoint middle = field.mapTo(widget(), field.rect().center());
+        ensureVisible(middle.x(), middle.y(), field.width() / 2 + 1, field.height() / 2 + 1);
+    }
+};
+
+} // namespace
 
 FormDialog::FormDialog(Session &session, Messages &messages, const QString &name,
                        const QString &caption, QWidget *parent)
@@ -101,6 +142,41 @@ void FormDialog::setForm(QLayout *form)
     layout->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Preferred));
     // Made after the fields, and so behind them on Tab.
     layout->addLayout(makeButtons());
+}
+
+QSize FormDialog::sizeHint() const
+{
+    // With the buttons of the title bar, which the window manager draws in a font of its own.
+    const QFontMetrics metrics = fontMetrics();
+    const int title = metrics.horizontalAdvance(windowTitle()) * 5 / 4 + 6 * metrics.height();
+    return QDialog::sizeHint().expandedTo({title, 0});
+}
+
+void FormDialog::showEvent(QShowEvent *event)
+{
+    const QSize room = roomFor(*this, screenOf(*this));
+    const QSize least = minimumSizeHint();
+    if (!event->spontaneous() && (least.width() > room.width() || least.height() > room.height())) {
+        letFormScroll();
+        resize(size().expandedTo(sizeHint()));
+        fitToScreen(*this);
+    }
+    QDialog::showEvent(event);
+}
+
+void FormDialog::letFormScroll()
+{
+    auto *rows = static_cast<QVBoxLayout *>(layout());
+    QLayout *form = rows->itemAt(0)->layout();
+    if (!form)
+        return; // it scrolls already
+    rows->takeAt(0);
+    form->setParent(nullptr);
+    form->setContentsMargins({});
+    auto *content = new QWidget;
+    content->setLayout(form);
+    rows->insertWidget(0, new FormScroll(content, this), 1);
+    rows->activate();
 }
 
 QLayout *FormDialog::makeButtons()

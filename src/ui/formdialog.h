@@ -55,6 +55,11 @@ protected:
     /// For the opening; left to itself, a dialog would give the focus to its default button.
     void focusFirstField();
 
+    /// As wide as its title needs, too.
+    QSize sizeHint() const override;
+    /// On a screen too small for the form the form scrolls, and the buttons stay in sight.
+    void showEvent(QShowEvent *event) override;
+
     Session &session() const { return m_session; }
     Messages &messages() const { return m_messages; }
 
@@ -64,6 +69,7 @@ protected:
 
 private:
     QLayout *makeButtons();
+    void letFormScroll();
 
     Session &m_session;
     Messages &m_messages;

@@ -1,5 +1,7 @@
 #include "ui/listmodel.h"
 
+#include "session/excerpt.h"
+
 #include <QFont>
 #include <QTextDocument>
 
@@ -13,6 +15,23 @@ int positionOf(const std::vector<ListRow> &rows, Predicate predicate)
 {
     const auto found = std::find_if(rows.begin(), rows.end(), predicate);
     return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+/// The same with places to break at in every word that is too long for a line: a tooltip is as
+/// wide as its longest word.
+QString withBreaks(QString text)
+{
+    constexpr int mostInLine = 80;
+    constexpr char16_t zeroWidthSpace = 0x200B;
+    int inWord = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        inWord = text[i].isSpace() ? 0 : inWord + 1;
+        if (inWord > mostInLine && !text[i].isLowSurrogate()) {
+            text.insert(i, QChar(zeroWidthSpace));
+            inWord = 0;
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -72,7 +91,7 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
     const ListColumn &column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return row.texts.value(index.column());
+        return excerptOf(row.texts.value(index.column()), mostInCell);
     case Qt::ToolTipRole:
         return toolTip(index);
     case Qt::TextAlignmentRole:
@@ -96,7 +115,8 @@ QVariant ListModel::toolTip(const QModelIndex &index) const
     if (row.toolTip.isEmpty() && text.size() <= longText)
         return {};
     // Rich text is what tooltips wrap; the text's own markup is not interpreted.
-    return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+    return Qt::convertFromPlainText(withBreaks(excerptOf(text, mostInToolTip)),
+                                    Qt::WhiteSpaceNormal);
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const

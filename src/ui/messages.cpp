@@ -30,17 +30,18 @@ int runBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const 
     return box.exec();
 }
 
-/// Whether a message box of this text, which may quote a long note, would leave no room on the
-/// screen for its button.
-bool isTooTall(const QString &text)
+/// Whether a message box of this text, which may quote a long note or a long word, would leave no
+/// room on the screen for its button.
+bool isTooLarge(const QString &text)
 {
     constexpr qsizetype moreThanAScreen = 10'000; // not to be measured, which takes long
     if (text.size() > moreThanAScreen)
         return true;
     const QFontMetrics metrics(QApplication::font());
     const QRect width(0, 0, 60 * metrics.averageCharWidth(), 0);
-    return metrics.boundingRect(width, Qt::TextWordWrap, text).height() >
-           QApplication::primaryScreen()->availableSize().height() / 2;
+    const QSize size = metrics.boundingRect(width, Qt::TextWordWrap, text).size();
+    const QSize screen = QApplication::primaryScreen()->availableSize();
+    return size.height() > screen.height() / 2 || size.width() > screen.width() * 3 / 4;
 }
 
 /// A message box, but for its text, which scrolls.
@@ -87,7 +88,7 @@ void MessageBoxes::show(QWidget *parent, Icon icon, const QString &title, const 
     const auto boxIcon = icon == Icon::Information ? QMessageBox::Information
                          : icon == Icon::Critical  ? QMessageBox::Critical
                                                    : QMessageBox::Warning;
-    if (isTooTall(text))
+    if (isTooLarge(text))
         runScrolledBox(parent, boxIcon, title, cause.isEmpty() ? text : text + u'\n' + cause);
     else
         runBox(parent, boxIcon, title, text, cause, QMessageBox::Ok, QMessageBox::Ok);

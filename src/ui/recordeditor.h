@@ -52,7 +52,6 @@ protected:
     virtual bool appendsRecord() const { return m_recordId == 0; }
 
     bool isLoading() const { return m_loading; }
-    void setLoading(bool loading) { m_loading = loading; }
 
     Recordset &source() const { return m_source; }
 

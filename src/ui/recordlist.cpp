@@ -4,32 +4,23 @@
 #include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
+#include "ui/reportstyle.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
 
-namespace {
+#include <algorithm>
 
-/// Room between the columns: a number at the right of its column would else touch the text at the
-/// left of the next.
-class ReportStyle : public QProxyStyle
-{
-public:
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override
-    {
-        if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
-            return widget->fontMetrics().averageCharWidth();
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
+namespace {
 
 /// A list as wide as its columns, unless told otherwise, and a screenful high.
 class ReportView : public QTreeView
@@ -45,13 +36,66 @@ public:
         return QSize(width, height) + QSize(2, 2) * frameWidth();
     }
 
+    /// Where the columns are wider than the list, its names and units give way, the widest first.
+    void keepNumbersInSight()
+    {
+        int excess = isVisible() ? header()->length() - viewport()->width() : 0;
+        std::vector<int> texts; // widths of their columns, 0 for the others
+        for (int column = 0; column < model()->columnCount(); ++column)
+            texts.push_back(isText(column) ? columnWidth(column) : 0);
+        const int step = fontMetrics().averageCharWidth();
+        for (; excess > 0; excess -= step) {
+            const auto widest = std::max_element(texts.begin(), texts.end());
+            if (*widest <= fewestCharacters * step)
+                break;
+            *widest -= step;
+            setColumnWidth(static_cast<int>(widest - texts.begin()), *widest);
+        }
+    }
+
 protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QTreeView::resizeEvent(event);
+        keepNumbersInSight();
+    }
+
+    void showEvent(QShowEvent *event) override
+    {
+        QTreeView::showEvent(event);
+        keepNumbersInSight();
+    }
+
+    /// Whatever is cut off tells itself.
+    bool viewportEvent(QEvent *event) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QTreeView::viewportEvent(event);
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QModelIndex index = indexAt(help->pos());
+        if (!index.isValid() || index.data(Qt::ToolTipRole).isValid() ||
+            sizeHintForIndex(index).width() <= columnWidth(index.column()))
+            return QTreeView::viewportEvent(event);
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()),
+                           viewport(), visualRect(index));
+        return true;
+    }
+
     void focusInEvent(QFocusEvent *event) override
     {
         QTreeView::focusInEvent(event);
         // The first row is current now though not selected, and Down would pass it by.
         if (!selectionModel()->hasSelection())
             selectionModel()->clearCurrentIndex();
+    }
+
+private:
+    static constexpr int fewestCharacters = 12; ///< of a text, in the narrowest window
+
+    bool isText(int column) const
+    {
+        return !static_cast<ListModel *>(model())->column(column).isNumber &&
+               header()->sectionResizeMode(column) == QHeaderView::Interactive;
     }
 };
 
@@ -71,10 +115,7 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messa
     , m_missing(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
-    auto *style = new ReportStyle;
-    style->setParent(this);
-    m_list->setStyle(style);
-    m_list->header()->setStyle(style);
+    setReportStyle(*m_list);
     m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
     m_list->setRootIsDecorated(false);
@@ -215,12 +256,15 @@ void RecordList::edit(qint32 id)
 void RecordList::deleteSelected()
 {
     const bool catalogue = m_family == ListFamily::Catalogue;
-    // In a catalogue with rows, but none selected, the question would be about nothing either.
-    if (selectedTag() == 0)
-        m_messages.error(window(), catalogue ? tr("Nothing to delete") : tr("No record selected"));
-    else if (m_messages.ask(window(), tr("Are you sure"),
-                            tr("Are you sure you want to delete the selected record?")))
-        removeSelected();
+    const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
+    if (nothing || m_messages.ask(window(), tr("Are you sure"),
+                                  tr("Are you sure you want to delete the selected record?"))) {
+        if (selectedTag() != 0)
+            removeSelected();
+        else // in a catalogue the question comes before the look at the selection
+            m_messages.error(window(),
+                             catalogue ? tr("Nothing to delete") : tr("No record selected"));
+    }
     m_list->setFocus();
 }
 
@@ -273,11 +317,16 @@ int RecordList::contentsWidth(int column) const
     return width;
 }
 
+// Columns only grow, so that they stand still while one day or category after the other is shown.
 void RecordList::sizeColumns()
 {
     const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
     for (int column = 0; column < m_model->columnCount(); ++column) {
-        if (!m_model->column(column).isLongText)
-            m_list->setColumnWidth(column, qMin(contentsWidth(column), widest));
+        if (m_model->column(column).isLongText)
+            continue;
+        const int before = m_isSized ? m_list->columnWidth(column) : 0;
+        m_list->setColumnWidth(column, qMax(before, qMin(contentsWidth(column), widest)));
     }
+    m_isSized = true;
+    static_cast<ReportView *>(m_list)->keepNumbersInSight();
 }

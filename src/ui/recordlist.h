@@ -97,4 +97,5 @@ private:
     QPushButton *m_delete;
     QLabel *m_missing; ///< in sight only where there is something to tell
     QHBoxLayout *m_buttons;
+    bool m_isSized = false;
 };

@@ -129,6 +129,10 @@ void tst_RecordADay::answersTheChart()
             });
         QCOMPARE(program->session()->currentTime(), time);
     }
+    inDialog(
+        "frmMealConsumes", [&] { Q_EMIT graph().mealItemChosen(0, false, QTime()); },
+        [](QWidget &) {});
+    QCOMPARE(program->session()->currentTime(), time); // a caption has none to offer
 }
 
 void tst_RecordADay::editsFromTheChart()

@@ -33,19 +33,27 @@ inline daychart::DayData oddDay()
              {26, QTime(23, 58), QTime(23, 59), 0}}};
 }
 
-/// Forty items within the given minutes from six o'clock on.
-inline daychart::DayData crowdedDay(int minutes)
+/// Any day: up to forty items over a day, an hour or at once, some without calories, some negative,
+/// now and then one that is far larger than all others.
+inline daychart::DayData anyDay(quint32 seed)
 {
     using daychart::timeOf;
-    daychart::DayData day = {1.25, {}, {}};
-    QRandomGenerator random(5);
-    for (int i = 0; i < 25; ++i)
-        day.meals.push_back({i + 1, timeOf(360 + i * minutes / 25), random.bounded(300),
-                             random.bounded(200), random.bounded(100)});
-    for (int i = 0; i < 15; ++i) {
-        const int begin = 360 + i * minutes / 15;
-        const int end = begin + 1 + random.bounded(90);
-        day.activities.push_back({i + 1, timeOf(begin), timeOf(end), random.bounded(500)});
+    QRandomGenerator random(seed);
+    const auto calories = [&random](int usual) {
+        const int kind = random.bounded(20);
+        const int value = random.bounded(usual);
+        return kind == 0 ? 0 : kind == 1 ? -value : kind == 2 ? 40 * value : value;
+    };
+    const int first = random.bounded(1440);
+    const int span = std::array{1440 - first, 60, 1}[seed % 3];
+    daychart::DayData day = {random.bounded(2.0), {}, {}};
+    for (int id = random.bounded(26); id > 0; --id)
+        day.add(daychart::MealItem{id, timeOf(first + random.bounded(span)), calories(300),
+                                   calories(200), calories(100)});
+    for (int id = random.bounded(16); id > 0; --id) {
+        const int begin = first + random.bounded(span);
+        day.add(daychart::ActivityItem{id, timeOf(begin), timeOf(begin + random.bounded(90)),
+                                       calories(500)});
     }
     return day;
 }

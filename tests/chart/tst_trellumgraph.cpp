@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QPushButton>
 #include <QToolTip>
 
 using namespace daychart;
@@ -24,18 +25,20 @@ class TestTrellumGraph : public QObject
     {
         m_graph->clear();
         m_graph->setBackgroundRate(day.backgroundRate);
-        for (const MealItem &m : day.meals)
+        day.forEachMeal([this](const MealItem &m) {
             m_graph->addMeal(m.id, m.time, m.carbohydrate, m.fat, m.protein);
-        for (const ActivityItem &a : day.activities)
+        });
+        day.forEachActivity([this](const ActivityItem &a) {
             m_graph->addActivity(a.id, a.begin, a.end, a.calories);
+        });
         m_graph->repaintChart();
     }
-    /// The geometry that the control must have for the typical day, computed anew.
-    ChartGeometry geometry() const
+    /// The geometry that the control must have for a day, computed anew.
+    ChartGeometry geometry(const DayData &day = samples::typicalDay()) const
     {
         const ChartFonts fonts(m_graph->font(), m_graph->logicalDpiY(), m_graph.get());
-        return chartGeometry(samples::typicalDay(), m_graph->rect(),
-                             metricsOf(fonts, m_graph.get()), ChartTexts(QLocale::c(), true));
+        return chartGeometry(day, m_graph->rect(), metricsOf(fonts, m_graph.get()),
+                             ChartTexts(QLocale::c(), true));
     }
     QPoint columnOf(size_t item) const { return geometry().columns[item].rect.center().toPoint(); }
     QPoint blockOf(size_t item) const { return geometry().blocks[item].bounds.center().toPoint(); }
@@ -84,14 +87,13 @@ private slots:
     {
         const ChartGeometry g = geometry();
         const std::vector<std::pair<QPoint, QString>> clicks = {
-            // A caption or total has no time of its own: noon, then the last one pointed at.
-            {g.meals.header.center().toPoint(), u"meal 0 0 12:00"_s},
+            {g.meals.header.center().toPoint(), u"meal 0 0"_s}, // a caption has no time
             {columnOf(2), u"meal 13 1 19:15"_s},
             {blockOf(1), u"activity 22 1 18:00"_s},
             {place(Lane::Activities, 14 * 60 + 30), u"new activity 14:30"_s},
             {place(Lane::Meals, 4 * 60), u"new meal 04:00"_s},
-            {g.activities.header.center().toPoint(), u"activity 0 0 04:00"_s},
-            {g.meals.figure.center().toPoint(), u"meal 0 0 04:00"_s},
+            {g.activities.header.center().toPoint(), u"activity 0 0"_s},
+            {g.meals.figure.center().toPoint(), u"meal 0 0"_s},
             {g.meals.area.topRight().toPoint() + QPoint(-1, 2), u"new meal 23:59"_s},
             {g.timeAxis.center().toPoint(), QString()},
         };
@@ -122,7 +124,7 @@ private slots:
         const QKeyCombination later = Qt::CTRL | Qt::Key_Right;
         const QKeyCombination minute = Qt::CTRL | Qt::SHIFT | Qt::Key_Right;
         const Qt::Key right = Qt::Key_Right, down = Qt::Key_Down;
-        QTest::newRow("caption first") << Keys{} << "meal 0 0 12:00";
+        QTest::newRow("caption first") << Keys{} << "meal 0 0";
         QTest::newRow("items by time") << Keys{right, right} << "meal 12 1 12:45";
         QTest::newRow("last one") << Keys{Qt::Key_End, right, Qt::Key_Left} << "meal 13 1 19:15";
         QTest::newRow("nearest item") << Keys{right, down} << "activity 21 1 08:00";
@@ -152,7 +154,7 @@ private slots:
         QTest::keyClick(m_graph.get(), Qt::Key_Space);
         fill(DayData());
         QTest::keyClick(m_graph.get(), Qt::Key_Enter);
-        QCOMPARE(raised(), (QStringList{"meal 11 1 07:30", "meal 0 0 07:30"}));
+        QCOMPARE(raised(), (QStringList{"meal 11 1 07:30", "meal 0 0"}));
     }
     void answerMayChangeTheChart()
     {
@@ -160,6 +162,60 @@ private slots:
         QTest::mouseClick(m_graph.get(), Qt::LeftButton, {}, columnOf(2));
         QCOMPARE(raised(), QStringList("meal 13 1 19:15"));
         QCOMPARE(chart()->childCount(), 4);
+    }
+    void doubleClickOpensOneDialogAndPressesNothingInIt()
+    {
+        QPushButton dialog;
+        int opened = 0;
+        int pressed = 0;
+        connect(&dialog, &QPushButton::clicked, this, [&] { ++pressed; });
+        connect(m_graph.get(), &TrellumGraph::mealItemChosen, this, [&] {
+            ++opened;
+            dialog.resize(200, 200);
+            dialog.move(m_graph->mapToGlobal(columnOf(2)) - QPoint(100, 100));
+            dialog.show();
+            QTest::mouseClick(&dialog, Qt::LeftButton); // in its middle
+            QCOMPARE(pressed, 0);
+            QTest::mouseClick(&dialog, Qt::LeftButton, {}, {20, 20});
+            QCOMPARE(pressed, 1);
+        });
+        QTest::mouseClick(m_graph.get(), Qt::LeftButton, {}, columnOf(2));
+        QTest::mouseDClick(m_graph.get(), Qt::LeftButton, {}, columnOf(2));
+        QTest::mouseClick(&dialog, Qt::LeftButton);
+        QCOMPARE(opened, 1);
+        QCOMPARE(pressed, 2);
+    }
+    void nothingHidesTheBalance()
+    {
+        const DayData day = {0.1, {{11, QTime(12, 0), 300, 100, 100}}}; // its label at the peak
+        fill(day);
+        const QImage image = m_graph->grab().toImage();
+        const QColor line = ChartColors::of(m_graph->palette()).balance;
+        for (const QPointF corner : geometry(day).balance) {
+            bool isSeen = false;
+            for (int i = 0; i < 25; ++i)
+                isSeen |= image.pixelColor(corner.toPoint() + QPoint(i % 5 - 2, i / 5 - 2)) == line;
+            QVERIFY2(isSeen, qPrintable(QString::number(corner.x())));
+        }
+    }
+    void tooManyItemsAreCountedButNotDrawn()
+    {
+        DayData day = {1, {}, {}};
+        for (int i = 0; i < 20000; ++i) {
+            day.add(MealItem{i, timeOf(i % 1440), 1, 2, 3});
+            day.add(ActivityItem{i, timeOf(i % 1400), timeOf(i % 1400 + i % 40), 2});
+        }
+        QElapsedTimer timer;
+        timer.start();
+        fill(day);
+        m_graph->grab();
+        QVERIFY(timer.elapsed() < 2000); // without a bound, minutes
+        QCOMPARE(chart()->childCount(), 2 * (1 + 500 + 1));
+        QCOMPARE(chart()->text(QAccessible::Description),
+                 u"Eaten 120000 kcal, burnt 41440 kcal of which 40000 kcal by activities, balance "
+                 "78560 kcal more eaten than burnt. Meals: 20000. Activities: 20000. Drawn: the "
+                 "first 500 of 20000 meals. The totals count all. Drawn: the first 500 of 20000 "
+                 "activities. The totals count all."_s);
     }
     void pointerAndTipsTellWhatAClickDoes()
     {

@@ -17,18 +17,6 @@ Currency units(qint64 tenThousandths)
     return Currency::fromTenThousandths(tenThousandths);
 }
 
-// The product as 128 bits have it, rounded half to even; none where it is out of range.
-std::optional<qint64> wideProduct(qint64 a, qint64 b)
-{
-    __extension__ using Wide = __int128;
-    const Wide product = Wide(a) * b;
-    const Wide below = product / 10000 - (product % 10000 < 0 ? 1 : 0);
-    const Wide doubledRest = (product - below * 10000) * 2;
-    const bool up = doubledRest > 10000 || (doubledRest == 10000 && below % 2 != 0);
-    const Wide rounded = up ? below + 1 : below;
-    return rounded > greatest || rounded < least ? std::nullopt : std::optional(qint64(rounded));
-}
-
 } // namespace
 
 class tst_values : public QObject
@@ -93,23 +81,6 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(OverflowError, -units(least));
         QVERIFY_THROWS_EXCEPTION(OverflowError, units(least) * -1);
         QVERIFY_THROWS_EXCEPTION(OverflowError, Currency::fromInteger(greatest / 10000 + 1));
-    }
-
-    void productsEqualThoseOf128Bits()
-    {
-        QRandomGenerator random(2);
-        const auto any = [&] { return qint64(random.generate64()) >> random.bounded(64); };
-        for (int i = 0; i < 200'000; ++i) {
-            // Every other pair has a factor with few digits, so that halves and limits are met.
-            const qint64 a = i % 2 ? any() : (any() >> 40) * 2500;
-            const qint64 b = i % 4 == 3 ? 10000 + random.bounded(3) - 1 : any();
-            if (const std::optional<qint64> expected = wideProduct(a, b))
-                QCOMPARE((units(a) * units(b)).tenThousandths(), *expected);
-            else
-                QVERIFY_THROWS_EXCEPTION(OverflowError, units(a) * units(b));
-        }
-        QCOMPARE(units(least) * units(10000), units(least));
-        QVERIFY_THROWS_EXCEPTION(OverflowError, units(least) * units(-10000));
     }
 
     void halvesGoToTheEvenNeighbour()

@@ -37,9 +37,12 @@ void tst_EntryFigures::calories()
     QCOMPARE(consumptionFigures(decimal("-1"), 3.5, 2.5, 1).total(), -7);
     QVERIFY_THROWS_EXCEPTION(OverflowError, consumptionFigures(decimal("1000000000"), 9, 1, 1));
     // Those of an activity are cut off downwards.
-    QCOMPARE(performanceFigure(decimal("2.5"), 7.0), 17);
-    QCOMPARE(performanceFigure(decimal("-2.5"), 7.0), -18);
-    QCOMPARE(performanceFigure(decimal("30"), 3.5), 105);
+    QCOMPARE(performanceFigure(decimal("2.5"), decimal("7")), 17);
+    QCOMPARE(performanceFigure(decimal("-2.5"), decimal("7")), -18);
+    QCOMPARE(performanceFigure(decimal("0.57"), decimal("100")), 57); // in binary, 56.99999999
+    QCOMPARE(performanceFigure(decimal("100"), decimal("-1.15")), -115);
+    QCOMPARE(performanceFigure(decimal("0.3333"), decimal("3.0003")), 0);
+    QVERIFY_THROWS_EXCEPTION(OverflowError, performanceFigure(decimal("5000000"), decimal("500")));
 }
 
 void tst_EntryFigures::steps()

@@ -94,10 +94,13 @@ void tst_ExercisePerform::checksInOrder()
 
 void tst_ExercisePerform::changesStored()
 {
-    journal->exec("insert into ExercisePerform values (-4, 2, 46000, 0.25, 0.5, 12.5)");
+    // Base times factor lies a little beside the four places that it is meant as.
+    journal->exec("update Exercise set CaloriesConsume = 3.4999999 where Name = 'Walking';"
+                  "insert into ExercisePerform values (-4, 2, 46000, 0.25, 0.5, 12.5)");
     const auto editor = journal->edit<frmExercisePerform>(-4, [](QWidget &window) {
         QCOMPARE(entry(window), "Walking 12.5 minute 43");
         type(window, "txtQty", "2");
+        QCOMPARE(entry(window), "Walking 2 minute 7");
         press(window, "btnOK");
     });
     QCOMPARE(editor->storedId(), -4);

@@ -107,7 +107,8 @@ void tst_MealConsume::changesStored()
     journal->exec("insert into MealConsume values (-4, 1, 46000, 0.25, 3)");
     const auto editor = journal->edit<frmMealConsume>(-4, [](QWidget &window) {
         QCOMPARE(control<DataCombo>(window, "dcbMealCategory").displayedText(), "Fruit");
-        QCOMPARE(entry(window), "Apple 3 piece 30 45 15 90"); // not what is usual
+        QCOMPARE(entry(window), "Apple 3 piece 30 45 15 90");                  // not what is usual
+        QCOMPARE(control<QLabel>(window, "lblDay").text(), "Day: 9 Dec 2025"); // its own
         choose(window, "dcbMeal", "Banana");
         press(window, "btnOK");
     });
@@ -128,6 +129,7 @@ void tst_MealConsume::addsInARow()
             press(window, "btnOK");
             QCOMPARE(category.displayedText() + entry(window), QString());
             QCOMPARE(window.focusWidget(), &category);
+            QCOMPARE(control<QLabel>(window, "lblAdded").text(), "Added: Apple, 1.5, 10:30");
         }
     };
     inDialog(

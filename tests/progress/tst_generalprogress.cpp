@@ -6,11 +6,13 @@
 #include "progress/frmGeneralProgressSettings.h"
 #include "progresssamples.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
+#include <QTreeView>
 
 namespace {
 
@@ -126,33 +128,66 @@ private slots:
             QTest::mouseClick(&chart, Qt::LeftButton, {}, {x, y});
         QCOMPARE(notes.currentRow(), 1);
     }
+    void tableTellsFilledInFromMeasured()
+    {
+        m_journal->addMeasurement(firstDay.addDays(2), 79);
+        frmGeneralProgress window(*m_journal->session, m_messages, month);
+        const auto cell = [&](int row, int role) {
+            const auto &days = control<QTreeView>(window, "lvwDays");
+            return days.model()->index(row, 1).data(role);
+        };
+        QCOMPARE(cell(0, Qt::DisplayRole).toString(), QStringLiteral("80"));
+        QCOMPARE(cell(1, Qt::DisplayRole).toString(), QStringLiteral("(119)"));
+        QVERIFY(cell(1, Qt::FontRole).value<QFont>().italic());
+        QVERIFY(!control<QLabel>(window, "lblFilledIn").isHidden());
+        QVERIFY(cell(3, Qt::DisplayRole).toString().isEmpty());
+    }
     void pictureIsSaved()
     {
-        m_journal->addNote(firstDay, firstDay, QStringLiteral("A text ").repeated(900));
+        m_journal->addNote(firstDay, firstDay.addDays(9), QString(1000000, u'x'));
+        QElapsedTimer timer;
+        timer.start();
         frmGeneralProgress window(*m_journal->session, m_messages, month);
         window.show();
         const auto saved = [&](const char *name) {
             QFile file(m_journal->folder.filePath(QLatin1String(name)));
             return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         };
-        const auto saveAs = [&](const QString &name) {
-            inDialog(
-                "dlgSavePicture", [&] { click(window, "btnSave"); },
-                [&](QWidget &dialog) {
-                    control<QLineEdit>(dialog, "fileNameEdit")
-                        .setText(m_journal->folder.filePath(name));
-                    QTest::keyClick(&dialog, Qt::Key_Return);
-                });
-            return m_messages.takeText();
+        // Types a name; the one that the dialog has if it comes back.
+        const auto saveAs = [&](QString name) {
+            QString kept;
+            QTimer poll;
+            connect(&poll, &QTimer::timeout, this, [&] {
+                QWidget *dialog = QApplication::activeModalWidget();
+                if (!dialog || !dialog->isVisible())
+                    return;
+                auto &edit = control<QLineEdit>(*dialog, "fileNameEdit");
+                if (name.isEmpty()) {
+                    kept = edit.text();
+                    dialog->close();
+                    return;
+                }
+                edit.setText(m_journal->folder.filePath(std::exchange(name, {})));
+                QTest::keyClick(dialog, Qt::Key_Return);
+            });
+            poll.start(5);
+            click(window, "btnSave");
+            return kept;
         };
-        QCOMPARE(saveAs(QStringLiteral("p")), QString()); // PNG, if no suffix says otherwise
+        QCOMPARE(saveAs(QStringLiteral("p")), QString()); // PNG, if no ending says otherwise
         QVERIFY(QImage::fromData(saved("p.png"), "PNG").width() > window.width());
         QCOMPARE(saveAs(QStringLiteral("p.PDF")), QString());
         QVERIFY(saved("p.PDF").startsWith("%PDF"));
         QVERIFY(saved("p.PDF").count("/Type /Page\n") > 1); // the note goes on
-        QVERIFY(saveAs(QStringLiteral("p.jpg")).startsWith(QStringLiteral("The picture can be")));
-        QVERIFY(saved("p.jpg").isNull());
-        QVERIFY(saveAs(QStringLiteral("missing/p.png")).startsWith(QStringLiteral("Can't save")));
+        QVERIFY(timer.elapsed() < 10000); // one word of a megabyte takes no minutes
+        QCOMPARE(saveAs(QStringLiteral("22.06.2026")), QString());
+        QVERIFY(!saved("22.06.2026.png").isNull());
+        QVERIFY(m_messages.said.empty());
+
+        QVERIFY(saveAs(QStringLiteral("22.06.2026")).endsWith(QStringLiteral("22.06.2026")));
+        QVERIFY(m_messages.takeText().contains(QStringLiteral("Do you want to replace it?")));
+        QVERIFY(saveAs(QStringLiteral("missing/p")).endsWith(QStringLiteral("missing/p")));
+        QVERIFY(m_messages.takeText().startsWith(QStringLiteral("Can't save")));
     }
     void faultsAreTold()
     {

@@ -1,6 +1,7 @@
 // Where things stand on the progress chart.
 #include "progress/progressgeometry.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace progress;
@@ -28,19 +29,38 @@ void balance(DaySeries &series, int day, qint16 calories)
     series.calories.widen(calories);
 }
 
-/// A measurement on two days of three, calories on all but every fifth day, notes that touch.
-DaySeries busySeries(int days, int notes)
+/// Notes that touch each other and go beyond both ends of the period.
+DaySeries seriesWithNotes(int days, int notes)
 {
     DaySeries series = seriesOf(days);
-    for (int day = 1; day <= days; ++day) {
-        if (day % 3 != 2)
-            measure(series, day, 80 - float(day % 7) / 10);
-        if (day % 5 != 0)
-            balance(series, day, qint16(day * 37 % 3000 - 1500));
-    }
     for (int i = 0; i < notes; ++i)
         series.notes.push_back({QStringLiteral("Note"), firstDay.addDays(i * days / notes - 1),
                                 firstDay.addDays((i + 1) * days / notes - 2)});
+    return series;
+}
+
+/// Any period: with gaps, an early end, values near to or far from each other, many notes or none.
+DaySeries anySeries(quint32 seed)
+{
+    QRandomGenerator random(seed);
+    const int days = 28 + random.bounded(157);
+    DaySeries series = seriesWithNotes(days, random.bounded(60));
+    const auto girth = [&] { return 80 + float(random.bounded(seed % 2 ? 30 : 2)); };
+    const int end = random.bounded(2 * days);
+    for (int day = 1; day <= days; ++day) {
+        if (day < end && random.bounded(3) > 0) {
+            Day &measured = series.at(qint16(day));
+            measured = {girth(), girth(),
+                        girth(), 70 + float(random.bounded(200)) / 10,
+                        0,       BodySource::Measured,
+                        false};
+            series.weights.widen(measured.weight);
+            for (const float value : {measured.breast, measured.waist, measured.hips})
+                series.girths.widen(value);
+        }
+        if (random.bounded(5) > 0)
+            balance(series, day, qint16(random.bounded(8000) - 4000));
+    }
     series.Approximate();
     return series;
 }
@@ -81,34 +101,39 @@ private slots:
             QCOMPARE(float(scale.high), expected.maximum);
             QCOMPARE(scale.y(scale.low), 110.0);
         }
+        QVERIFY(ValueScale().ticks(20).empty()); // of a lane without values
         QVERIFY_THROWS_EXCEPTION(OverflowError, scaleOf({1, 1e30F}, 6, 0.1, 0, 100));
     }
     void everythingFits_data()
     {
-        QTest::addColumn<QSizeF>("size");
-        QTest::newRow("small") << QSizeF(545, 420);
-        QTest::newRow("large") << QSizeF(3600, 2000);
+        QTest::addColumn<DaySeries>("series");
+        for (quint32 seed = 1; seed <= 60; ++seed)
+            QTest::addRow("any series %u", seed) << anySeries(seed);
     }
     void everythingFits()
     {
-        QFETCH(QSizeF, size);
-        const ChartGeometry geometry = geometryOf(busySeries(184, 40), size);
-        for (const Lane *lane : {&geometry.weight, &geometry.girths, &geometry.balance})
-            QVERIFY(lane->area.height() > 40 && geometry.plot.contains(lane->area));
-        QList<QRectF> rects;
-        for (const PlacedText &text : geometry.texts)
-            rects << text.rect;
-        for (const LegendEntry &entry : geometry.legend)
-            rects << entry.sample;
-        for (const SeriesLine &line : geometry.lines)
-            rects << line.label.rect;
-        for (int i = 0; i < rects.size(); ++i) {
-            QVERIFY(geometry.area.adjusted(-0.5, -0.5, 0.5, 0.5).contains(rects[i]));
-            for (int j = 0; j < i; ++j)
-                QVERIFY(!rects[i].adjusted(0.5, 0.5, -0.5, -0.5).intersects(rects[j]));
+        QFETCH(DaySeries, series);
+        for (const QSizeF size : {QSizeF(416, 352), QSizeF(545, 420), QSizeF(3600, 2000)}) {
+            const ChartGeometry geometry = geometryOf(series, size);
+            for (const Lane *lane : {&geometry.weight, &geometry.girths, &geometry.balance})
+                QVERIFY(lane->area.height() > 20 && geometry.plot.contains(lane->area));
+            QList<QRectF> rects;
+            for (const PlacedText &text : geometry.texts)
+                rects << text.rect;
+            for (const LegendEntry &entry : geometry.legend)
+                rects << entry.sample;
+            for (const SeriesLine &line : geometry.lines) {
+                if (!line.label.text.isEmpty())
+                    rects << line.label.rect;
+                for (const Mark &mark : line.marks)
+                    QVERIFY(geometry.laneOf(line.series).area.contains(mark.at));
+            }
+            for (int i = 0; i < rects.size(); ++i) {
+                QVERIFY(geometry.area.adjusted(-0.5, -0.5, 0.5, 0.5).contains(rects[i]));
+                for (int j = 0; j < i; ++j)
+                    QVERIFY(!rects[i].adjusted(0.5, 0.5, -0.5, -0.5).intersects(rects[j]));
+            }
         }
-        for (const NoteSpan &note : geometry.notes)
-            QVERIFY(note.hasRoom);
     }
     void linesBreakAtUnknownDays()
     {
@@ -144,7 +169,7 @@ private slots:
     }
     void notesAreClippedAndLettered()
     {
-        DaySeries series = busySeries(60, 27);
+        DaySeries series = seriesWithNotes(60, 27);
         series.notes.back().DateTo = firstDay.addDays(40000); // beyond what a day number can hold
         const ChartGeometry geometry = geometryOf(series);
         const auto &notes = geometry.notes;
@@ -153,6 +178,9 @@ private slots:
         QCOMPARE(notes[26].lastDay, qint16(60));
         QCOMPARE(geometry.noteAt(notes[5].bar.center()), std::optional<size_t>(5));
         QVERIFY(!geometry.noteAt(geometry.weight.area.center()));
+        const ChartGeometry crowded = geometryOf(seriesWithNotes(184, 40), {545, 420});
+        for (const NoteSpan &note : crowded.notes)
+            QVERIFY(note.hasRoom);
     }
 };
 

@@ -169,15 +169,16 @@ private slots:
     void table()
     {
         ProgressJournal journal(QLocale(QLocale::German, QLocale::Germany));
-        journal.addMeasurement(firstDay, 1079.5, 100, 90, 0);
-        journal.addMeasurement(firstDay.addDays(2), 78.25, 98, 88, 103);
+        journal.addMeasurement(firstDay, 1079.5, 83.4, 90, 0);
+        journal.addMeasurement(firstDay.addDays(2), 78.25, 83.4, 88, 103);
         journal.addMeal(firstDay.addDays(2), rate * 24 - 1234);
         journal.addNote(firstDay.addDays(1), firstDay.addDays(1), QStringLiteral("one\n\ttwo"));
         const ProgressTexts texts(journal.session->text(), true);
         const QStringList lines = tableOf(load(journal, 4), texts).toTabSeparated().split(u'\n');
-        QCOMPARE(lines[1], QStringLiteral("01.06.26\t1079,5\t100\t90\t\tmeasured\t\t"));
+        QCOMPARE(lines[1], QStringLiteral("01.06.26\t1079,5\t83,4\t90\t\tmeasured\t\t"));
+        QCOMPARE(lines[2].section(u'\t', 2, 2), QStringLiteral("125,1")); // not 125,100006
         QVERIFY(lines[2].endsWith(QStringLiteral("\tfilled in\t\tA: one two")));
-        QCOMPARE(lines[3], QStringLiteral("03.06.26\t78,25\t98\t88\t103\tmeasured\t-1234\t"));
+        QCOMPARE(lines[3], QStringLiteral("03.06.26\t78,25\t83,4\t88\t103\tmeasured\t-1234\t"));
     }
     void dayInWords()
     {

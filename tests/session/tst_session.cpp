@@ -67,9 +67,16 @@ private slots:
         TestJournal journal;
         fill(journal);
         deleteSampleJournal(*journal.data);
+        QVERIFY(!hasSampleJournal(*journal.data));
         QCOMPARE(journal.row("select BodyID, MealConsumeID, ExercisePerformID, UserNoteID"
                              " from Body, MealConsume, ExercisePerform, UserNote, Meal"),
                  u"1|1|1|1"_qs);
+        for (const char *table : {"Body", "MealConsume", "ExercisePerform", "UserNote"}) {
+            const QByteArray update = QByteArray("update ") + table + " set rowid = ";
+            journal.exec(update + "-1");
+            QVERIFY2(hasSampleJournal(*journal.data), table);
+            journal.exec(update + "1");
+        }
     }
 
     void firstStartIsRemembered()

@@ -231,7 +231,7 @@ def date_set(program):
 def progress_parameters(program):
     program.menu("Analyze", "General Progress")
     dialog = program.window("General Progress Parameters")
-    check(dialog.find("radio button", "3 Months").is_checked, "3 months are not proposed")
+    check(dialog.find("radio button", "1 Month").is_checked, "1 month is not proposed")
 
 
 @step

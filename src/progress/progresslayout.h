@@ -1,0 +1,100 @@
+// How the geometry of the progress chart is built, step by step.
+#pragma once
+
+#include "progress/progressgeometry.h"
+#include "progress/timemarks.h"
+
+namespace progress {
+
+// In heights of a line of text.
+inline constexpr double margin = 0.6;
+inline constexpr double ticksApart = 1.25;
+
+/// Builds the geometry step by step: the heights first, which fix the scales and with them the
+/// widths of what stands beside the plot, then everything between.
+class Layout
+{
+public:
+    Layout(const DaySeries &series, const QRectF &area, const TextMetrics &metrics,
+           const ProgressTexts &texts)
+        : m_series(series)
+        , m_metrics(metrics)
+        , m_texts(texts)
+        , m_summary(summaryOf(series))
+    {
+        g.area = area;
+        g.unit = metrics.lineHeight;
+        g.isEmpty = series.isEmpty();
+    }
+
+    ChartGeometry build()
+    {
+        placeFigures();
+        layRows();
+        layColumns();
+        placeDates();
+        if (g.isEmpty) {
+            sayAcross(g.plot, ProgressTexts::tr("There are no measurements, meals, activities or "
+                                                "notes in this period."));
+            return std::move(g);
+        }
+        placeNotes();
+        placeLines();
+        placeBalance();
+        placeTicks();
+        placeTitles();
+        return std::move(g);
+    }
+
+private:
+    double em(double count) const { return count * g.unit; }
+    double width(const QString &text, TextRole role = TextRole::Plain) const
+    {
+        return m_metrics.width(text, role);
+    }
+    void text(const QRectF &rect, const QString &words, Qt::Alignment alignment,
+              TextRole role = TextRole::Plain, Tone tone = Tone::Ink)
+    {
+        g.texts.push_back({rect, words, alignment, role, tone});
+    }
+    void sayAcross(const QRectF &rect, const QString &words)
+    {
+        text(rect, words, Qt::AlignCenter, TextRole::Plain, Tone::Muted);
+    }
+
+    void placeFigures();
+    double figuresWidth(const std::vector<Figure> &figures, TextRole role) const;
+    void layRows();
+    void layColumns();
+    void placeDates();
+    void placeDayNumber(qint16 day, double labelWidth);
+    void placeMonth(const MonthPart &part);
+    void placeNotes();
+    void placeLines();
+    void placeLineLabels(const Lane &lane);
+    /// A line of text in the margin that the plot leaves at its right.
+    QRectF besidePlot(double top) const
+    {
+        const double left = g.days.right() + em(0.5);
+        return {left, top, g.area.right() - left, g.unit};
+    }
+    void placeBalance();
+    void placeTicks();
+    void placeTitles();
+    double placeTitle(const Lane &lane, const QString &title);
+    double placeSample(const Lane &lane, double x, LegendKind kind, const QString &name,
+                       Series series = Series::Weight);
+    QString lineLabel(Series series) const;
+
+    ChartGeometry g;
+    const DaySeries &m_series;
+    const TextMetrics &m_metrics;
+    const ProgressTexts &m_texts;
+    Summary m_summary;
+    double m_top = 0; ///< below the line of figures
+    QRectF m_strip;   ///< of the notes
+    int m_noteRows = 1;
+    double m_footTop = 0;
+};
+
+} // namespace progress

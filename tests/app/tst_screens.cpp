@@ -1,0 +1,196 @@
+// Every window on the screen that it opens on: run once more for each of several screens.
+#include "../journal/dayjournal.h"
+#include "app/frmMain.h"
+#include "catalogue/frmMeal.h"
+#include "help/helpviewer.h"
+#include "progress/frmGeneralProgress.h"
+#include "session/installation.h"
+#include "ui/screenfit.h"
+#include "ui/windowplaces.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QScreen>
+
+using namespace Qt::Literals;
+
+class tst_screens : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qApp->installEventFilter(new ScreenFit(this)); }
+    void init();
+    void everythingIsWithinReach_data();
+    void everythingIsWithinReach();
+    void windowsOfTheirOwn();
+    void formOfLargeTextScrolls();
+    void keepsPlaces();
+
+private:
+    void open(QWidget &from, QStringList path);
+
+    std::unique_ptr<DayJournal> journal;
+    std::unique_ptr<frmMain> mainWindow;
+};
+
+namespace {
+
+// The whole of a control, wherever it has to be scrolled to.
+bool isInSight(QWidget &control)
+{
+    control.setFocus();
+    QCoreApplication::processEvents();
+    return control.visibleRegion().boundingRect() == control.rect();
+}
+
+void verifyWithinReach(QWidget &window)
+{
+    QTest::qWait(20); // until it has found its place
+    const QRect screen = window.screen()->availableGeometry();
+    const QRect withTitle = window.geometry().adjusted(0, -window.fontMetrics().height(), 0, 0);
+    QVERIFY2(withTitle.height() <= screen.height(), qPrintable(window.objectName()));
+    QVERIFY2(withTitle.width() <= screen.width(), qPrintable(window.objectName()));
+    if (window.windowType() == Qt::Dialog) // others are placed by the window manager
+        QVERIFY2(screen.contains(withTitle), qPrintable(window.objectName()));
+    for (auto *control : window.findChildren<QWidget *>()) {
+        if (const auto *list = qobject_cast<QTreeView *>(control); list && list->isVisible())
+            QVERIFY2(list->header()->length() <= list->viewport()->width(),
+                     qPrintable(list->objectName()));
+        const QString text = control->property("text").toString();
+        const QString what = window.objectName() + u' ' + control->objectName() + u' ' + text;
+        const bool isButton = qobject_cast<QAbstractButton *>(control);
+        const bool isText = (isButton && !text.isEmpty()) || qobject_cast<QLabel *>(control);
+        if (!control->isVisible() || control->window() != &window)
+            continue;
+        if (isText)
+            QVERIFY2(control->size().expandedTo(control->minimumSizeHint()) == control->size(),
+                     qPrintable(what));
+        if (isButton || (control->focusPolicy() & Qt::TabFocus) != 0)
+            QVERIFY2(isInSight(*control), qPrintable(what));
+    }
+}
+
+} // namespace
+
+// With names and units that are longer than any screen is wide.
+void tst_screens::init()
+{
+    mainWindow.reset();
+    journal = std::make_unique<DayJournal>();
+    journal->exec("update Meal set Unit = replace(hex(zeroblob(300)), '00', 'cup '),"
+                  " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
+                  "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
+                  " where ExerciseID = 1;"
+                  "insert into MealConsume values (-1, 1, 46225, 0.5, 3);"
+                  "insert into ExercisePerform values (-1, 1, 46225, 0.5, 0.6, 3);"
+                  "insert into Body values (-1, 46220, 70, 90, 80, 95, 'M');"
+                  "insert into UserNote values (-1, 46220, 46222,"
+                  " replace(hex(zeroblob(300)), '00', 'note '))");
+    mainWindow = std::make_unique<frmMain>(*journal->session, journal->messages);
+    mainWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mainWindow.get()));
+}
+
+// A window is opened by a menu entry, then by a button of the one before and so on.
+void tst_screens::everythingIsWithinReach_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *path :
+         {"mnuMealConsume frmMealConsumes btnEdit frmMealConsume btnNewMeal frmMeal btnNewCategory "
+          "frmMealCategory",
+          "mnuAddMeal frmMealConsume",
+          "mnuExercisePerformed frmExercisePerforms btnEdit frmExercisePerform",
+          "mnuMeasurement frmMeasurements btnMeasurementNew frmBody",
+          "mnuMeasurement frmMeasurements btnNotetNew frmUserNote", "mnuSetDate frmDate",
+          "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
+          "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
+          "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
+          "mnuGeneralProgress frmGeneralProgressSettings"})
+        QTest::newRow(path) << QString(path);
+}
+
+void tst_screens::everythingIsWithinReach()
+{
+    QFETCH(QString, path);
+    verifyWithinReach(*mainWindow);
+    open(*mainWindow, path.split(u' '));
+}
+
+void tst_screens::open(QWidget &from, QStringList path)
+{
+    const QString opener = path.takeFirst();
+    const QString name = path.takeFirst();
+    if (auto *box = from.findChild<QCheckBox *>())
+        box->setChecked(true);
+    if (from.findChild<QTreeView *>(u"lvwList"_qs))
+        selectRow(from, 0);
+    journal->messages.answers = {true, true};
+    const auto press = [&] {
+        if (auto *entry = from.findChild<QAction *>(opener))
+            entry->trigger();
+        else
+            control<QPushButton>(from, qPrintable(opener)).click();
+    };
+    inDialog(qPrintable(name), press, [&](QWidget &window) {
+        verifyWithinReach(window);
+        if (!path.isEmpty())
+            open(window, path);
+    });
+}
+
+void tst_screens::windowsOfTheirOwn()
+{
+    mainWindow->resize(1, 1); // as small as it gets
+    verifyWithinReach(*mainWindow);
+    const auto showProgress = [this] {
+        showGeneralProgress(*journal->session, journal->messages,
+                            progress::periodOfMonths(QDate(2026, 7, 1), 3), mainWindow.get());
+    };
+    inDialog("frmGeneralProgress", showProgress, verifyWithinReach);
+    HelpViewer help(QString(), mainWindow.get());
+    inDialog(
+        "helpViewer", [&] { help.exec(); }, verifyWithinReach);
+    for (const QString &text : {u"A very long note. "_qs.repeated(1000), QString(2000, u'x')}) {
+        const auto say = [&] { MessageBoxes().error(mainWindow.get(), text); };
+        inDialog("message", say, verifyWithinReach);
+    }
+}
+
+void tst_screens::formOfLargeTextScrolls()
+{
+    const QFont usual = QApplication::font();
+    const QSize screen = mainWindow->screen()->availableSize();
+    mainWindow.reset();
+    QFont large = usual;
+    large.setPixelSize(qMin(screen.height() / 18, screen.width() / 40));
+    QApplication::setFont(large);
+    journal->edit<frmMeal>(1, verifyWithinReach);
+    QApplication::setFont(usual);
+}
+
+// The sizes fit the smallest of the screens.
+void tst_screens::keepsPlaces()
+{
+    WindowPlaces places(journal->folder.path());
+    qApp->installEventFilter(&places);
+    const auto reopened = [&](const QByteArray &place) {
+        if (!place.isEmpty())
+            Installation(journal->folder.path()).setValue(u"Windows/frmMain"_qs, place);
+        mainWindow = std::make_unique<frmMain>(*journal->session, journal->messages);
+        mainWindow->show();
+        return mainWindow->geometry();
+    };
+    mainWindow->setGeometry(30, 40, 600, 350);
+    mainWindow->close();
+    QCOMPARE(reopened({}), QRect(30, 40, 600, 350));
+    QCOMPARE(reopened("90000 40 600 350").size(), QSize(600, 350));
+    QVERIFY(mainWindow->screen()->availableGeometry().contains(mainWindow->geometry()));
+    for (const char *nonsense : {"30 40 600", "30 40 -600 350", "a b c d"})
+        QCOMPARE(reopened(nonsense).size().expandedTo({600, 350}), mainWindow->size());
+}
+
+QTEST_MAIN(tst_screens)
+#include "tst_screens.moc"
