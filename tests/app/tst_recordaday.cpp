@@ -8,7 +8,6 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QDateEdit>
 
 using namespace Qt::Literals;
 
@@ -19,10 +18,8 @@ class tst_RecordADay : public QObject
 private slots:
     void init();
     void addsMeals();
-    void addsActivity();
     void answersTheChart();
     void editsFromTheChart();
-    void listMovesTheDay();
 
 private:
     QWidget &mainWindow() { return *program->mainWindow(); }
@@ -85,24 +82,6 @@ void tst_RecordADay::addsMeals()
     QCOMPARE(program->session()->currentTime(), QTime(19, 15));
 }
 
-void tst_RecordADay::addsActivity()
-{
-    inDialog(
-        "frmExercisePerform", [&] { choose("mnuAddExercise"); },
-        [&](QWidget &editor) {
-            control<DataCombo>(editor, "dcbExercise").setFocus();
-            typeKeys(u"alk"_qs);
-            pressKey(Qt::Key_Tab);
-            typeTime(control<QTimeEdit>(editor, "dtpEndTime"), u"1300"_qs);
-            pressKey(Qt::Key_Return);
-            QCOMPARE(onChart(u"Activity"_qs).size(), 1);
-            press(editor, "btnCancel");
-        });
-    QCOMPARE(journal->messages.takeText(), QString());
-    QCOMPARE(journal->activities(), QStringList{u"2|2|46225|750|780|30"_qs});
-    QVERIFY(onChart(u"Activity"_qs).value(0).contains(u"105 kcal"_qs));
-}
-
 void tst_RecordADay::answersTheChart()
 {
     using Time = const QTime &;
@@ -154,24 +133,6 @@ void tst_RecordADay::editsFromTheChart()
     QVERIFY(onChart(u"Activity"_qs).value(0).contains(u"21 kcal"_qs));
     QCOMPARE(journal->meals(), QStringList{u"7|2|46225|720|3"_qs});
     QCOMPARE(journal->activities(), QStringList{u"7|1|46225|360|720|3"_qs});
-}
-
-void tst_RecordADay::listMovesTheDay()
-{
-    inDialog(
-        "frmMealConsumes", [&] { choose("mnuMealConsume"); },
-        [&](QWidget &list) {
-            control<QDateEdit>(list, "dtpDate").setDate(QDate(2026, 12, 31));
-            inDialog(
-                "frmMealConsume", [&] { press(list, "btnNew"); },
-                [&](QWidget &editor) {
-                    control<DataCombo>(editor, "dcbMealCategory").setDisplayedText(u"Dairy"_qs);
-                    press(editor, "btnOK");
-                });
-            QCOMPARE(onChart(u"Meal at"_qs).size(), 1);
-        });
-    QCOMPARE(textOf(mainWindow(), "txtDate"), u"31 Dec 2026"_qs);
-    QCOMPARE(journal->row("select ConsumeDate from MealConsume"), u"46387"_qs);
 }
 
 QTEST_MAIN(tst_RecordADay)

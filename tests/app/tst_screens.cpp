@@ -23,7 +23,6 @@ class tst_screens : public QObject
 private slots:
     void initTestCase() { qApp->installEventFilter(new ScreenFit(this)); }
     void init();
-    void everythingIsWithinReach_data();
     void everythingIsWithinReach();
     void windowsOfTheirOwn();
     void formOfLargeTextScrolls();
@@ -95,10 +94,10 @@ void tst_screens::init()
 }
 
 // A window is opened by a menu entry, then by a button of the one before and so on.
-void tst_screens::everythingIsWithinReach_data()
+void tst_screens::everythingIsWithinReach()
 {
-    QTest::addColumn<QString>("path");
-    for (const char *path :
+    verifyWithinReach(*mainWindow);
+    for (const QString path :
          {"mnuMealConsume frmMealConsumes btnEdit frmMealConsume btnNewMeal frmMeal btnNewCategory "
           "frmMealCategory",
           "mnuAddMeal frmMealConsume",
@@ -109,14 +108,7 @@ void tst_screens::everythingIsWithinReach_data()
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
           "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
           "mnuGeneralProgress frmGeneralProgressSettings"})
-        QTest::newRow(path) << QString(path);
-}
-
-void tst_screens::everythingIsWithinReach()
-{
-    QFETCH(QString, path);
-    verifyWithinReach(*mainWindow);
-    open(*mainWindow, path.split(u' '));
+        open(*mainWindow, path.split(u' '));
 }
 
 void tst_screens::open(QWidget &from, QStringList path)

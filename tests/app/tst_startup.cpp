@@ -21,17 +21,7 @@ struct TestProgram
 {
     TestProgram() { makeEmptyJournal(database); }
 
-    QByteArray bytes(const QString &suffix = {}) const
-    {
-        QFile file(database + suffix);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void setBytes(const QByteArray &bytes, const QString &suffix = {}) const
-    {
-        QFile file(database + suffix);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("the file can't be written");
-    }
+    QByteArray bytes() const { return fileBytes(database); }
     std::unique_ptr<StartUp> startUp()
     {
         const QLocale british(QLocale::English, QLocale::UnitedKingdom);
@@ -54,33 +44,8 @@ bool firstStart(StartUp &startUp, const std::function<void(QWidget &)> &steps)
     return started;
 }
 
-const QString firstStartMessage =
-    u"Because it is a very first start of this program, you will be prompted now to specify "
-    "common parameters."_qs;
-
-} // namespace
-
-class tst_startup : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void refusesUnusableDatabases();
-    void refusesLockedDatabase();
-    void refusesByPermissions();
-    void firstStartInItsOrder();
-    void interruptedFirstStartBeginsAnew();
-    void failedMoveBeginsAnew();
-    void damagedMemoryMovesNothing();
-    void undoesOnlyItsOwnStore();
-    void oddParametersLetItStart();
-
-private:
-    void verifyRefused(TestProgram &program, const std::function<bool()> &run);
-};
-
 // Said once, in the words that help; nothing shown, nothing written, nothing left behind.
-void tst_startup::verifyRefused(TestProgram &program, const std::function<bool()> &run)
+void verifyRefused(TestProgram &program, const std::function<bool()> &run)
 {
     const auto files = [&] { return QDir(program.folder.path()).entryList(QDir::Files); };
     const QByteArray before = program.bytes();
@@ -99,42 +64,39 @@ void tst_startup::verifyRefused(TestProgram &program, const std::function<bool()
         QVERIFY(!window->isVisible());
 }
 
+} // namespace
+
+class tst_startup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void refusesUnusableDatabases();
+    void refusesByPermissions();
+    void firstStartInItsOrder();
+    void unfinishedFirstStartBeginsAnew();
+    void damagedMemoryMovesNothing();
+    void undoesOnlyItsOwnStore();
+    void oddParametersLetItStart();
+};
+
 void tst_startup::refusesUnusableDatabases()
 {
-    using Spoil = void (*)(TestProgram &);
-    const Spoil missing = [](TestProgram &program) { QFile::remove(program.database); };
-    const Spoil lastPageLost = [](TestProgram &program) {
-        QVERIFY(QFile::resize(program.database, QFile(program.database).size() - 4096));
-    };
-    const Spoil withoutTheseTables = [](TestProgram &program) {
-        QFile::remove(program.database);
-        Connection::create(program.database)->exec("create table Common (weight)");
-    };
-    const Spoil empty = [](TestProgram &program) { program.setBytes({}); };
-    const Spoil garbage = [](TestProgram &program) { program.setBytes(QByteArray(65536, 'x')); };
-    const Spoil unencrypted = [](TestProgram &program) {
-        QFile::remove(program.database);
-        SQLite::Database(program.database.toStdString(),
-                         SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
-            .exec("create table Common (weight)");
-    };
-    for (const Spoil spoil :
-         {missing, empty, garbage, lastPageLost, unencrypted, withoutTheseTables}) {
-        TestProgram program;
-        spoil(program);
-        verifyRefused(program, [&] { return program.startUp()->run(); });
-    }
-}
-
-void tst_startup::refusesLockedDatabase()
-{
     TestProgram program;
-    Connection other(program.database);
+    const auto refuses = [&] { verifyRefused(program, [&] { return program.startUp()->run(); }); };
+    const QByteArray whole = program.bytes();
     // A program that only writes at the moment is waited for, but not for ever.
-    for (const char *lock : {"begin exclusive", "rollback; begin immediate"}) {
+    for (const char *lock : {"begin exclusive", "begin immediate"}) {
+        Connection other(program.database);
         other.exec(lock);
-        verifyRefused(program, [&] { return program.startUp()->run(); });
+        refuses();
     }
+    for (const QByteArray &spoilt : {whole.chopped(4096), QByteArray(65536, 'x'), QByteArray()}) {
+        setFileBytes(program.database, spoilt);
+        refuses();
+    }
+    QFile::remove(program.database);
+    refuses();
 }
 
 // Permissions don't bind root, whom builds in containers often run as: it steps down to nobody.
@@ -172,16 +134,15 @@ void tst_startup::firstStartInItsOrder()
     const bool started = firstStart(*startUp, [&](QWidget &dialog) {
         // The message came first, and there is no window behind the dialog.
         QCOMPARE(program.messages.said.size(), size_t(1));
-        QCOMPARE(program.messages.said.front().text, firstStartMessage);
-        QCOMPARE(program.messages.said.front().icon, Messages::Icon::Information);
+        QCOMPARE(program.messages.said.front().text,
+                 u"Because it is a very first start of this program, you will be prompted now to "
+                 "specify common parameters."_qs);
         QVERIFY(!startUp->mainWindow());
-        QVERIFY(!program.isFirstStartDone());
         QCOMPARE(queryRows(other, "select DateMeasured from Body"), QStringList{u"46000"_qs});
         // It can only be accepted.
         QVERIFY(!control<QPushButton>(dialog, "btnCancel").isEnabled());
         QTest::keyClick(&dialog, Qt::Key_Escape);
-        QVERIFY(!dialog.close());
-        QVERIFY(dialog.isVisible());
+        QVERIFY(dialog.isVisible() && !dialog.close());
         typeInto(control<QLineEdit>(dialog, "txtWeight"), u"82"_qs);
         QTest::keyClick(&control<QLineEdit>(dialog, "txtWeight"), Qt::Key_Return);
     });
@@ -194,33 +155,20 @@ void tst_startup::firstStartInItsOrder()
              QStringList{u"46010|46033|82"_qs});
     // Later starts go straight to the main window and move nothing.
     program.clock.setNow(QDateTime(QDate(2026, 1, 15), QTime(8, 0)));
-    const auto later = program.startUp();
-    QVERIFY(later->run());
-    QVERIFY(later->mainWindow()->isVisible());
+    QVERIFY(program.startUp()->run());
     QCOMPARE(queryRows(other, "select DateMeasured from Body"), QStringList{u"46010"_qs});
     QCOMPARE(program.messages.said.size(), size_t(1)); // of recalculated data nothing is said
 }
 
-void tst_startup::interruptedFirstStartBeginsAnew()
+void tst_startup::unfinishedFirstStartBeginsAnew()
 {
     TestProgram program;
     const QByteArray before = program.bytes();
-    for (int start = 0; start < 2; ++start) {
-        const auto startUp = program.startUp();
-        // As when the desktop's session ends while the dialog is open.
-        QVERIFY(!firstStart(*startUp, [](QWidget &dialog) {
-            dynamic_cast<QDialog &>(dialog).done(QDialog::Rejected);
-        }));
-        QVERIFY(!startUp->mainWindow());
-        QCOMPARE(program.messages.takeText(), firstStartMessage);
-        QVERIFY(!program.isFirstStartDone());
-        QVERIFY(program.bytes() == before);
-    }
-}
-
-void tst_startup::failedMoveBeginsAnew()
-{
-    TestProgram program;
+    // As when the desktop's session ends while the dialog is open.
+    QVERIFY(!firstStart(*program.startUp(), [](QWidget &dialog) {
+        dynamic_cast<QDialog &>(dialog).done(QDialog::Rejected);
+    }));
+    QVERIFY(program.bytes() == before);
     const auto accept = [](QWidget &dialog) { control<QPushButton>(dialog, "btnOK").click(); };
     program.clock.setNow(QDateTime(QDate(2126, 1, 1), QTime(8, 0))); // too far for 16 bits
     QVERIFY(!firstStart(*program.startUp(), accept));
@@ -231,19 +179,13 @@ void tst_startup::failedMoveBeginsAnew()
     QVERIFY(program.isFirstStartDone());
 }
 
-// The user's measurements stay on their days, and no file beside it delays the start.
+// The user's measurements stay on their days.
 void tst_startup::damagedMemoryMovesNothing()
 {
     TestProgram program;
     const QByteArray before = program.bytes();
-    for (const char *name : {"Corvana.ini", "Corvana.ini.lock"}) {
-        QFile file(program.folder.filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    QElapsedTimer timer;
-    timer.start();
+    setFileBytes(program.folder.filePath(u"Corvana.ini"_qs), {});
     QVERIFY(program.startUp()->run());
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(program.messages.takeText().contains("Corvana.ini"));
     QVERIFY(program.startUp()->run());
     QVERIFY(program.messages.said.empty()); // it has been put right
@@ -254,7 +196,7 @@ void tst_startup::undoesOnlyItsOwnStore()
 {
     TestProgram program;
     Installation(program.folder.path()).setFirstStartDone();
-    const QString journal = u"-journal"_qs;
+    const QString journal = program.database + u"-journal"_qs;
     const QByteArray copy = program.bytes();
     // More rows than the engine keeps in memory: some are in the file before the store is whole.
     QByteArray torn;
@@ -266,20 +208,20 @@ void tst_startup::undoesOnlyItsOwnStore()
                    " select i + 1 from n where i < 2000)"
                    " insert into UserNote select i, 46000, 46000, hex(randomblob(20)) from n");
         torn = program.bytes();
-        rollback = program.bytes(journal);
+        rollback = fileBytes(journal);
     }
     QVERIFY(torn.size() > copy.size());
     const auto start = [&](const QByteArray &database) {
         program.messages.said.clear();
-        program.setBytes(database);
-        program.setBytes(rollback, journal);
+        setFileBytes(program.database, database);
+        setFileBytes(journal, rollback);
         return program.startUp()->run();
     };
     QVERIFY(start(torn));
     QVERIFY(program.messages.said.empty());
     Connection connection(program.database);
-    QCOMPARE(queryRows(connection, "select count(*), (select count(*) from UserNote) from Body"),
-             QStringList{u"1|0"_qs});
+    QCOMPARE(queryRows(connection, "select BodyID from Body left join UserNote"),
+             QStringList{u"1"_qs});
 
     QByteArray damaged = torn;
     damaged.replace(7 * 4096, 4096, QByteArray(4096, 'x'));
@@ -287,7 +229,7 @@ void tst_startup::undoesOnlyItsOwnStore()
          {std::pair(copy, "put back a copy?"), std::pair(damaged, "the file is damaged")}) {
         QVERIFY(!start(database));
         QVERIFY(program.messages.said.back().cause.contains(QLatin1String(advice)));
-        QVERIFY(program.bytes() == database && program.bytes(journal) == rollback);
+        QVERIFY(program.bytes() == database && fileBytes(journal) == rollback);
     }
 }
 

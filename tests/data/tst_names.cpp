@@ -44,10 +44,8 @@ private slots:
         TestJournal journal;
         for (qsizetype i = 0; i < names.size(); ++i) {
             addCategory(journal, names[(i * 5) % names.size()]);
-            for (qsizetype j = 0; j < i; ++j) {
+            for (qsizetype j = 0; j < i; ++j)
                 QCOMPARE(compareNames(names[j], names[i]), -1);
-                QCOMPARE(compareNames(names[i], names[j]), 1);
-            }
         }
         QCOMPARE(journal.rows("select Name from MealCategory order by Name"), names);
         QCOMPARE(journal.row("select count(*) from MealCategory where Name = 'ÄPFEL'"), u"1"_qs);
@@ -67,11 +65,6 @@ private slots:
                 }
             }
         }
-    }
-
-    void searchIgnoresCaseAndAccents()
-    {
-        QCOMPARE(foldedForSearch(u"Crème BRÛLÉE 3.5%"_qs), u"creme brulee 3.5%"_qs);
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <map>
+
 namespace faultyfiles {
 
 namespace {
@@ -17,16 +19,16 @@ struct
     bool struck = false;
 } state;
 
-/// An open file, followed in memory by the one of the system.
-struct File
+/// What the system does with a file, but for the operations that may fail.
+struct Methods
 {
-    sqlite3_file base;
-    sqlite3_file *real() { return reinterpret_cast<sqlite3_file *>(this + 1); }
+    sqlite3_io_methods faulty; ///< first, for an open file to lead to `real`
+    const sqlite3_io_methods *real;
 };
 
-File &of(sqlite3_file *file)
+const sqlite3_io_methods &real(const sqlite3_file *file)
 {
-    return *reinterpret_cast<File *>(file);
+    return *reinterpret_cast<const Methods *>(file->pMethods)->real;
 }
 
 bool strikes()
@@ -47,79 +49,41 @@ int errorFor(Fault mayBe, int busyOrFull, int inputOutput)
     return state.fault == mayBe && strikes() ? busyOrFull : SQLITE_OK;
 }
 
-int closeFile(sqlite3_file *file)
-{
-    return of(file).real()->pMethods->xClose(of(file).real());
-}
-int readFile(sqlite3_file *file, void *data, int size, sqlite3_int64 offset)
-{
-    return of(file).real()->pMethods->xRead(of(file).real(), data, size, offset);
-}
 int writeFile(sqlite3_file *file, const void *data, int size, sqlite3_int64 offset)
 {
     const int error = errorFor(Fault::Full, SQLITE_FULL, SQLITE_IOERR_WRITE);
-    return error ? error : of(file).real()->pMethods->xWrite(of(file).real(), data, size, offset);
+    return error ? error : real(file).xWrite(file, data, size, offset);
 }
 int truncateFile(sqlite3_file *file, sqlite3_int64 size)
 {
     const int error = errorFor(Fault::InputOutput, SQLITE_OK, SQLITE_IOERR_TRUNCATE);
-    return error ? error : of(file).real()->pMethods->xTruncate(of(file).real(), size);
+    return error ? error : real(file).xTruncate(file, size);
 }
 int synchronizeFile(sqlite3_file *, int)
 {
     return errorFor(Fault::InputOutput, SQLITE_OK, SQLITE_IOERR_FSYNC);
 }
-int fileSize(sqlite3_file *file, sqlite3_int64 *size)
-{
-    return of(file).real()->pMethods->xFileSize(of(file).real(), size);
-}
 int lockFile(sqlite3_file *file, int level)
 {
     const int error = errorFor(Fault::Busy, SQLITE_BUSY, SQLITE_IOERR_LOCK);
-    return error ? error : of(file).real()->pMethods->xLock(of(file).real(), level);
-}
-int unlockFile(sqlite3_file *file, int level)
-{
-    return of(file).real()->pMethods->xUnlock(of(file).real(), level);
-}
-int checkReservedLock(sqlite3_file *file, int *result)
-{
-    return of(file).real()->pMethods->xCheckReservedLock(of(file).real(), result);
-}
-int controlFile(sqlite3_file *file, int operation, void *argument)
-{
-    return of(file).real()->pMethods->xFileControl(of(file).real(), operation, argument);
-}
-int sectorSize(sqlite3_file *file)
-{
-    return of(file).real()->pMethods->xSectorSize(of(file).real());
-}
-int deviceCharacteristics(sqlite3_file *file)
-{
-    return of(file).real()->pMethods->xDeviceCharacteristics(of(file).real());
+    return error ? error : real(file).xLock(file, level);
 }
 
 int openFile(sqlite3_vfs *, const char *name, sqlite3_file *file, int flags, int *outFlags)
 {
-    static const sqlite3_io_methods methods = [] {
-        sqlite3_io_methods made = {};
-        made.iVersion = 1; // no shared memory, no memory mapping
-        made.xClose = closeFile;
-        made.xRead = readFile;
-        made.xWrite = writeFile;
-        made.xTruncate = truncateFile;
-        made.xSync = synchronizeFile;
-        made.xFileSize = fileSize;
-        made.xLock = lockFile;
-        made.xUnlock = unlockFile;
-        made.xCheckReservedLock = checkReservedLock;
-        made.xFileControl = controlFile;
-        made.xSectorSize = sectorSize;
-        made.xDeviceCharacteristics = deviceCharacteristics;
-        return made;
-    }();
-    const int result = realFiles->xOpen(realFiles, name, of(file).real(), flags, outFlags);
-    file->pMethods = of(file).real()->pMethods ? &methods : nullptr;
+    static std::map<const sqlite3_io_methods *, Methods> methods; // databases and journals differ
+    const int result = realFiles->xOpen(realFiles, name, file, flags, outFlags);
+    if (!file->pMethods)
+        return result;
+    auto &[faulty, original] = methods[file->pMethods];
+    original = file->pMethods;
+    faulty = *original;
+    faulty.iVersion = 1; // no shared memory, no memory mapping
+    faulty.xWrite = writeFile;
+    faulty.xTruncate = truncateFile;
+    faulty.xSync = synchronizeFile;
+    faulty.xLock = lockFile;
+    file->pMethods = &faulty;
     return result;
 }
 
@@ -141,7 +105,6 @@ void install()
     realFiles = sqlite3_vfs_find("unix");
     files = *realFiles;
     files.iVersion = 1;
-    files.szOsFile = static_cast<int>(sizeof(File)) + realFiles->szOsFile;
     files.pNext = nullptr;
     files.zName = "faulty";
     files.xOpen = openFile;

@@ -39,6 +39,18 @@ inline void makeEmptyJournal(const QString &path)
     transaction.commit();
 }
 
+inline QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+inline void setFileBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s can't be written", qPrintable(path));
+}
+
 /// The rows of a query, columns joined by "|", for comparison with what was expected.
 inline QStringList queryRows(Connection &connection, const char *sql)
 {
@@ -61,6 +73,12 @@ public:
         : clock(QDateTime(QDate(2026, 7, 22), QTime(12, 30, 45)))
     {
         makeEmptyJournal(path());
+        open(locale);
+    }
+    /// Once more, where it was open.
+    void open(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedKingdom))
+    {
+        session.reset();
         data = std::make_unique<deData>(path());
         session = std::make_unique<Session>(*data, clock, locale);
         session->readCommonParameters();
