@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QDateEdit>
+#include <QLabel>
 
 using namespace Qt::Literals;
 
@@ -72,6 +73,7 @@ void tst_RecordADay::addsMeals()
             // The chart behind the dialog follows at once.
             QVERIFY(editor.isVisible());
             QCOMPARE(onChart(u"Meal at"_qs), QStringList{u"Meal at 12:30, 96 kcal"_qs});
+            QCOMPARE(control<QLabel>(editor, "lblAdded").text(), u"Added: Banana, 1, 12:30"_qs);
             typeKeys(u"dairy"_qs);
             pressKey(Qt::Key_Tab);
             typeTime(control<QTimeEdit>(editor, "dtpTime"), u"1915"_qs);

@@ -40,8 +40,7 @@ private slots:
     }
     void checksInOrder();
     void storesTheBase();
-    void untouchedCaloriesKeepTheirBase();
-    void tickingCountsAsAChange();
+    void changedCaloriesAloneChangeTheBase();
     void calculatorAnswersForMe();
     void calculatorRefuses();
 
@@ -57,8 +56,7 @@ private:
 
 void tst_activities::checksInOrder()
 {
-    journal->exec("insert into Exercise (Name, Unit, CaloriesConsume, CaloriesConsumeBase,"
-                  " WeightDependent) values ('Walking', 'km', 50, 50, 0)");
+    journal->exec("insert into Exercise values (1, 'Walking', 'km', null, 50, 50, 0)");
     journal->edit<frmExercise>(0, [this](QWidget &window) {
         const QString illegal = "The Calories Consume field contains illegal data";
         journal->refuses(window, "txtName", "The Name should be specified", "walking");
@@ -70,9 +68,7 @@ void tst_activities::checksInOrder()
         journal->refuses(window, "txtDefaultQty",
                          "The Default Quantity field contains illegal data", "0,5");
         press(window, "btnOK");
-        QCOMPARE(journal->messages.takeText(),
-                 "Can't store this record in database. Please check whether there is already "
-                 "Activity with the same name in the database");
+        QVERIFY(journal->messages.takeText().contains("already Activity with the same name"));
         type(window, "txtName", "Running");
         press(window, "btnOK");
     });
@@ -99,7 +95,7 @@ void tst_activities::storesTheBase()
     QCOMPARE(stored(), "Rowing|hour||300|225|1");
 }
 
-void tst_activities::untouchedCaloriesKeepTheirBase()
+void tst_activities::changedCaloriesAloneChangeTheBase()
 {
     // A base that does not follow from these calories and this user's weight.
     journal->exec("insert into Exercise values (1, 'Rowing', 'hour', 2, 299.999947, 123, 1)");
@@ -112,14 +108,10 @@ void tst_activities::untouchedCaloriesKeepTheirBase()
     QCOMPARE(journal->row("select DefaultQty, CaloriesConsume = 299.999947, CaloriesConsumeBase"
                           " from Exercise"),
              "|1|123");
-}
-
-void tst_activities::tickingCountsAsAChange()
-{
-    journal->exec("insert into Exercise values (1, 'Rowing', 'hour', null, 300, 300, 0)");
+    journal->exec("update Exercise set CaloriesConsume = 300, WeightDependent = 0");
     journal->messages.answers = {true};
     journal->edit<frmExercise>(1, [](QWidget &window) {
-        toggleDependence(window);
+        toggleDependence(window); // which counts as a change
         press(window, "btnOK");
     });
     QCOMPARE(stored(), "Rowing|hour||300|226.8|1");
@@ -160,13 +152,10 @@ void tst_activities::calculatorRefuses()
         journal->refuses(window, "txtCaloriesConsume",
                          "The calories for your weight are out of range (-32768 to 32767)", "450");
         QVERIFY(!calculator.OK());
-        type(window, "txtWeight", "35");
-        press(window, "btnOK");
     };
     calculator.setCaloriesConsume(QString());
     inDialog(
         "frmWeightAdjustment", [&] { calculator.run(); }, steps);
-    QCOMPARE(int(calculator.caloriesAdjusted()), 900);
 }
 
 QTEST_MAIN(tst_activities)

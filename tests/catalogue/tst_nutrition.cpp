@@ -1,5 +1,7 @@
-// The split of a meal's calories over its nutrients.
+// The split of a meal's calories over its nutrients, and calories of an activity for bodies of
+// different weight.
 #include "catalogue/nutrition.h"
+#include "catalogue/weightadjustment.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -12,6 +14,7 @@ private slots:
     void splits_data();
     void splits();
     void partsAddUpToTheCalories();
+    void adjustsToTheWeight();
 };
 
 void tst_nutrition::splits_data()
@@ -67,6 +70,18 @@ void tst_nutrition::partsAddUpToTheCalories()
         if (parts)
             QCOMPARE(parts->fat + parts->carbohydrate + parts->protein, calories);
     }
+}
+
+void tst_nutrition::adjustsToTheWeight()
+{
+    QCOMPARE(int(adjustedCalories(450, 68.04, 90)), 595); // as in a published table
+    QCOMPARE(int(adjustedCalories(250.5, 70, 70)), 250);  // halves to the even
+    QCOMPARE(int(adjustedCalories(251.5, 70, 70)), 252);
+    QCOMPARE(int(adjustedCalories(-32768.5, 70, 70)), -32768);
+    QVERIFY_THROWS_EXCEPTION(OverflowError, adjustedCalories(0, 0, 90)); // not even a number
+    QVERIFY_THROWS_EXCEPTION(OverflowError, adjustedCalories(32767.5, 70, 70));
+    QVERIFY_THROWS_EXCEPTION(OverflowError, baseCalories(0, 0, false));
+    QCOMPARE(baseCalories(300, 200, false), 225.0);
 }
 
 QTEST_APPLESS_MAIN(tst_nutrition)

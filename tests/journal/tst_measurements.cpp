@@ -29,7 +29,6 @@ private slots:
     void opensAtTheNewest();
     void longNoteStaysOnOneLine();
     void accessKeysGoToTheListWithTheFocus();
-    void editsAndDeletesInOneListAlone();
 
 private:
     std::unique_ptr<frmMeasurements> open()
@@ -104,32 +103,6 @@ void tst_measurements::accessKeysGoToTheListWithTheFocus()
         };
         inDialog(dialog, pressAltN, [](QWidget &) {});
     }
-}
-
-void tst_measurements::editsAndDeletesInOneListAlone()
-{
-    journal->exec("insert into Body values (1, 46225, 70, 98, 85, 94, 'M'),"
-                  " (2, 46226, 70, 98, 85, 94, 'M');"
-                  "insert into UserNote values (1, 46225, 46225, 'a'), (2, 46226, 46226, 'b')");
-    const auto window = open();
-    journal->messages.answers = {true, true};
-    selectRow(*window, 1, notes);
-    press(*window, "btnNotetDelete");
-    QCOMPARE(journal->row("select UserNoteID from UserNote"), "1");
-    QCOMPARE(selectedRow(*window, notes), 0);
-    QCOMPARE(shown(*window, bodies).size(), 2);
-
-    journal->exec("delete from UserNote"); // unseen: the note list is not read again
-    selectRow(*window, 0, bodies);
-    press(*window, "btnMeasurementEdit", "frmBody", [](QWidget &dialog) {
-        control<QDateEdit>(dialog, "dtpDate").setDate(QDate(2026, 8, 1));
-        press(dialog, "btnOK");
-    });
-    QCOMPARE(selectedRow(*window, bodies), 1); // moved behind the other
-    focus(*window, bodies);
-    pressKey(Qt::Key_Delete);
-    QCOMPARE(journal->row("select BodyID from Body"), "2");
-    QCOMPARE(shown(*window, notes).size(), 1);
 }
 
 QTEST_MAIN(tst_measurements)
