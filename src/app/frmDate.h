@@ -1,22 +1,20 @@
 // The Set Date dialog.
 #pragma once
 
-#include <QDialog>
+#include "ui/formdialog.h"
 
 class QDateEdit;
-class Session;
 
 /// Picks the current date; OK hands it to the session.
-class frmDate : public QDialog
+class frmDate : public FormDialog
 {
     Q_OBJECT
 
 public:
-    explicit frmDate(Session &session, QWidget *parent = nullptr);
+    frmDate(Session &session, Messages &messages, QWidget *parent = nullptr);
 
 private:
     void accept() override;
 
-    Session &m_session;
     QDateEdit *dtpDate;
 };

@@ -189,7 +189,7 @@ void frmMain::showNextDay()
 void frmMain::setDate()
 {
     const QDate before = m_session.currentDate();
-    frmDate(m_session, this).exec();
+    frmDate(m_session, m_messages, this).exec();
     // Another day has been shown already, when the session told of it.
     if (m_session.currentDate() == before)
         followJournal();

@@ -27,6 +27,7 @@ frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
 {
     dcbMealCategory->setObjectName(QStringLiteral("dcbMealCategory"));
     dcbMealCategory->setAccessibleName(tr("Meal Category"));
+    dcbMealCategory->setKeepsChoice(true); // the list always shows a category
     auto *label = new QLabel(tr("Meal Cate&gory"), this);
     label->setBuddy(dcbMealCategory);
     auto *head = new QHBoxLayout;

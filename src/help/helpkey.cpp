@@ -2,7 +2,7 @@
 
 #include "help/helpviewer.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -24,6 +24,15 @@ bool HelpKeyFilter::eventFilter(QObject *watched, QEvent *event)
         static_cast<QKeyEvent *>(event)->key() != Qt::Key_F1)
         return false;
     QWidget *window = static_cast<QWidget *>(watched)->window();
+    if (window->windowType() == Qt::Popup) {
+        // A menu, a list or a calendar, open in the active window: the help would lie below it.
+        window = QApplication::activeWindow();
+        QWidget *popup = QApplication::activePopupWidget();
+        while (popup && popup->close())
+            popup = QApplication::activePopupWidget();
+        if (!window)
+            return true;
+    }
     if (!qobject_cast<HelpViewer *>(window))
         showHelp(window, m_helpFile, window->objectName());
     return true;

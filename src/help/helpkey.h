@@ -9,7 +9,7 @@ class QWidget;
 void sendHelpKey(QWidget *window);
 
 /// Installed on the application: answers F1 with the page of the window it was pressed in, whose
-/// name is the window's objectName.
+/// name is the window's objectName; in a menu, list or calendar, with that of the window below.
 class HelpKeyFilter : public QObject
 {
     Q_OBJECT

@@ -4,11 +4,13 @@
 #include "journal/daytotals.h"
 #include "session/session.h"
 #include "ui/attempt.h"
+#include "ui/messages.h"
 #include "ui/pickers.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScopeGuard>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -27,9 +29,8 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     setObjectName(texts.name);
     setWindowTitle(texts.caption);
     dtpDate->setAccessibleName(texts.dateName);
-    // A typed date counts when it is finished: half of one may be some other day.
-    dtpDate->setKeyboardTracking(false);
     connect(dtpDate, &QDateEdit::dateChanged, this, &DayList::showDay);
+    whenRefused(*dtpDate, [this] { refuseDate(); });
 
     m_list->addHelpButton();
 
@@ -76,6 +77,16 @@ void DayList::showDay(QDate day)
     dtpDate->setDate(m_session.currentDate());
 }
 
+void DayList::refuseDate()
+{
+    m_messages.error(this, tr("The %1 field contains illegal data").arg(dtpDate->accessibleName()));
+    // Later, as a button's work ends with the focus in the list.
+    QTimer::singleShot(0, dtpDate, [this] {
+        dtpDate->setFocus();
+        selectForTyping(*dtpDate);
+    });
+}
+
 ListRows DayList::load() const
 {
     Recordset &source = rows();
@@ -111,6 +122,11 @@ ListRow DayList::totalsRow(const DayTotals &totals) const
 
 std::optional<Reselection> DayList::edit(qint32 id)
 {
+    // An access key leaves the focus in the date; a new record is to go to the day that is written.
+    if (!takeTyped(*dtpDate)) {
+        refuseDate();
+        return std::nullopt;
+    }
     const qint32 stored = editRecord(id);
     if (stored == 0)
         return std::nullopt;

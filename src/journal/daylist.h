@@ -57,6 +57,7 @@ private:
     std::optional<Reselection> edit(qint32 id);
     void remove(qint32 id);
     void showDay(QDate day);
+    void refuseDate();
 
     Session &m_session;
     Messages &m_messages;

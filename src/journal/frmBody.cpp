@@ -64,6 +64,7 @@ QLayout *frmBody::makeForm()
 
 void frmBody::makeChecks()
 {
+    checkTyped(dtpDate, tr("The Date field contains illegal data"));
     checkNumeric(txtWeight, tr("The Weight is not specified or contains illegal data"));
     checkNumeric(txtBreast, tr("The Breast measurement is not specified or contains illegal data"));
     checkNumeric(txtWaist, tr("The Waist measurement is not specified or contains illegal data"));

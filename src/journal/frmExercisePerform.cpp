@@ -67,8 +67,8 @@ void frmExercisePerform::makeChecks()
 {
     addCheck(dcbExercise, tr("The Exercise is not specified or specified incorrect"),
              [this] { return dcbExercise->boundValue().has_value(); });
-    checkTime(dtpBeginTime, tr("The Begin Time field contains illegal data"));
-    checkTime(dtpEndTime, tr("The End Time field contains illegal data"));
+    checkTyped(dtpBeginTime, tr("The Begin Time field contains illegal data"));
+    checkTyped(dtpEndTime, tr("The End Time field contains illegal data"));
     addCheck(dtpEndTime, tr("The End Time value should be more than the Begin Time value"),
              [this] { return dtpBeginTime->time() < dtpEndTime->time(); });
     checkQuantity();

@@ -93,7 +93,7 @@ void frmMealConsume::makeChecks()
              [this] { return dcbMealCategory->boundValue().has_value(); });
     addCheck(dcbMeal, tr("The Meal should be specified"),
              [this] { return dcbMeal->boundValue().has_value(); });
-    checkTime(dtpTime, tr("The Time field contains illegal data"));
+    checkTyped(dtpTime, tr("The Time field contains illegal data"));
     checkQuantity();
 }
 

@@ -5,6 +5,7 @@
 #include "session/session.h"
 #include "settings/units.h"
 #include "ui/attempt.h"
+#include "ui/messages.h"
 #include "ui/pickers.h"
 #include "ui/recordlist.h"
 
@@ -186,6 +187,9 @@ void frmMeasurements::makeConnections()
 {
     connect(dtpDate, &QDateEdit::dateChanged, this,
             attempting(this, m_messages, &frmMeasurements::refresh));
+    whenRefused(*dtpDate, [this] {
+        m_messages.error(this, tr("The Date From field contains illegal data"));
+    });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { directAccessKeys(now); });
 }

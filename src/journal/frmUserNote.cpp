@@ -55,6 +55,8 @@ QLayout *frmUserNote::makeForm()
 
 void frmUserNote::makeChecks()
 {
+    checkTyped(dtpDateFrom, tr("The Date From field contains illegal data"));
+    checkTyped(dtpDateTo, tr("The Date To field contains illegal data"));
     addCheck(dtpDateTo, tr("The Date To is less than Date From"),
              [this] { return dtpDateTo->date() >= dtpDateFrom->date(); });
     addCheck(txtNote, tr("The Note text should be specified"),

@@ -112,14 +112,6 @@ QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,
     return figure;
 }
 
-void JournalEntryEditor::checkTime(QTimeEdit *picker, const QString &message)
-{
-    addCheck(picker, message, [picker] { return takeTypedTime(*picker); });
-    // A click on the button must find the time as it was typed: with the focus gone from its
-    // picker it would have been completed out of sight.
-    btnOK->setFocusPolicy(Qt::TabFocus);
-}
-
 void JournalEntryEditor::checkQuantity()
 {
     checkSpecified(txtQty, tr("The Quantity should be specified"));

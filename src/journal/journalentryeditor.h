@@ -66,8 +66,6 @@ protected:
     /// A caption of calories and, below it, the figure, at the right end of a grid.
     QLabel *addFigure(QGridLayout *grid, const QString &caption, const QString &name);
 
-    /// Refuses a time that is only half typed: what would be stored for it is on no screen.
-    void checkTime(QTimeEdit *picker, const QString &message);
     void checkQuantity();
 
     /// The chosen catalogue row's unit and, unless the record is being loaded, its usual quantity;

@@ -25,6 +25,7 @@ frmGeneralProgressSettings::frmGeneralProgressSettings(Session &session, Message
     dtpDate->setDate(session.currentDate().addMonths(-1));
     opt1Month->setChecked(true); // from a month ago, more would be half empty
     setForm(makeForm());
+    checkTyped(dtpDate, tr("The Date From field contains illegal data"));
     focusFirstField();
 }
 
@@ -66,6 +67,8 @@ bool frmGeneralProgressSettings::wantsChartAnyway(const QString &question)
 
 void frmGeneralProgressSettings::accept()
 {
+    if (!Validate())
+        return;
     m_period = periodOfMonths(dtpDate->date(), chosenMonths());
     deData &store = session().data();
     const Coverage coverage = checkCoverage(store, m_period);

@@ -13,6 +13,7 @@ CommonParameters commonParametersOf(const Recordset &common)
 
 Session::Session(deData &data, const Clock &clock, const QLocale &locale)
     : m_data(data)
+    , m_clock(clock)
     , m_text(locale)
 {
     const QDateTime now = clock.now();

@@ -35,6 +35,7 @@ public:
     Session(deData &data, const Clock &clock, const QLocale &locale);
 
     deData &data() const { return m_data; }
+    const Clock &clock() const { return m_clock; }
     const LocaleText &text() const { return m_text; }
 
     /// The day shown; new journal rows are stored on it.
@@ -74,6 +75,7 @@ Q_SIGNALS:
 
 private:
     deData &m_data;
+    const Clock &m_clock;
     LocaleText m_text;
     QDate m_currentDate;
     QTime m_currentTime;

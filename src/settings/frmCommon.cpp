@@ -5,6 +5,7 @@
 #include "settings/recalculation.h"
 #include "settings/units.h"
 #include "ui/messages.h"
+#include "ui/wheelguard.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -35,6 +36,7 @@ frmCommon::frmCommon(Session &session, Messages &messages, QWidget *parent)
     cbxMeasurement->setAccessibleName(tr("Measurement"));
     cbxMeasurement->addItem(tr("Imperial (lb, inch)"));
     cbxMeasurement->addItem(tr("Metric (kg, cm)"));
+    guardFromWheel(*cbxMeasurement);
     setForm(makeForm());
 
     checkNumeric(txtWeight, tr("The Weight is not specified or specified incorrect"));

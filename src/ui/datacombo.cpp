@@ -1,18 +1,53 @@
 #include "ui/datacombo.h"
 
 #include "ui/namefilter.h"
+#include "ui/wheelguard.h"
 
 #include <QCompleter>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QStyledItemDelegate>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
+
+namespace {
+
+/// Names as wide as their list: a longer one ends in an ellipsis.
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override
+    {
+        const bool isCut =
+            QStyledItemDelegate::sizeHint(option, index).width() > option.rect.width();
+        if (event->type() != QEvent::ToolTip || !isCut)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        // Rich text is what tooltips wrap.
+        QToolTip::showText(event->globalPos(),
+                           Qt::convertFromPlainText(index.data().toString(), Qt::WhiteSpaceNormal),
+                           view);
+        return true;
+    }
+};
+
+} // namespace
 
 DataCombo::DataCombo(QWidget *parent)
     : QComboBox(parent)
     , m_filter(new NameFilter(this))
 {
+    guardFromWheel(*this);
     setEditable(true);
     setInsertPolicy(NoInsert);
     setMaxVisibleItems(16);
@@ -29,6 +64,8 @@ DataCombo::DataCombo(QWidget *parent)
         // Otherwise each of thousands of names would be measured at every key.
         if (auto *names = qobject_cast<QListView *>(list))
             names->setUniformItemSizes(true);
+        list->setItemDelegate(new NameDelegate(list));
+        list->setTextElideMode(Qt::ElideRight);
     }
 
     connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::offerMatches);
@@ -73,7 +110,10 @@ bool DataCombo::eventFilter(QObject *watched, QEvent *event)
         return true;
     case Qt::Key_Escape:
         completer()->popup()->hide();
-        setDisplayedText(m_typed);
+        if (m_keepsChoice)
+            returnToChoice();
+        else
+            setDisplayedText(m_typed);
         return true;
     default:
         return QComboBox::eventFilter(watched, event);
@@ -123,7 +163,14 @@ void DataCombo::chooseRow(int row)
     setEditText(itemText(row)); // none for no row
     if (!hasFocus())
         lineEdit()->home(false); // the beginning of a long name tells more than its end
-    announceIfChanged(idOfRow(row));
+    m_lastChoice = idOfRow(row);
+    announceIfChanged(m_lastChoice);
+}
+
+void DataCombo::returnToChoice()
+{
+    setBoundValue(m_lastChoice);
+    lineEdit()->selectAll();
 }
 
 void DataCombo::resolveText(const QString &text)
@@ -143,7 +190,7 @@ void DataCombo::resolveText(const QString &text)
 
 void DataCombo::announceIfChanged(std::optional<qint32> id)
 {
-    if (id == m_boundValue)
+    if (id == m_boundValue || (!id && m_keepsChoice && count() > 0))
         return;
     m_boundValue = id;
     Q_EMIT boundValueChanged();
@@ -151,9 +198,30 @@ void DataCombo::announceIfChanged(std::optional<qint32> id)
 
 void DataCombo::focusInEvent(QFocusEvent *event)
 {
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        m_lastChoice = m_boundValue;
     QComboBox::focusInEvent(event);
     if (event->reason() == Qt::OtherFocusReason)
         lineEdit()->selectAll(); // as on Tab, so that typing begins anew
+}
+
+void DataCombo::focusOutEvent(QFocusEvent *event)
+{
+    const bool leaves =
+        event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+    if (leaves && m_keepsChoice && currentIndex() < 0)
+        returnToChoice();
+    QComboBox::focusOutEvent(event);
+    if (leaves)
+        lineEdit()->home(false);
+}
+
+void DataCombo::keyPressEvent(QKeyEvent *event)
+{
+    if (m_keepsChoice && event->key() == Qt::Key_Escape && currentIndex() < 0)
+        returnToChoice();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void DataCombo::wheelEvent(QWheelEvent *event)

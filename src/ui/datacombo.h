@@ -16,13 +16,18 @@ class NameFilter;
 /// Typing any part of a name, without regard to case or accents, offers the names that hold it,
 /// the first of them highlighted. Enter takes the highlighted name, Tab takes it and goes on to the
 /// next field, Escape goes back to what was typed. F4 and Alt+Down open the whole list. The wheel
-/// does nothing: a choice is not changed in passing.
+/// does nothing: a choice is not changed in passing. A name too long for the list is cut short
+/// there, with the whole of it in the tooltip, and the box shows its beginning.
 class DataCombo : public QComboBox
 {
     Q_OBJECT
 
 public:
     explicit DataCombo(QWidget *parent = nullptr);
+
+    /// Where there is always to be a choice: typing something else doesn't give it up, and Escape
+    /// or leaving the box with a text that names no row brings it back.
+    void setKeepsChoice(bool on) { m_keepsChoice = on; }
 
     /// Takes the rows of an open result set as the list; no row is chosen, the text is empty and
     /// no change is announced.
@@ -43,6 +48,8 @@ Q_SIGNALS:
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
@@ -52,9 +59,12 @@ private:
     std::optional<qint32> idOfRow(int row) const;
     void chooseRow(int row);
     void resolveText(const QString &text);
+    void returnToChoice();
     void announceIfChanged(std::optional<qint32> id);
 
     NameFilter *m_filter;
     QString m_typed; ///< while the matches are offered, which put their own texts into the box
     std::optional<qint32> m_boundValue;
+    std::optional<qint32> m_lastChoice; ///< what typing began with, or what was taken since
+    bool m_keepsChoice = false;
 };

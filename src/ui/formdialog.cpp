@@ -4,6 +4,7 @@
 #include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
+#include "ui/pickers.h"
 #include "ui/screenfit.h"
 
 #include <QApplication>
@@ -87,6 +88,8 @@ void FormDialog::refuse(QWidget *field, const QString &message)
     field->setFocus();
     if (auto *box = qobject_cast<QLineEdit *>(field))
         box->selectAll();
+    if (auto *picker = qobject_cast<QDateTimeEdit *>(field))
+        selectForTyping(*picker);
 }
 
 void FormDialog::addCheck(QWidget *field, const QString &message, std::function<bool()> passes)
@@ -109,6 +112,11 @@ void FormDialog::checkNumericOrEmpty(QLineEdit *box, const QString &message)
     addCheck(box, message, [this, box] {
         return box->text().isEmpty() || m_session.text().isNumeric(box->text());
     });
+}
+
+void FormDialog::checkTyped(QDateTimeEdit *picker, const QString &message)
+{
+    addCheck(picker, message, [picker] { return takeTyped(*picker); });
 }
 
 QLineEdit *FormDialog::makeBox(const QString &name, const QString &accessibleName)

@@ -7,6 +7,7 @@
 #include <vector>
 
 class Messages;
+class QDateTimeEdit;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -39,6 +40,8 @@ protected:
     void checkNumeric(QLineEdit *box, const QString &message);
     /// The same, but an empty box passes.
     void checkNumericOrEmpty(QLineEdit *box, const QString &message);
+    /// Fails for a half-typed date or time and takes a whole one.
+    void checkTyped(QDateTimeEdit *picker, const QString &message);
     /// Says what is wrong with a field and moves the focus there.
     void refuse(QWidget *field, const QString &message);
 

@@ -1,87 +1,303 @@
 #include "ui/pickers.h"
 
 #include "session/session.h"
+#include "session/typeddatetime.h"
+#include "ui/sectiontyping.h"
+#include "ui/wheelguard.h"
 
 #include <QCalendarWidget>
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QWheelEvent>
+#include <QLineEdit>
 
 namespace {
 
-class TimePicker : public QTimeEdit
+/// What the functions of the header ask of a picker of either kind.
+class TypedEntry
 {
 public:
-    using QTimeEdit::QTimeEdit;
+    virtual ~TypedEntry() = default;
+    virtual bool take() = 0;
+    virtual void selectForTyping() = 0;
+    std::function<void()> tellRefused;
+};
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override
+TypedEntry &entryOf(QDateTimeEdit &picker)
+{
+    return dynamic_cast<TypedEntry &>(picker);
+}
+
+/// Whether the focus is only away for a while, with a menu, a calendar or another window.
+bool isPassing(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+/// An editor of dates or times, which while somebody types is a plain line of text: its own
+/// reading of every key would complete and reorder half of a date. To that end its line's signals
+/// are blocked; all else (sections, steps, calendar) is the base's.
+template<typename Edit>
+class Picker : public Edit, public TypedEntry
+{
+public:
+    Picker(const Session &session, const QString &name, const QString &format, QWidget *parent)
+        : Edit(parent)
+        , m_session(session)
+        , m_sections(*this->lineEdit())
     {
-        // Enter in a half-typed time would complete it and, in the same moment, store what nobody
-        // has seen: it goes to the dialog, which asks takeTypedTime.
-        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (enter && !hasAcceptableInput())
-            event->ignore();
-        else if (currentSection() == AmPmSection && event->key() == Qt::Key_A)
-            setAfternoon(false);
-        else if (currentSection() == AmPmSection && event->key() == Qt::Key_P)
-            setAfternoon(true);
-        else
-            QTimeEdit::keyPressEvent(event);
+        this->setObjectName(name);
+        this->setLocale(session.text().locale());
+        this->setDisplayFormat(format);
+        std::vector<QDateTimeEdit::Section> sections;
+        sections.reserve(size_t(this->sectionCount()));
+        for (int i = 0; i < this->sectionCount(); ++i)
+            sections.push_back(this->sectionAt(i));
+        m_sections.setSections(std::move(sections), format.contains(QLatin1String("MMM")) ||
+                                                        format.contains(QLatin1String("ap")));
+        guardFromWheel(*this);
+        this->lineEdit()->installEventFilter(this);
+        // Text that comes otherwise than by keys, as from a screen reader.
+        QObject::connect(this->lineEdit(), &QLineEdit::textChanged, this, [this] {
+            if (!showsValue())
+                setTyping(true);
+        });
     }
 
-    // The wheel turns the time that is being entered, not one that the pointer passes over.
-    void wheelEvent(QWheelEvent *event) override
+    bool take() override
     {
-        if (hasFocus())
-            QTimeEdit::wheelEvent(event);
+        if (!showsValue()) {
+            const std::optional<Value> typed = m_sections.isTornOff() ? std::nullopt : read();
+            if (!typed)
+                return false;
+            setTyping(false);
+            set(*typed);
+        }
+        setTyping(false);
+        return true;
+    }
+
+    void selectForTyping() override
+    {
+        if (showsValue())
+            m_sections.select(0);
         else
-            event->ignore();
+            this->lineEdit()->selectAll();
+    }
+
+    void stepBy(int steps) override
+    {
+        if (m_isTyping) {
+            const size_t section = m_sections.indexAtCursor();
+            if (!take())
+                return;
+            m_sections.select(section);
+        }
+        Edit::stepBy(steps);
+    }
+
+    QValidator::State validate(QString &text, int &position) const override
+    {
+        return m_isTyping ? QValidator::Intermediate : Edit::validate(text, position);
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != QEvent::InputMethod)
+            return Edit::event(event);
+        setTyping(true);
+        const bool isDone = Edit::event(event);
+        setTyping(!showsValue());
+        return isDone;
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == this->lineEdit() && event->type() == QEvent::MouseButtonRelease) {
+            if (static_cast<QMouseEvent *>(event)->button() == Qt::MiddleButton)
+                setTyping(true); // it pastes
+            else if (!this->lineEdit()->hasSelectedText())
+                m_sections.selectAtCursor();
+        }
+        return Edit::eventFilter(watched, event);
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool isPlain =
+            (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) ==
+            Qt::NoModifier;
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            finish(event);
+        else if (walk(*event))
+            event->accept();
+        else if (isPlain && !event->text().isEmpty() && event->text().front().isPrint())
+            type(event->text());
+        else if (changesText(*event))
+            passToLine(event);
+        else
+            Edit::keyPressEvent(event);
+    }
+
+    // Past the base's own: it would walk the sections before it left the field, and on entering
+    // write the value over a refused text.
+    // NOLINTBEGIN(bugprone-parent-virtual-call)
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QAbstractSpinBox::focusInEvent(event);
+        const bool isBack = isPassing(event->reason()) && m_wasEntered;
+        m_wasEntered = true;
+        if (!isBack && event->reason() != Qt::MouseFocusReason)
+            selectForTyping();
+    }
+    // NOLINTEND(bugprone-parent-virtual-call)
+
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        if (!isPassing(event->reason()) && !take() && tellRefused) {
+            this->lineEdit()->setText(this->textFromDateTime(this->dateTime()));
+            setTyping(false);
+        }
+        QLineEdit &line = *this->lineEdit();
+        const QString typed = line.text();
+        const int cursor = line.cursorPosition();
+        const int start = line.selectionStart();
+        const int length = line.selectionLength();
+        Edit::focusOutEvent(event); // writes the value
+        if (m_isTyping && line.text() != typed) {
+            line.setText(typed);
+            line.setCursorPosition(cursor);
+            if (length > 0)
+                line.setSelection(start, length);
+        }
+    }
+
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        take(); // for the calendar to begin with it
+        Edit::mousePressEvent(event);
+    }
+
+    void contextMenuEvent(QContextMenuEvent *event) override
+    {
+        setTyping(true); // until its Paste is done
+        Edit::contextMenuEvent(event);
+        setTyping(!showsValue());
     }
 
 private:
-    void setAfternoon(bool on)
+    using Value = std::conditional_t<std::is_same_v<Edit, QDateEdit>, QDate, QTime>;
+
+    bool showsValue() const { return this->text() == this->textFromDateTime(this->dateTime()); }
+    void set(QDate date) { this->setDate(date); }
+    void set(QTime time) { this->setTime(time); }
+
+    std::optional<Value> read() const
     {
-        setTime(QTime(time().hour() % 12 + (on ? 12 : 0), time().minute()));
-        setSelectedSection(AmPmSection);
+        const LocaleText &text = m_session.text();
+        if constexpr (std::is_same_v<Edit, QDateEdit>) {
+            const auto date = readDate(this->text(), text.locale(), this->displayFormat(),
+                                       m_session.clock().now().date());
+            const bool fits = date && *date >= this->minimumDate() && *date <= this->maximumDate();
+            return fits ? date : std::nullopt;
+        } else {
+            return readTime(this->text(), text.locale(), text.is24HourClock());
+        }
     }
+
+    void setTyping(bool on)
+    {
+        m_isTyping = on;
+        this->lineEdit()->blockSignals(on);
+    }
+
+    void type(const QString &text)
+    {
+        setTyping(true);
+        for (const QChar c : text)
+            m_sections.type(c);
+    }
+
+    static bool changesText(const QKeyEvent &event)
+    {
+        return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+               event.matches(QKeySequence::Cut) || event.matches(QKeySequence::Paste) ||
+               event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+    }
+
+    void passToLine(QKeyEvent *event)
+    {
+        setTyping(true);
+        this->lineEdit()->event(event);
+        event->accept();
+    }
+
+    bool walk(const QKeyEvent &event)
+    {
+        if ((event.modifiers() & Qt::ShiftModifier) != 0)
+            return false;
+        switch (event.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            m_sections.walk((event.key() == Qt::Key_Right) != this->isRightToLeft());
+            return true;
+        case Qt::Key_Home:
+            m_sections.select(0);
+            return true;
+        case Qt::Key_End:
+            m_sections.select(size_t(this->sectionCount()));
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    // Enter goes on to the dialog, whose OK asks for what is typed and says what is wrong with it.
+    void finish(QKeyEvent *event)
+    {
+        const bool taken = take();
+        selectForTyping();
+        event->setAccepted(!taken && tellRefused);
+        if (event->isAccepted())
+            tellRefused();
+    }
+
+    const Session &m_session;
+    SectionTyping m_sections;
+    bool m_isTyping = false;
+    bool m_wasEntered = false;
 };
 
 } // namespace
 
 QDateEdit *makeDatePicker(const Session &session, const QString &name, QWidget *parent)
 {
-    auto *picker = new QDateEdit(parent);
-    picker->setObjectName(name);
-    picker->setLocale(session.text().locale());
+    const LocaleText &text = session.text();
+    auto *picker = new Picker<QDateEdit>(session, name, text.dateInputFormat(), parent);
     picker->setCalendarPopup(true);
-    picker->calendarWidget()->setLocale(session.text().locale());
-    QString format = session.text().locale().dateFormat(QLocale::ShortFormat);
-    // Two digits would leave the century of a typed year to a guess.
-    if (!format.contains(QLatin1String("yyyy")))
-        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    picker->setDisplayFormat(format);
+    picker->calendarWidget()->setLocale(text.locale());
     return picker;
 }
 
 QTimeEdit *makeTimePicker(const Session &session, const QString &name, QWidget *parent)
 {
-    auto *picker = new TimePicker(parent);
-    picker->setFocusPolicy(Qt::StrongFocus);
-    picker->setObjectName(name);
-    picker->setLocale(session.text().locale());
-    picker->setDisplayFormat(session.qtPickerTimeFormat());
-    return picker;
+    return new Picker<QTimeEdit>(session, name, session.qtPickerTimeFormat(), parent);
 }
 
-bool takeTypedTime(QTimeEdit &picker)
+bool takeTyped(QDateTimeEdit &picker)
 {
-    if (picker.hasAcceptableInput())
-        return true;
-    // One digit of the minutes is enough: "8:5" is as good as 8:05.
-    const QString format = picker.displayFormat().replace(QLatin1String("mm"), QLatin1String("m"));
-    const QTime typed = picker.locale().toTime(picker.text(), format);
-    if (!typed.isValid())
-        return false;
-    picker.setTime(typed);
-    return true;
+    return entryOf(picker).take();
+}
+
+void selectForTyping(QDateTimeEdit &picker)
+{
+    entryOf(picker).selectForTyping();
+}
+
+void whenRefused(QDateTimeEdit &picker, std::function<void()> tell)
+{
+    entryOf(picker).tellRefused = std::move(tell);
 }

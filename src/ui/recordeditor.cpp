@@ -5,6 +5,7 @@
 #include "ui/attempt.h"
 #include "ui/messages.h"
 
+#include <QLineEdit>
 #include <QScopeGuard>
 
 RecordEditor::RecordEditor(Session &session, Messages &messages, Recordset &source,
@@ -34,6 +35,9 @@ void RecordEditor::load()
         throw StoreError(StoreError::Kind::Gone, "the record has been deleted");
     m_loading = true;
     Populate();
+    // Of a text too long for its box, the beginning tells more than the end.
+    for (QLineEdit *box : findChildren<QLineEdit *>())
+        box->home(false);
     m_loading = false;
 }
 

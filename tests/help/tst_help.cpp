@@ -3,6 +3,7 @@
 #include "help/helpviewer.h"
 
 #include <QDirIterator>
+#include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QResource>
@@ -77,9 +78,14 @@ void tst_help::f1OpensThePageOfItsWindow()
         QWidget window;
         window.setObjectName(name);
         window.show();
+        activate(window);
+        QMenu menu(&window); // open or not
+        menu.addAction(QStringLiteral("entry"));
+        if (name == QLatin1String("frmCommon"))
+            menu.popup({});
         QString shown;
         inDialog(
-            "helpViewer", [&] { sendHelpKey(&window); },
+            "helpViewer", [&] { sendHelpKey(menu.isVisible() ? &menu : &window); },
             [&](QWidget &viewer) {
                 shown = control<QTextBrowser>(viewer, "helpText").documentTitle();
             });

@@ -35,6 +35,8 @@ class tst_body : public QObject
 
 private slots:
     void init() { journal = std::make_unique<DayJournal>(QLocale("de_DE")); }
+    void takesTypedDate_data();
+    void takesTypedDate();
     void checksAndStores();
     void keepsWhatIsNotEdited();
     void noKeepsBothMeasurements();
@@ -49,6 +51,59 @@ private:
 
     std::unique_ptr<DayJournal> journal;
 };
+
+void tst_body::takesTypedDate_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("date"); // none where it is refused
+    const auto row = [](const char *name, const char *locale, QString keys, const char *date) {
+        QTest::newRow(name) << QString(locale) << keys << QString(date);
+    };
+    row("as written, en_US", "en_US", "5/3/2025", "2025-05-03");
+    row("as written, de_DE", "de_DE", "03.05.2025", "2025-05-03");
+    row("as written, sv_SE", "sv_SE", "2025-05-03", "2025-05-03");
+    row("as written, hu_HU", "hu_HU", "2025. 05. 03.", "2025-05-03");
+    row("as written, bg_BG", "bg_BG", u"3.05.2025 г."_qs, "2025-05-03");
+    row("as written, C", "C", "3 May 2025", "2025-05-03");
+    row("no separators", "en_US", "05032025", "2025-05-03");
+    row("half of the year", "de_DE", "3.5.25", "2025-05-03");
+    row("over all", "de_DE", "^3/5/2025", "2025-05-03");
+    row("day alone", "de_DE", "3", "2026-07-03");
+    row("year alone", "de_DE", ">>2025", "2025-07-22");
+    row("half-typed year", "de_DE", ">>20", "");
+    row("half-typed date", "en_US", "^5/3", "");
+    row("no day of the month", "de_DE", "31.2.2025", "");
+    row("month and day mixed up", "en_US", "13/5/2025", "");
+    row("a thousand years off", "de_DE", "^3.5.1025", "");
+}
+
+void tst_body::takesTypedDate()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, keys);
+    QFETCH(QString, date);
+    journal = std::make_unique<DayJournal>(QLocale(locale));
+    journal->edit<frmBody>(0, [&](QWidget &dialog) {
+        auto &picker = control<QDateEdit>(dialog, "dtpDate");
+        typeKeys(keys);
+        const QString seen = picker.text();
+        for (const char *number : {"70", "98", "85", "94"}) {
+            pressKey(Qt::Key_Tab); // which leaves the date, in the midst of it too
+            typeKeys(number);
+        }
+        pressKey(Qt::Key_Return);
+        const bool isRefused = date.isEmpty();
+        QCOMPARE(journal->messages.takeText(),
+                 isRefused ? "The Date field contains illegal data" : QString());
+        if (!isRefused)
+            return;
+        QCOMPARE(picker.text(), seen);
+        QVERIFY(picker.hasFocus());
+    });
+    QCOMPARE(journal->row("select date(DateMeasured + 2415018.5), Weight, Hips from Body"),
+             date.isEmpty() ? QString() : date + "|70|94");
+}
 
 void tst_body::checksAndStores()
 {

@@ -79,11 +79,22 @@ void tst_DayLists::followsTheDate()
     const QSignalSpy dayChanged(journal->session.get(), &Session::dayChanged);
     journal->inList<frmMealConsumes>([&](QWidget &window) {
         auto &date = control<QDateEdit>(window, "dtpDate");
+        turnWheelOver(date); // in passing
         date.setFocus();
-        date.setSelectedSection(QDateTimeEdit::DaySection);
-        QTest::keyClicks(&date, "23");
+        typeKeys("^22/07/20");
+        pressKey(Qt::Key_Tab);
+        QCOMPARE(date.text(), "22/07/2026"); // the day that is shown
+        date.setFocus();
+        typeKeys("^23/07");
+        pressKey(Qt::Key_Return);
+        QCOMPARE(journal->messages.takeText(), "The Consume Date field contains illegal data");
+        pressKey(Qt::Key_N, Qt::AltModifier); // the new one would go to another day than written
+        QTRY_VERIFY(!journal->messages.said.empty());
+        QCOMPARE(journal->messages.takeText(), "The Consume Date field contains illegal data");
+        QCoreApplication::processEvents();
+        typeKeys("23/7/26");
         QCOMPARE(dayChanged.count(), 0); // the 2nd was no day that anybody meant
-        QTest::keyClick(&date, Qt::Key_Return);
+        pressKey(Qt::Key_Return);
         QVERIFY(window.isVisible());
         QCOMPARE(shown(window), QStringList{"12:00|Banana|1|2|90|4|96"});
         QCOMPARE(journal->session->currentDate(), QDate(2026, 7, 23));

@@ -52,6 +52,9 @@ void tst_ExercisePerform::choosesAndRecalculates()
         for (int i = 0; i < 4; ++i)
             QTest::keyClick(&quantity, Qt::Key_Down);
         QCOMPARE(entry(editor), "Rowing -0.5 lap -4");
+        typeInto(quantity, "1.1");
+        QTest::keyClick(&quantity, Qt::Key_Down);
+        QCOMPARE(quantity.text(), "0.1");
         typeInto(quantity, "20000001"); // no single-precision number
         QTest::keyClick(&quantity, Qt::Key_Up);
         QCOMPARE(quantity.text(), "20000000");

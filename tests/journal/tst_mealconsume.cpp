@@ -83,12 +83,18 @@ void tst_MealConsume::checksInOrder()
 void tst_MealConsume::takesTypedTime_data()
 {
     QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("keys"); // < deletes
-    QTest::addColumn<int>("minute");   // -1 where it is refused
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<int>("minute"); // -1 where it is refused
     const auto row = [](const char *name, const char *locale, const char *keys, int minute) {
         QTest::newRow(name) << QString(locale) << QString(keys) << minute;
     };
     row("digits alone", "en_GB", "2359", 1439);
+    row("one digit of the hour", "en_GB", "730", 450);
+    row("minutes alone", "en_GB", ">45", 765);
+    row("1:30 or 13:0x", "en_GB", "130", -1);
+    row("over all", "en_GB", "^7:30", 450);
+    row("hours of the other clock", "en_US", "1530", 930);
+    row("neither half", "en_US", "^7:30", -1);
     row("one digit of minutes", "en_GB", "6:5", 365);
     row("no hour", "en_GB", "<", -1);
     row("no minutes", "en_GB", "8:<", -1);
@@ -111,13 +117,10 @@ void tst_MealConsume::takesTypedTime()
         journal->edit<frmMealConsume>(0, [&](QWidget &editor) {
             choose(editor, "dcbMealCategory", "Dairy");
             auto &picker = control<QTimeEdit>(editor, "dtpTime");
-            typeTime(picker, QString());
-            for (const QChar key : keys) {
-                if (key == '<')
-                    pressKey(Qt::Key_Backspace);
-                else
-                    typeKeys(key);
-            }
+            auto *line = picker.findChild<QLineEdit *>();
+            const QPoint hour(line->fontMetrics().averageCharWidth(), line->height() / 2);
+            QTest::mouseClick(line, Qt::LeftButton, {}, hour);
+            typeKeys(keys);
             const QString seen = picker.text();
             if (byEnter)
                 pressKey(Qt::Key_Return);

@@ -48,6 +48,7 @@ private slots:
         m_journal->exec("update Common set weight = 70.5, metabolicRate = 61.25");
         QVERIFY(edit([](Controls form) {
             QCOMPARE(form.rate.text(), u"61,25"_s);
+            turnWheelOver(form.units);
             QCOMPARE(form.unit.text(), u"kg"_s);
             form.accept();
         }));

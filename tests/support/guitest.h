@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <functional>
@@ -93,10 +94,27 @@ inline void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifi
         QTest::sendKeyEvent(QTest::Click, receiver(), key, text, modifiers);
     QCoreApplication::processEvents();
 }
+/// Keys to the field that has the focus: < deletes, > walks on, ^ selects all.
 inline void typeKeys(const QString &text)
 {
-    for (const QChar c : text)
-        pressKey(Qt::Key(c.toUpper().unicode()), Qt::NoModifier, c);
+    for (const QChar c : text) {
+        if (c == u'<')
+            pressKey(Qt::Key_Backspace);
+        else if (c == u'>')
+            pressKey(Qt::Key_Right);
+        else if (c == u'^')
+            pressKey(Qt::Key_A, Qt::ControlModifier);
+        else
+            pressKey(Qt::Key(c.toUpper().unicode()), Qt::NoModifier, c);
+    }
+}
+
+/// The wheel turned up over a field, wherever the focus is.
+inline void turnWheelOver(QWidget &field)
+{
+    QWheelEvent wheel({}, {}, {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&field, &wheel);
 }
 
 /// Runs `open`, which shows a modal dialog of the given name, and `steps` on that dialog as soon

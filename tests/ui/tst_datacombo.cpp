@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 using namespace Qt::Literals;
 
@@ -68,6 +67,8 @@ private slots:
     void escapesToWhatWasTyped();
     void keepsUnknownText();
     void ignoresWheel();
+    void cutsLongNamesShort();
+    void keepsChoice();
 
 private:
     std::unique_ptr<TestJournal> journal;
@@ -143,9 +144,43 @@ void tst_DataCombo::keepsUnknownText()
 void tst_DataCombo::ignoresWheel()
 {
     form->chooser->setBoundValue(2);
-    QWheelEvent wheel({}, {}, {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                      false);
-    QApplication::sendEvent(form->chooser, &wheel);
+    turnWheelOver(*form->chooser);
+    QCOMPARE(form->chooser->boundValue(), 2);
+}
+
+// Neither the form nor the list grows; box and list show the beginning.
+void tst_DataCombo::cutsLongNamesShort()
+{
+    const int width = form->sizeHint().width();
+    form->chooser->addItem(QString(500, u'W'), 9);
+    typeKeys(u"ww"_qs);
+    const QAbstractItemView &list = *form->chooser->completer()->popup();
+    QVERIFY(list.visualRect(list.model()->index(0, 0)).width() <= list.viewport()->width());
+    pressKey(Qt::Key_Tab);
+    QCOMPARE(form->chooser->boundValue(), 9);
+    QCOMPARE(form->chooser->lineEdit()->cursorPosition(), 0);
+    QCOMPARE(form->sizeHint().width(), width);
+}
+
+// Where there is always to be a choice.
+void tst_DataCombo::keepsChoice()
+{
+    form->chooser->setKeepsChoice(true);
+    form->chooser->setBoundValue(2);
+    QSignalSpy changed(form->chooser, &DataCombo::boundValueChanged);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab}) {
+        form->chooser->setFocus();
+        typeKeys(u"^cake"_qs);
+        QCOMPARE(form->chooser->boundValue(), 2);
+        pressKey(key);
+        QVERIFY(form->isVisible());
+        QCOMPARE(form->chooser->displayedText(), u"Fruit juice"_qs);
+    }
+    QCOMPARE(changed.count(), 0);
+    form->chooser->setFocus();
+    typeKeys(u"^fru"_qs);
+    pressKey(Qt::Key_Down); // chooses another, for the time being
+    pressKey(Qt::Key_Escape);
     QCOMPARE(form->chooser->boundValue(), 2);
 }
 
