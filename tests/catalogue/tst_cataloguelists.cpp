@@ -28,8 +28,7 @@ private slots:
     void init() { journal = std::make_unique<DayJournal>(QLocale("de_DE")); }
     void categories();
     void activities();
-    void mealsBeginWithTheFirstCategory();
-    void movedMealIsFollowed();
+    void meals();
 
 private:
     std::unique_ptr<DayJournal> journal;
@@ -58,7 +57,11 @@ void tst_cataloguelists::categories()
                  "refer to it");
         QCOMPARE(selected(window), "Dairy");
         const auto pressEnter = [] { pressKey(Qt::Key_Return); };
-        inDialog("frmMealCategory", pressEnter, [](QWidget &editor) {
+        inDialog("frmMealCategory", pressEnter, [this](QWidget &editor) {
+            typeName(editor, "");
+            journal->refuses(editor, "txtName", "The Name should be specified", "FRUIT");
+            press(editor, "btnOK");
+            QVERIFY(journal->messages.takeText().contains("already Meal Category with the same"));
             typeName(editor, "milk");
             press(editor, "btnOK");
         });
@@ -87,27 +90,26 @@ void tst_cataloguelists::activities()
     });
 }
 
-void tst_cataloguelists::mealsBeginWithTheFirstCategory()
+// From the first category to wherever the last meal has gone.
+void tst_cataloguelists::meals()
 {
     journal->inList<frmMeals>([](QWidget &window) {
-        QCOMPARE(control<DataCombo>(window, "dcbMealCategory").displayedText(), "Dairy");
+        const auto &category = control<DataCombo>(window, "dcbMealCategory");
+        QCOMPARE(category.displayedText(), "Dairy");
         QCOMPARE(shown(window), QStringList{"Crème brûlée|cup|1|1|1|300|1|1"});
         choose(window, "dcbMealCategory", "Fruit");
         QCOMPARE(shown(window),
                  (QStringList{"Apple|piece|1|1|1|30|1,5|0,25", "Banana|piece|1|1|1|100||"}));
         QCOMPARE(selected(window), QString());
-    });
-}
-
-void tst_cataloguelists::movedMealIsFollowed()
-{
-    journal->inList<frmMeals>([](QWidget &window) {
-        const auto &category = control<DataCombo>(window, "dcbMealCategory");
         press(window, "btnNew", "frmMeal", [](QWidget &editor) {
+            const auto &chosen = control<DataCombo>(editor, "dcbMealCategory");
+            press(editor, "btnNewCategory", "frmMealCategory", [](QWidget &) {});
+            QCOMPARE(chosen.displayedText(), "Fruit"); // it was cancelled
             press(editor, "btnNewCategory", "frmMealCategory", [](QWidget &dialog) {
                 typeName(dialog, "Sweets");
                 press(dialog, "btnOK");
             });
+            QCOMPARE(chosen.displayedText(), "Sweets");
         });
         QCOMPARE(category.displayedText(), "Sweets"); // though the meal was cancelled
         QCOMPARE(shown(window), QStringList());

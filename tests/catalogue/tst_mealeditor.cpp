@@ -1,4 +1,4 @@
-// Describing a meal: the split while typing, the order of the checks, categories made on the way.
+// Describing a meal: the split while typing and the order of the checks.
 #include "../journal/dayjournal.h"
 
 #include "catalogue/frmMeal.h"
@@ -25,7 +25,6 @@ private slots:
     void checksInOrder();
     void splitsUnlessItIsLeftAlone();
     void mealWithoutNutrientsNeedsItsShares();
-    void createsACategory();
 
 private:
     QString stored(const char *name)
@@ -109,23 +108,6 @@ void tst_mealeditor::mealWithoutNutrientsNeedsItsShares()
         press(window, "btnOK");
     });
     QCOMPARE(stored("Water"), "1|Water|Water|||0|0|0|0|7|7|7"); // nothing runs the other way
-}
-
-void tst_mealeditor::createsACategory()
-{
-    journal->edit<frmMeal>(1, [this](QWidget &window) {
-        const auto &category = control<DataCombo>(window, "dcbMealCategory");
-        press(window, "btnNewCategory", "frmMealCategory", [](QWidget &) {});
-        QCOMPARE(category.boundValue(), 1); // it was cancelled
-        press(window, "btnNewCategory", "frmMealCategory", [this](QWidget &dialog) {
-            journal->refuses(dialog, "txtName", "The Name should be specified", "FRUIT");
-            press(dialog, "btnOK");
-            QVERIFY(journal->messages.takeText().contains("already Meal Category with the same"));
-            type(dialog, "txtName", "Sweets");
-            press(dialog, "btnOK");
-        });
-        QCOMPARE(category.displayedText(), "Sweets");
-    });
 }
 
 QTEST_MAIN(tst_mealeditor)

@@ -3,7 +3,6 @@
 #include "catalogue/nutrition.h"
 #include "catalogue/weightadjustment.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 class tst_nutrition : public QObject
@@ -13,7 +12,6 @@ class tst_nutrition : public QObject
 private slots:
     void splits_data();
     void splits();
-    void partsAddUpToTheCalories();
     void adjustsToTheWeight();
 };
 
@@ -56,20 +54,6 @@ void tst_nutrition::splits()
         result = "overflow";
     }
     QCOMPARE(result, parts);
-}
-
-void tst_nutrition::partsAddUpToTheCalories()
-{
-    QRandomGenerator random(20260101);
-    const auto any = [&] {
-        return Currency::fromTenThousandths(random.bounded(6'000'001) - 3'000'000);
-    };
-    for (int i = 0; i < 20000; ++i) {
-        const Currency calories = any();
-        const auto parts = caloriesByNutrient(calories, any(), any(), any());
-        if (parts)
-            QCOMPARE(parts->fat + parts->carbohydrate + parts->protein, calories);
-    }
 }
 
 void tst_nutrition::adjustsToTheWeight()

@@ -198,16 +198,6 @@ private slots:
         // The second one stands on the first while that lasts, then on the background.
         QCOMPARE(g.blocks[1].segments, (std::vector{box(600, 660, 3, 7), box(660, 720, 1, 5)}));
     }
-    void noRoomAtAll()
-    {
-        for (const QRectF area : {QRectF(), QRectF(0, 0, 900, 5), QRectF(0, 0, 5, 900)}) {
-            const ChartGeometry g = geometryOf(samples::typicalDay(), area);
-            for (const QPointF point :
-                 {g.columns[0].rect.topLeft(), g.blocks[0].bounds.topLeft(), g.balance[1]})
-                QVERIFY(std::isfinite(point.x()) && std::isfinite(point.y()));
-            QVERIFY(minuteAt(g, 2) >= 0 && minuteAt(g, 2) < 1440);
-        }
-    }
 };
 
 QTEST_APPLESS_MAIN(TestChartGeometry)

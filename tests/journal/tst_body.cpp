@@ -61,20 +61,16 @@ void tst_body::takesTypedDate_data()
         QTest::newRow(name) << QString(locale) << keys << QString(date);
     };
     row("as written, en_US", "en_US", "5/3/2025", "2025-05-03");
-    row("as written, de_DE", "de_DE", "03.05.2025", "2025-05-03");
-    row("as written, sv_SE", "sv_SE", "2025-05-03", "2025-05-03");
     row("as written, hu_HU", "hu_HU", "2025. 05. 03.", "2025-05-03");
     row("as written, bg_BG", "bg_BG", u"3.05.2025 г."_qs, "2025-05-03");
     row("as written, C", "C", "3 May 2025", "2025-05-03");
     row("no separators", "en_US", "05032025", "2025-05-03");
-    row("half of the year", "de_DE", "3.5.25", "2025-05-03");
     row("over all", "de_DE", "^3/5/2025", "2025-05-03");
     row("day alone", "de_DE", "3", "2026-07-03");
     row("year alone", "de_DE", ">>2025", "2025-07-22");
     row("half-typed year", "de_DE", ">>20", "");
     row("half-typed date", "en_US", "^5/3", "");
     row("no day of the month", "de_DE", "31.2.2025", "");
-    row("month and day mixed up", "en_US", "13/5/2025", "");
     row("a thousand years off", "de_DE", "^3.5.1025", "");
 }
 

@@ -30,38 +30,12 @@ class tst_ExercisePerform : public QObject
 
 private slots:
     void init() { journal = std::make_unique<DayJournal>(); }
-    void choosesAndRecalculates();
     void checksInOrder();
     void changesStored();
 
 private:
     std::unique_ptr<DayJournal> journal;
 };
-
-void tst_ExercisePerform::choosesAndRecalculates()
-{
-    journal->edit<frmExercisePerform>(0, [](QWidget &editor) {
-        choose(editor, "dcbExercise", "Walking");
-        QCOMPARE(entry(editor), "Walking 30 minute 105");
-        choose(editor, "dcbExercise", "Rowing");
-        auto &quantity = control<QLineEdit>(editor, "txtQty");
-        typeInto(quantity, "2.5");
-        QCOMPARE(entry(editor), "Rowing 2.5 lap 17"); // 17.5, cut off
-        QTest::keyClick(&quantity, Qt::Key_Up);
-        QCOMPARE(entry(editor), "Rowing 3.5 lap 24");
-        for (int i = 0; i < 4; ++i)
-            QTest::keyClick(&quantity, Qt::Key_Down);
-        QCOMPARE(entry(editor), "Rowing -0.5 lap -4");
-        typeInto(quantity, "1.1");
-        QTest::keyClick(&quantity, Qt::Key_Down);
-        QCOMPARE(quantity.text(), "0.1");
-        typeInto(quantity, "20000001"); // no single-precision number
-        QTest::keyClick(&quantity, Qt::Key_Up);
-        QCOMPARE(quantity.text(), "20000000");
-        choose(editor, "dcbExercise", QString());
-        QCOMPARE(entry(editor).trimmed(), QString());
-    });
-}
 
 void tst_ExercisePerform::checksInOrder()
 {

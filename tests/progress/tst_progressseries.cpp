@@ -176,23 +176,6 @@ private slots:
         QVERIFY(lines[2].endsWith(QStringLiteral("\tfilled in\t\tA: one two")));
         QCOMPARE(lines[3], QStringLiteral("03.06.26\t78,25\t83,4\t88\t103\tmeasured\t-1234\t"));
     }
-    void dayInWords()
-    {
-        ProgressJournal journal;
-        journal.addMeasurement(firstDay, 150, 0);
-        journal.addMeasurement(firstDay.addDays(2), 148, 0);
-        journal.addMeal(firstDay.addDays(1), rate * 24 - 500);
-        journal.addNote(firstDay, firstDay.addDays(1), QStringLiteral("Holiday"));
-        const DaySeries series = load(journal, 3);
-        const ProgressTexts texts(journal.session->text(), false);
-        QCOMPARE(texts.dayWords(series, 2),
-                 QStringLiteral("Tuesday, 2 June 2026\nWeight: 223 lb (filled in)\n"
-                                "Breast: not measured\nWaist: 120 inch (filled in)\n"
-                                "Hips: 142.5 inch (filled in)\n"
-                                "Balance: -500 kcal, less eaten than burnt\nNote: A"));
-        QVERIFY(texts.dayWords(series, 3).endsWith(
-            QStringLiteral("Balance: no meals or activities recorded")));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestProgressSeries)
