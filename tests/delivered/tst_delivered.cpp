@@ -11,7 +11,6 @@ class tst_delivered : public QObject
     Q_OBJECT
 
 private slots:
-    void hasNone_data();
     void hasNone();
     void everyDayIsLived();
 
@@ -19,32 +18,24 @@ private:
     Connection m_connection{QStringLiteral(CORVANA_DELIVERED_DATABASE)};
 };
 
-void tst_delivered::hasNone_data()
-{
-    QTest::addColumn<QByteArray>("rows");
-    const auto none = [](const char *what, const char *rows) {
-        QTest::newRow(what) << QByteArray(rows);
-    };
-    none("meal or activity without a quantity",
-         "(select DefaultQty q from Meal union all select DefaultQty from Exercise)"
-         " where coalesce(q, 0) <= 0");
-    none("key of the user's",
-         "(select MealConsumeID id from MealConsume union all select ExercisePerformID from"
-         " ExercisePerform union all select BodyID from Body union all select UserNoteID from"
-         " UserNote) where id >= 0");
-    none("calories that the parts don't add up to",
-         "Meal where Fat + Carbohydrate + Protein > 0"
-         " and abs(Calories - FatBC - CarbohydrateBC - ProteinBC) > 0.00001");
-    none("activities at the same time",
-         "ExercisePerform a join ExercisePerform b on a.PerformDate = b.PerformDate"
-         " and a.ExercisePerformID < b.ExercisePerformID"
-         " and a.timeBeg < b.timeEnd and b.timeBeg < a.timeEnd");
-}
-
 void tst_delivered::hasNone()
 {
-    QFETCH(QByteArray, rows);
-    QCOMPARE(queryRows(m_connection, "select * from " + rows), QStringList());
+    for (const QByteArray rows :
+         {// Meals and activities without a quantity.
+          "(select DefaultQty q from Meal union all select DefaultQty from Exercise)"
+          " where coalesce(q, 0) <= 0",
+          // Keys of the user's.
+          "(select MealConsumeID id from MealConsume union all select ExercisePerformID from"
+          " ExercisePerform union all select BodyID from Body union all select UserNoteID from"
+          " UserNote) where id >= 0",
+          // Calories that the parts don't add up to.
+          "Meal where Fat + Carbohydrate + Protein > 0"
+          " and abs(Calories - FatBC - CarbohydrateBC - ProteinBC) > 0.00001",
+          // Activities at the same time.
+          "ExercisePerform a join ExercisePerform b on a.PerformDate = b.PerformDate"
+          " and a.ExercisePerformID < b.ExercisePerformID"
+          " and a.timeBeg < b.timeEnd and b.timeBeg < a.timeEnd"})
+        QCOMPARE(queryRows(m_connection, "select * from " + rows), QStringList());
 }
 
 // Every day of the sample has its meals and activities, in amounts that a person lives on. Days
