@@ -40,6 +40,7 @@ private slots:
     void checksAndStores();
     void keepsWhatIsNotEdited();
     void noKeepsBothMeasurements();
+    void yesReplacesTheOther();
     void refusesARecordThatIsGone();
 
 private:
@@ -153,6 +154,26 @@ void tst_body::noKeepsBothMeasurements()
     });
     // The first OK has taken identifier 2 before the question; it is lost.
     QCOMPARE(stored(), "3|1|70|98|85|94|M\n10|0|80|100|90|95|M");
+}
+
+void tst_body::yesReplacesTheOther()
+{
+    journal->exec("insert into Body values (10, 46225, 80, 100, 90, 95, 'M'),"
+                  " (11, 46224, 80, 100, 90, 95, 'M');"
+                  "create trigger Refuse before update on Body begin"
+                  " select raise(abort, 'no room'); end");
+    journal->messages.answers = {true};
+    journal->edit<frmBody>(11, [this](QWidget &dialog) {
+        setDate(dialog, today);
+        press(dialog, "btnOK");
+        QCOMPARE(journal->messages.said.front().text, sameDate);
+        QCOMPARE(journal->messages.takeText(), refused);
+        QCOMPARE(stored(), "11|-1|80|100|90|95|M"); // the other stays deleted all the same
+        journal->exec("drop trigger Refuse");
+        press(dialog, "btnOK"); // begins anew, and finds no other any more
+    });
+    QVERIFY(journal->messages.said.empty());
+    QCOMPARE(stored(), "11|0|80|100|90|95|M");
 }
 
 void tst_body::refusesARecordThatIsGone()

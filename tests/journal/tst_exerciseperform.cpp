@@ -55,6 +55,10 @@ void tst_ExercisePerform::checksInOrder()
         press(window, "btnOK");
     });
     QCOMPARE(editor->storedId(), 2);
+    journal->edit<frmExercisePerform>(2, [](QWidget &window) {
+        QCOMPARE(textOf(window, "txtQty"), "-30"); // and not what is usual
+        press(window, "btnOK");
+    });
     QCOMPARE(journal->activities(), QStringList{"2|2|46225|1380|1411|-30"});
     QCOMPARE(journal->row("select NextExercisePerformID from Common"), "2");
     QCOMPARE(journal->session->currentTime(), QTime(23, 0));

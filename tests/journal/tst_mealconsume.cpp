@@ -76,6 +76,10 @@ void tst_MealConsume::checksInOrder()
     });
     // The counter holds the number given out last.
     QCOMPARE(editor->storedId(), 2);
+    journal->edit<frmMealConsume>(2, [](QWidget &window) {
+        QCOMPARE(textOf(window, "txtQty"), "-2,5"); // and not what is usual
+        press(window, "btnOK");
+    });
     QCOMPARE(journal->row("select NextMealConsumeID from Common"), "2");
     QCOMPARE(journal->meals(), QStringList{"2|1|46225|750|-2.5"});
 }

@@ -66,7 +66,9 @@ private slots:
     }
     void keyboardPointerAndTableTellTheDay()
     {
-        m_journal->exec("update Body set Breast = 0");
+        m_journal->exec("update Body set Breast = 0; update Common set Measurement = 'I'");
+        m_journal->data->rsCommon.close();
+        m_journal->session->readCommonParameters();
         m_journal->addMeasurement(firstDay.addDays(2), 79, 0);
         m_journal->addNote(firstDay, firstDay.addDays(1), QStringLiteral("Holiday"));
         frmGeneralProgress window(*m_journal->session, m_messages,
@@ -83,9 +85,9 @@ private slots:
         const QString before = told.text();
         QTest::keyClick(&chart, Qt::Key_Right);
         QCOMPARE(chart.accessibleDescription(),
-                 QStringLiteral("Tuesday, 23 June 2026\nWeight: 119 kg (filled in)\n"
-                                "Breast: not measured\nWaist: 120 cm (filled in)\n"
-                                "Hips: 142.5 cm (filled in)\n"
+                 QStringLiteral("Tuesday, 23 June 2026\nWeight: 119 lb (filled in)\n"
+                                "Breast: not measured\nWaist: 120 inch (filled in)\n"
+                                "Hips: 142.5 inch (filled in)\n"
                                 "Balance: -300 kcal, less eaten than burnt\nNote: A"));
         const QModelIndex row = control<QTreeView>(window, "lvwDays").model()->index(1, 1);
         QCOMPARE(row.data().toString(), QStringLiteral("(119)"));

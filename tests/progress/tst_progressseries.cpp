@@ -171,6 +171,7 @@ private slots:
         journal.addNote(firstDay.addDays(1), firstDay.addDays(1), QStringLiteral("one\n\ttwo"));
         const ProgressTexts texts(journal.session->text(), true);
         const QStringList lines = tableOf(load(journal, 4), texts).toTabSeparated().split(u'\n');
+        QVERIFY(lines[0].startsWith(QStringLiteral("Date\tWeight (kg)\tBreast (cm)\t")));
         QCOMPARE(lines[1], QStringLiteral("01.06.26\t1079,5\t83,4\t90\t\tmeasured\t\t"));
         QCOMPARE(lines[2].section(u'\t', 2, 2), QStringLiteral("125,1")); // not 125,100006
         QVERIFY(lines[2].endsWith(QStringLiteral("\tfilled in\t\tA: one two")));
