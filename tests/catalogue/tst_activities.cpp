@@ -16,15 +16,6 @@ void toggleDependence(const QWidget &window)
     QTest::keyClick(&check, Qt::Key_Space);
 }
 
-/// Describes rowing as an activity that depends on the weight.
-void describe(const QWidget &window, const QString &calories)
-{
-    toggleDependence(window);
-    type(window, "txtName", "Rowing");
-    type(window, "txtCaloriesConsume", calories);
-    type(window, "txtUnit", "hour");
-}
-
 } // namespace
 
 class tst_activities : public QObject
@@ -39,9 +30,8 @@ private slots:
         journal->setUser(90, "M");
     }
     void checksInOrder();
-    void storesTheBase();
+    void asksOrCalculatesForMe();
     void changedCaloriesAloneChangeTheBase();
-    void calculatorAnswersForMe();
     void calculatorRefuses();
 
 private:
@@ -75,12 +65,14 @@ void tst_activities::checksInOrder()
     QCOMPARE(stored(), "Running|minute|0.5|7.5|7.5|0\nWalking|km||50|50|0");
 }
 
-void tst_activities::storesTheBase()
+void tst_activities::asksOrCalculatesForMe()
 {
-    journal->setUser(200, "I");
     journal->edit<frmExercise>(0, [this](QWidget &window) {
         QVERIFY(!control<QPushButton>(window, "btnWeightAdjust").isEnabled());
-        describe(window, "300");
+        toggleDependence(window);
+        type(window, "txtName", "Rowing");
+        type(window, "txtCaloriesConsume", "450");
+        type(window, "txtUnit", "hour");
         press(window, "btnOK"); // answered with No
         QVERIFY(journal->messages.said.front().isQuestion);
         QCOMPARE(journal->messages.said.front().title, "Are you sure?");
@@ -89,10 +81,19 @@ void tst_activities::storesTheBase()
                  "Calories Consume value exactly for your body weight? If No, please press 'For "
                  "Me' button and use our weight adjustment calculator.");
         QCOMPARE(stored(), QString());
-        journal->messages.answers = {true};
+        const auto forMe = [&](const char *button) {
+            press(window, "btnWeightAdjust", "frmWeightAdjustment", [&](QWidget &calculator) {
+                QCOMPARE(textOf(calculator, "txtCaloriesConsume"), "450");
+                press(calculator, button);
+            });
+            return textOf(window, "txtCaloriesConsume");
+        };
+        QCOMPARE(forMe("btnCancel"), "450");
+        QCOMPARE(forMe("btnOK"), "595");
         press(window, "btnOK");
     });
-    QCOMPARE(stored(), "Rowing|hour||300|225|1");
+    QCOMPARE(journal->messages.takeText(), QString()); // they are for the user's body
+    QCOMPARE(stored(), "Rowing|hour||595|449.82|1");
 }
 
 void tst_activities::changedCaloriesAloneChangeTheBase()
@@ -109,31 +110,13 @@ void tst_activities::changedCaloriesAloneChangeTheBase()
                           " from Exercise"),
              "|1|123");
     journal->exec("update Exercise set CaloriesConsume = 300, WeightDependent = 0");
+    journal->setUser(200, "I");
     journal->messages.answers = {true};
     journal->edit<frmExercise>(1, [](QWidget &window) {
         toggleDependence(window); // which counts as a change
         press(window, "btnOK");
     });
-    QCOMPARE(stored(), "Rowing|hour||300|226.8|1");
-}
-
-void tst_activities::calculatorAnswersForMe()
-{
-    journal->edit<frmExercise>(0, [](QWidget &window) {
-        describe(window, "450");
-        const auto forMe = [&](const char *button) {
-            press(window, "btnWeightAdjust", "frmWeightAdjustment", [&](QWidget &calculator) {
-                QCOMPARE(textOf(calculator, "txtCaloriesConsume"), "450");
-                press(calculator, button);
-            });
-            return textOf(window, "txtCaloriesConsume");
-        };
-        QCOMPARE(forMe("btnCancel"), "450");
-        QCOMPARE(forMe("btnOK"), "595");
-        press(window, "btnOK");
-    });
-    QCOMPARE(journal->messages.takeText(), QString()); // they are for the user's body
-    QCOMPARE(stored(), "Rowing|hour||595|449.82|1");
+    QCOMPARE(stored(), "Rowing|hour||300|225|1");
 }
 
 void tst_activities::calculatorRefuses()
