@@ -24,7 +24,6 @@ class tst_builder : public QObject
 
 private slots:
     void init();
-    void refusesBrokenSources_data();
     void refusesBrokenSources();
     void computesWhatTheProgramWould();
 
@@ -66,50 +65,38 @@ void tst_builder::init()
     write(u"sample/notes.tsv"_s, u"FirstDay\tLastDay\tText\n-3\t-1\tA start\n"_s);
 }
 
-void tst_builder::refusesBrokenSources_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("row"); // behind those of the small sources, "|" between the cells
-    QTest::addColumn<QString>("message");
-    const auto defect = [](const char *file, const char *row, const char *message) {
-        QTest::newRow(row) << QString::fromLatin1(file) << QString::fromLatin1(row)
-                           << QString::fromLatin1(message);
-    };
-
-    const char *meals = "catalogue/meals/1.tsv";
-    defect(meals, "Tea|cup|1|1|2|0|0", ":6: There are 7 cells instead of 8");
-    defect(meals, "PIE|slice|||1|0|0|0", ":6: The name \"PIE\" is taken at ");
-    defect(meals, "Tea|cup|||1|999999999999999|0|0", ":6: Fat 999999999999999 is out of range");
-    defect(meals, "Wine|glass|||126|0|3.8|0.1",
-           ":6: \"Wine\" has 126 kcal, but what it holds makes 15.6");
-    defect("catalogue/energy.tsv", "Pie||-5|fibre", ":3: Meal \"Pie\" fits without this row");
-    defect("sample/meals.tsv", "0|08:00|Cake|1", ":3: Meal \"Cake\" is not in the catalogue");
-    defect("sample/activities.tsv", "0|09:00|09:10|Piano|11",
-           ":3: Qty is more than the 10 minutes from Begin");
-    defect("sample/body.tsv", "-1|74|97|86|104", ":3: Day -1 has a measurement already");
-    defect("sample/notes.tsv", "2|1|Oops", ":3: LastDay is before FirstDay");
-    defect("sample/notes.tsv", "-1|4|More", ":3: The note shares a day with the note \"A start\"");
-    defect("common.tsv", "75|M|1|1|1|1|2026-01-01", ":1: There should be exactly one row");
-}
-
 void tst_builder::refusesBrokenSources()
 {
-    QFETCH(QString, file);
-    QFETCH(QString, row);
-    QFETCH(QString, message);
-
-    delivered::loadSources(m_folder->path()); // without a defect so far
-    QFile source(path(file));
-    QVERIFY(source.open(QIODevice::Append));
-    source.write(row.replace(u'|', u'\t').toUtf8() + '\n');
-    source.close();
-    QString said;
-    try {
-        delivered::loadSources(m_folder->path());
-    } catch (const delivered::SourceError &error) {
-        said = QString::fromUtf8(error.what());
+    const char *meals = "catalogue/meals/1.tsv";
+    // Rows behind those of the small sources, "|" between the cells.
+    const std::tuple<const char *, QString, const char *> defects[] = {
+        {meals, u"Tea|cup|1|1|2|0|0"_s, ":6: There are 7 cells instead of 8"},
+        {meals, u"PIE|slice|||1|0|0|0"_s, ":6: The name \"PIE\" is taken at "},
+        {meals, u"Tea|cup|||1|999999999999999|0|0"_s, ":6: Fat 999999999999999 is out of range"},
+        {meals, u"Wine|glass|||126|0|3.8|0.1"_s,
+         ":6: \"Wine\" has 126 kcal, but what it holds makes 15.6"},
+        {"catalogue/energy.tsv", u"Pie||-5|fibre"_s, ":3: Meal \"Pie\" fits without this row"},
+        {"sample/meals.tsv", u"0|08:00|Cake|1"_s, ":3: Meal \"Cake\" is not in the catalogue"},
+        {"sample/activities.tsv", u"0|09:00|09:10|Piano|11"_s,
+         ":3: Qty is more than the 10 minutes from Begin"},
+        {"sample/body.tsv", u"-1|74|97|86|104"_s, ":3: Day -1 has a measurement already"},
+        {"sample/notes.tsv", u"2|1|Oops"_s, ":3: LastDay is before FirstDay"},
+        {"sample/notes.tsv", u"-1|4|More"_s, ":3: The note shares a day with the note \"A start\""},
+        {"common.tsv", u"75|M|1|1|1|1|2026-01-01"_s, ":1: There should be exactly one row"}};
+    for (const auto &[file, row, message] : defects) {
+        init();
+        QFile source(path(file));
+        QVERIFY(source.open(QIODevice::Append));
+        source.write(QString(row).replace(u'|', u'\t').toUtf8() + '\n');
+        source.close();
+        QString said;
+        try {
+            delivered::loadSources(m_folder->path());
+        } catch (const delivered::SourceError &error) {
+            said = QString::fromUtf8(error.what());
+        }
+        QVERIFY2(said.startsWith(path(file) + message), qPrintable(row + said));
     }
-    QVERIFY2(said.startsWith(path(file) + message), qPrintable(said));
 }
 
 void tst_builder::computesWhatTheProgramWould()
