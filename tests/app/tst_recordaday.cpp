@@ -8,6 +8,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QLabel>
 
 using namespace Qt::Literals;
 
@@ -18,6 +19,7 @@ class tst_RecordADay : public QObject
 private slots:
     void init();
     void addsMeals();
+    void addsActivity();
     void answersTheChart();
     void editsFromTheChart();
 
@@ -69,6 +71,7 @@ void tst_RecordADay::addsMeals()
             // The chart behind the dialog follows at once.
             QVERIFY(editor.isVisible());
             QCOMPARE(onChart(u"Meal at"_qs), QStringList{u"Meal at 12:30, 96 kcal"_qs});
+            QCOMPARE(control<QLabel>(editor, "lblAdded").text(), u"Added: Banana, 1, 12:30"_qs);
             typeKeys(u"dairy"_qs);
             pressKey(Qt::Key_Tab);
             typeTime(control<QTimeEdit>(editor, "dtpTime"), u"1915"_qs);
@@ -80,6 +83,24 @@ void tst_RecordADay::addsMeals()
     QCOMPARE(onChart(u"Meal at"_qs),
              (QStringList{u"Meal at 12:30, 96 kcal"_qs, u"Meal at 19:15, 300 kcal"_qs}));
     QCOMPARE(program->session()->currentTime(), QTime(19, 15));
+}
+
+void tst_RecordADay::addsActivity()
+{
+    inDialog(
+        "frmExercisePerform", [&] { choose("mnuAddExercise"); },
+        [&](QWidget &editor) {
+            control<DataCombo>(editor, "dcbExercise").setFocus();
+            typeKeys(u"alk"_qs);
+            pressKey(Qt::Key_Tab);
+            typeTime(control<QTimeEdit>(editor, "dtpEndTime"), u"1300"_qs);
+            pressKey(Qt::Key_Return);
+            QCOMPARE(onChart(u"Activity"_qs).size(), 1);
+            press(editor, "btnCancel");
+        });
+    QCOMPARE(journal->messages.takeText(), QString());
+    QCOMPARE(journal->activities(), QStringList{u"2|2|46225|750|780|30"_qs});
+    QVERIFY(onChart(u"Activity"_qs).value(0).contains(u"105 kcal"_qs));
 }
 
 void tst_RecordADay::answersTheChart()

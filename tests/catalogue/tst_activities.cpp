@@ -16,15 +16,6 @@ void toggleDependence(const QWidget &window)
     QTest::keyClick(&check, Qt::Key_Space);
 }
 
-/// Describes rowing as an activity that depends on the weight.
-void describe(const QWidget &window, const QString &calories)
-{
-    toggleDependence(window);
-    type(window, "txtName", "Rowing");
-    type(window, "txtCaloriesConsume", calories);
-    type(window, "txtUnit", "hour");
-}
-
 } // namespace
 
 class tst_activities : public QObject
@@ -39,10 +30,8 @@ private slots:
         journal->setUser(90, "M");
     }
     void checksInOrder();
-    void storesTheBase();
-    void untouchedCaloriesKeepTheirBase();
-    void tickingCountsAsAChange();
-    void calculatorAnswersForMe();
+    void asksOrCalculatesForMe();
+    void changedCaloriesAloneChangeTheBase();
     void calculatorRefuses();
 
 private:
@@ -57,8 +46,7 @@ private:
 
 void tst_activities::checksInOrder()
 {
-    journal->exec("insert into Exercise (Name, Unit, CaloriesConsume, CaloriesConsumeBase,"
-                  " WeightDependent) values ('Walking', 'km', 50, 50, 0)");
+    journal->exec("insert into Exercise values (1, 'Walking', 'km', null, 50, 50, 0)");
     journal->edit<frmExercise>(0, [this](QWidget &window) {
         const QString illegal = "The Calories Consume field contains illegal data";
         journal->refuses(window, "txtName", "The Name should be specified", "walking");
@@ -70,21 +58,21 @@ void tst_activities::checksInOrder()
         journal->refuses(window, "txtDefaultQty",
                          "The Default Quantity field contains illegal data", "0,5");
         press(window, "btnOK");
-        QCOMPARE(journal->messages.takeText(),
-                 "Can't store this record in database. Please check whether there is already "
-                 "Activity with the same name in the database");
+        QVERIFY(journal->messages.takeText().contains("already Activity with the same name"));
         type(window, "txtName", "Running");
         press(window, "btnOK");
     });
     QCOMPARE(stored(), "Running|minute|0.5|7.5|7.5|0\nWalking|km||50|50|0");
 }
 
-void tst_activities::storesTheBase()
+void tst_activities::asksOrCalculatesForMe()
 {
-    journal->setUser(200, "I");
     journal->edit<frmExercise>(0, [this](QWidget &window) {
         QVERIFY(!control<QPushButton>(window, "btnWeightAdjust").isEnabled());
-        describe(window, "300");
+        toggleDependence(window);
+        type(window, "txtName", "Rowing");
+        type(window, "txtCaloriesConsume", "450");
+        type(window, "txtUnit", "hour");
         press(window, "btnOK"); // answered with No
         QVERIFY(journal->messages.said.front().isQuestion);
         QCOMPARE(journal->messages.said.front().title, "Are you sure?");
@@ -93,42 +81,6 @@ void tst_activities::storesTheBase()
                  "Calories Consume value exactly for your body weight? If No, please press 'For "
                  "Me' button and use our weight adjustment calculator.");
         QCOMPARE(stored(), QString());
-        journal->messages.answers = {true};
-        press(window, "btnOK");
-    });
-    QCOMPARE(stored(), "Rowing|hour||300|225|1");
-}
-
-void tst_activities::untouchedCaloriesKeepTheirBase()
-{
-    // A base that does not follow from these calories and this user's weight.
-    journal->exec("insert into Exercise values (1, 'Rowing', 'hour', 2, 299.999947, 123, 1)");
-    journal->edit<frmExercise>(1, [this](QWidget &window) {
-        QCOMPARE(textOf(window, "txtCaloriesConsume"), "299,9999");
-        type(window, "txtDefaultQty", "");
-        press(window, "btnOK");
-    });
-    QVERIFY(journal->messages.said.empty());
-    QCOMPARE(journal->row("select DefaultQty, CaloriesConsume = 299.999947, CaloriesConsumeBase"
-                          " from Exercise"),
-             "|1|123");
-}
-
-void tst_activities::tickingCountsAsAChange()
-{
-    journal->exec("insert into Exercise values (1, 'Rowing', 'hour', null, 300, 300, 0)");
-    journal->messages.answers = {true};
-    journal->edit<frmExercise>(1, [](QWidget &window) {
-        toggleDependence(window);
-        press(window, "btnOK");
-    });
-    QCOMPARE(stored(), "Rowing|hour||300|226.8|1");
-}
-
-void tst_activities::calculatorAnswersForMe()
-{
-    journal->edit<frmExercise>(0, [](QWidget &window) {
-        describe(window, "450");
         const auto forMe = [&](const char *button) {
             press(window, "btnWeightAdjust", "frmWeightAdjustment", [&](QWidget &calculator) {
                 QCOMPARE(textOf(calculator, "txtCaloriesConsume"), "450");
@@ -142,6 +94,29 @@ void tst_activities::calculatorAnswersForMe()
     });
     QCOMPARE(journal->messages.takeText(), QString()); // they are for the user's body
     QCOMPARE(stored(), "Rowing|hour||595|449.82|1");
+}
+
+void tst_activities::changedCaloriesAloneChangeTheBase()
+{
+    // A base that does not follow from these calories and this user's weight.
+    journal->exec("insert into Exercise values (1, 'Rowing', 'hour', 2, 299.999947, 123, 1)");
+    journal->edit<frmExercise>(1, [this](QWidget &window) {
+        QCOMPARE(textOf(window, "txtCaloriesConsume"), "299,9999");
+        type(window, "txtDefaultQty", "");
+        press(window, "btnOK");
+    });
+    QVERIFY(journal->messages.said.empty());
+    QCOMPARE(journal->row("select DefaultQty, CaloriesConsume = 299.999947, CaloriesConsumeBase"
+                          " from Exercise"),
+             "|1|123");
+    journal->exec("update Exercise set CaloriesConsume = 300, WeightDependent = 0");
+    journal->setUser(200, "I");
+    journal->messages.answers = {true};
+    journal->edit<frmExercise>(1, [](QWidget &window) {
+        toggleDependence(window); // which counts as a change
+        press(window, "btnOK");
+    });
+    QCOMPARE(stored(), "Rowing|hour||300|225|1");
 }
 
 void tst_activities::calculatorRefuses()
@@ -160,13 +135,10 @@ void tst_activities::calculatorRefuses()
         journal->refuses(window, "txtCaloriesConsume",
                          "The calories for your weight are out of range (-32768 to 32767)", "450");
         QVERIFY(!calculator.OK());
-        type(window, "txtWeight", "35");
-        press(window, "btnOK");
     };
     calculator.setCaloriesConsume(QString());
     inDialog(
         "frmWeightAdjustment", [&] { calculator.run(); }, steps);
-    QCOMPARE(int(calculator.caloriesAdjusted()), 900);
 }
 
 QTEST_MAIN(tst_activities)

@@ -16,23 +16,6 @@ inline daychart::DayData typicalDay()
             {{21, QTime(8, 0), QTime(8, 30), 120}, {22, QTime(17, 30), QTime(18, 30), 480}}};
 }
 
-/// Midnight and 23:59, no calories, negative ones, one minute of 500, three deep.
-inline daychart::DayData oddDay()
-{
-    return {1.25,
-            {{11, QTime(0, 0), 200, 100, 50},
-             {12, QTime(12, 0), 0, 0, 0},
-             {13, QTime(12, 5), -100, -40, -30},
-             {14, QTime(14, 5), 100, -60, 30},
-             {15, QTime(23, 59), 150, 90, 70}},
-            {{21, QTime(6, 0), QTime(6, 1), 500},
-             {22, QTime(9, 0), QTime(11, 0), 400},
-             {23, QTime(9, 30), QTime(10, 30), 300},
-             {24, QTime(10, 0), QTime(12, 0), 200},
-             {25, QTime(15, 0), QTime(16, 0), -120},
-             {26, QTime(23, 58), QTime(23, 59), 0}}};
-}
-
 /// Any day: up to forty items over a day, an hour or at once, some without calories, some negative,
 /// now and then one that is far larger than all others.
 inline daychart::DayData anyDay(quint32 seed)

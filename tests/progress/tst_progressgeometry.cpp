@@ -75,13 +75,6 @@ ChartGeometry geometryOf(const DaySeries &series, QSizeF size = {1000, 640})
     return progressGeometry(series, QRectF({0, 0}, size), {16, 22, width}, {english, true});
 }
 
-bool says(const ChartGeometry &geometry, const char *text)
-{
-    return std::any_of(geometry.texts.begin(), geometry.texts.end(), [&](const PlacedText &placed) {
-        return placed.text.startsWith(QLatin1String(text));
-    });
-}
-
 } // namespace
 
 class TestProgressGeometry : public QObject
@@ -101,7 +94,6 @@ private slots:
             QCOMPARE(float(scale.high), expected.maximum);
             QCOMPARE(scale.y(scale.low), 110.0);
         }
-        QVERIFY(ValueScale().ticks(20).empty()); // of a lane without values
         QVERIFY_THROWS_EXCEPTION(OverflowError, scaleOf({1, 1e30F}, 6, 0.1, 0, 100));
     }
     void everythingFits_data()
@@ -143,15 +135,12 @@ private slots:
         series.Approximate();
         const ChartGeometry geometry = geometryOf(series);
         const SeriesLine &line = geometry.lines.front();
-        QCOMPARE(line.marks.size(), size_t(6));
         QVERIFY(line.marks[2].kind == Mark::Kind::AboveScale);
         QCOMPARE(line.marks[2].at.y(), geometry.weight.area.top());
         QCOMPARE(line.marks[1].at.y(), geometry.weight.scale.y(78));
         QCOMPARE(line.measured.size(), size_t(2));
         QCOMPARE(line.bridges.size(), size_t(1));
         QCOMPARE(line.bridges[0], QLineF(line.marks[1].at, line.marks[3].at));
-        QVERIFY(says(geometry, "No meals or activities in this period"));
-        QVERIFY(says(geometryOf(seriesOf(92)), "There are no measurements"));
     }
     void columnsStandOnZeroOrAreMissing()
     {
@@ -163,7 +152,6 @@ private slots:
         QCOMPARE(columns[0].rect.bottom(), geometry.balance.scale.y(0));
         QCOMPARE(columns[1].rect.top(), geometry.balance.scale.y(0));
         QCOMPARE(columns[0].rect.height(), 2 * columns[1].rect.height());
-        QVERIFY(columns[0].isSurplus && !columns[1].isSurplus);
         QCOMPARE(geometry.notRecorded.size(), size_t(2));
         QCOMPARE(geometry.notRecorded[0].left(), geometry.days.x(3));
     }
