@@ -53,6 +53,7 @@ void tst_DayLists::meals()
         QCOMPARE(changed.count(), 1);
         press(window, "btnDelete");
         QCOMPARE(shown(window).size(), 4);
+        QCOMPARE(selectedRow(window), 2); // positions count the rows that are no records
     });
     QCOMPARE(journal->rows("select MealConsumeID from MealConsume order by 1"),
              (QStringList{"1", "3", "4"}));
@@ -103,6 +104,12 @@ void tst_DayLists::followsTheDate()
             press(editor, "btnOK");
         });
         QCOMPARE(selectedRow(window), 1);
+        journal->exec("alter table MealConsume rename to Unreadable");
+        date.setDate(QDate(2026, 7, 22));
+        QCOMPARE(journal->messages.takeText(), "The day can't be shown");
+        QCOMPARE(shown(window).size(), 4);
+        QCOMPARE(date.date(), QDate(2026, 7, 23));
+        journal->exec("alter table Unreadable rename to MealConsume");
     });
     QCOMPARE(journal->meals().last(), "7|3|46226|750|1");
 }
