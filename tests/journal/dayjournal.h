@@ -103,9 +103,6 @@ public:
     RecordedMessages messages;
 };
 
-/// Day number of the day on which the test journal stands.
-inline constexpr int testDay = 46225;
-
 inline QString textOf(const QWidget &window, const char *box)
 {
     return control<QLineEdit>(window, box).text();

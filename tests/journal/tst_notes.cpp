@@ -5,7 +5,6 @@
 
 #include <QDateEdit>
 #include <QPlainTextEdit>
-#include <QScreen>
 
 namespace {
 
@@ -30,22 +29,9 @@ class tst_notes : public QObject
 private slots:
     void init() { journal = std::make_unique<DayJournal>(); }
     void checksAndStores();
-    void keysInTheText();
     void keepsEveryCharacterOfAStoredNote();
-    void tellsOfTheOtherNoteAndLosesAnIdentifier();
-    void messageOfALongNoteFitsTheScreen();
 
 private:
-    void addNote(int id, int from, int to, const QString &text)
-    {
-        SQLite::Statement statement(journal->data->Con.database(),
-                                    "insert into UserNote values (?, ? + 46203, ? + 46203, ?)");
-        statement.bind(1, id);
-        statement.bind(2, from);
-        statement.bind(3, to);
-        bindValue(statement, 4, Value(text));
-        statement.exec();
-    }
     // Days of the month; the text in the last column.
     QStringList stored()
     {
@@ -57,61 +43,20 @@ private:
     std::unique_ptr<DayJournal> journal;
 };
 
+// With the keys that the text takes and those that it leaves to the dialog.
 void tst_notes::checksAndStores()
 {
+    journal->exec("insert into UserNote values (9, 46213, 46217, 'Holiday\nin the mountains ')");
     const auto editor = journal->edit<frmUserNote>(0, [this](QWidget &dialog) {
         QCOMPARE(control<QDateEdit>(dialog, "dtpDateTo").date(), QDate(2026, 7, 22));
-        setPeriod(dialog, 5, 4);
+        setPeriod(dialog, 14, 13);
         press(dialog, "btnOK");
         QCOMPARE(journal->messages.takeText(), "The Date To is less than Date From");
-        setPeriod(dialog, 5, 5);
+        setPeriod(dialog, 14, 16);
         typeInto(note(dialog), "  ");
         journal->refuses(dialog, "txtNote", "The Note text should be specified",
                          "  a <b>fast</b> & 'quoted'; ");
         QCOMPARE(counter(), "1");
-        press(dialog, "btnOK");
-    });
-    QCOMPARE(stored(), QStringList{"2|5|5|  a <b>fast</b> & 'quoted'; "});
-    QCOMPARE(editor->storedId(), 2);
-    QCOMPARE(counter(), "2");
-}
-
-void tst_notes::keysInTheText()
-{
-    journal->edit<frmUserNote>(0, [](QWidget &dialog) {
-        typeInto(note(dialog), "one");
-        QTest::keyClick(&note(dialog), Qt::Key_Return);
-        QTest::keyClicks(&note(dialog), "two");
-        QTest::keyClick(&note(dialog), Qt::Key_Return, Qt::ShiftModifier);
-        QTest::keyClicks(&note(dialog), "three");
-        QTest::keyClick(&note(dialog), Qt::Key_Tab);
-        QCOMPARE(dialog.focusWidget()->objectName(), "btnOK");
-        note(dialog).setFocus();
-        QTest::keyClick(&note(dialog), Qt::Key_Return, Qt::ControlModifier);
-    });
-    QCOMPARE(stored(), QStringList{"2|22|22|one\ntwo\nthree"});
-}
-
-void tst_notes::keepsEveryCharacterOfAStoredNote()
-{
-    const QString text =
-        QString("no-break\u00a0space, tab\t, 日本語, العربية, 😀, e\u0301, \n\n end ") +
-        QString(1'000'000, u'x'); // wrapped at its blanks it would take minutes
-    addNote(7, 1, 3, text);
-    journal->edit<frmUserNote>(7, [](QWidget &dialog) {
-        setPeriod(dialog, 3, 4); // which is no overlap with another
-        press(dialog, "btnOK");
-    });
-    QCOMPARE(stored(), QStringList{"7|3|4|" + text});
-    QCOMPARE(counter(), "1");
-}
-
-void tst_notes::tellsOfTheOtherNoteAndLosesAnIdentifier()
-{
-    addNote(9, 10, 14, "Holiday\nin the mountains ");
-    journal->edit<frmUserNote>(0, [this](QWidget &dialog) {
-        setPeriod(dialog, 14, 16);
-        typeInto(note(dialog), "new");
         press(dialog, "btnOK");
         QCOMPARE(journal->messages.said.size(), size_t(1));
         QCOMPARE(journal->messages.said.front().title, "Intersection");
@@ -122,28 +67,39 @@ void tst_notes::tellsOfTheOtherNoteAndLosesAnIdentifier()
                  "Tip: You can split notes with big time periods to smaller pieces");
         QCOMPARE(counter(), "2"); // taken before the periods are compared
         setPeriod(dialog, 15, 16);
-        press(dialog, "btnOK");
+        note(dialog).setFocus();
+        for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
+            pressKey(Qt::Key_Return, modifier);
+            QTest::keyClicks(&note(dialog), "more");
+        }
+        pressKey(Qt::Key_Tab);
+        QCOMPARE(dialog.focusWidget()->objectName(), "btnOK");
+        note(dialog).setFocus();
+        pressKey(Qt::Key_Return, Qt::ControlModifier);
     });
-    QCOMPARE(stored().first(), "3|15|16|new");
+    QCOMPARE(editor->storedId(), 3);
+    QCOMPARE(stored().first(), "3|15|16|  a <b>fast</b> & 'quoted'; \nmore\nmore");
 }
 
-void tst_notes::messageOfALongNoteFitsTheScreen()
+void tst_notes::keepsEveryCharacterOfAStoredNote()
 {
-    addNote(9, 22, 22, QString("A line of a note.\n").repeated(300) + QString(1'000'000, u'x'));
-    MessageBoxes boxes;
-    frmUserNote editor(*journal->session, boxes);
-    const auto steps = [&](QWidget &dialog) {
-        typeInto(note(dialog), "new");
-        press(dialog, "btnOK", "message", [](QWidget &message) {
-            QVERIFY(message.height() < message.screen()->availableSize().height());
-            QVERIFY(control<QPlainTextEdit>(message, "text").toPlainText().endsWith("pieces"));
-            QTest::keyClick(&message, Qt::Key_Return);
-            QVERIFY(!message.isVisible());
-        });
-    };
-    inDialog(
-        "frmUserNote", [&] { editor.run(0); }, steps);
-    QCOMPARE(stored().size(), 1);
+    const QString text =
+        QString("no-break\u00a0space, tab\t, 日本語, العربية, 😀, e\u0301, \n\n end ") +
+        QString(1'000'000, u'x'); // wrapped at its blanks it would take minutes
+    const auto insert = QString("insert into UserNote values (7, 46204, 46206, '%1')").arg(text);
+    journal->exec(qPrintable(insert));
+    journal->edit<frmUserNote>(7, [](QWidget &dialog) {
+        setPeriod(dialog, 3, 4); // which is no overlap with another
+        press(dialog, "btnOK");
+    });
+    QCOMPARE(stored(), QStringList{"7|3|4|" + text});
+    QCOMPARE(counter(), "1");
+    // A message that quotes it is no slower, and its button is at hand.
+    const auto quote = [&text] { MessageBoxes().error(nullptr, text); };
+    inDialog("message", quote, [](QWidget &message) {
+        pressKey(Qt::Key_Return);
+        QVERIFY(!message.isVisible());
+    });
 }
 
 QTEST_MAIN(tst_notes)
