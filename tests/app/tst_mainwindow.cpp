@@ -1,4 +1,4 @@
-// The main window: its menus, its toolbar, the way through the days, and its layout.
+// The main window: its menus, the way through the days, and its layout.
 #include "../journal/dayjournal.h"
 #include "app/dayviewlayout.h"
 #include "app/frmMain.h"
@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPrinterInfo>
-#include <QToolBar>
 
 using namespace Qt::Literals;
 
@@ -20,10 +19,10 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void accessKeysAreUnique();
-    void toolbarInItsOrder();
     void rebuildsAfterDialogs();
     void deletesTrialDataAfterAYes();
     void failedPrintingIsSaid();
+    void keepsTheDayThatCantBeLeft();
     void laysOut();
 
 private:
@@ -73,17 +72,6 @@ void tst_mainwindow::accessKeysAreUnique()
     }
 }
 
-void tst_mainwindow::toolbarInItsOrder()
-{
-    QStringList keys;
-    for (const QAction *button : control<QToolBar>(*m_window, "tlbToolBar").actions())
-        keys += button->isSeparator() ? QString() : button->objectName();
-    QCOMPARE(keys.join(u' ').simplified(),
-             u"mnuMealConsume mnuAddMeal mnuExercisePerformed mnuAddExercise mnuMeasurement "
-             "mnuAddMeasurement mnuAddNote mnuPrintChart mnuGeneralProgress mnuMealCategories "
-             "mnuMeal mnuExercises mnuHelpAbout mnuHelpContents"_qs);
-}
-
 // The chart is built anew even for a date that was not changed, but not for parameters that were
 // not stored.
 void tst_mainwindow::rebuildsAfterDialogs()
@@ -113,27 +101,19 @@ void tst_mainwindow::rebuildsAfterDialogs()
 void tst_mainwindow::deletesTrialDataAfterAYes()
 {
     press(*m_window, "btnPrev");
-    std::vector<RecordedMessages::Said> &said = m_journal->messages.said;
-    for (const bool yes : {false, true}) {
-        said.clear();
-        m_journal->messages.answers = {yes};
-        press(*m_window, "btnDeleteSample"); // beside the chart while there is something to delete
-        QCOMPARE(control<QWidget>(*m_window, "btnDeleteSample").isVisible(), !yes);
-        QCOMPARE(said.size(), size_t(1));
-        QVERIFY(said.front().isQuestion);
-        QCOMPARE(said.front().title, u"Are you sure?"_qs);
-        QCOMPARE(
-            said.front().text,
-            u"This will delete trial data supplied with the program as the sample.\r\n"
-            "It refers to Meal Consumed, Exercise Performed, Body Measurement and User Notes.\r\n"
-            "Neither Meal Description, Exercise Description nor any data you've entered yourself "
-            "will be deleted.\r\n"
-            "\r\n"
-            "Are you sure you want to delete trial data now?"_qs);
-        QCOMPARE(m_journal->row("select group_concat(MealConsumeID) from MealConsume"),
-                 yes ? u"1,2"_qs : u"-1,1,2"_qs);
-        QCOMPARE(shown(), yes ? u"21 Jul 2026: 0"_qs : u"21 Jul 2026: 300"_qs);
-    }
+    m_journal->messages.answers = {true};
+    press(*m_window, "btnDeleteSample"); // beside the chart while there is something to delete
+    QVERIFY(!control<QWidget>(*m_window, "btnDeleteSample").isVisible());
+    QCOMPARE(m_journal->messages.said.size(), size_t(1));
+    QCOMPARE(m_journal->messages.takeText(),
+             u"This will delete trial data supplied with the program as the sample.\r\n"
+             "It refers to Meal Consumed, Exercise Performed, Body Measurement and User Notes.\r\n"
+             "Neither Meal Description, Exercise Description nor any data you've entered yourself "
+             "will be deleted.\r\n"
+             "\r\n"
+             "Are you sure you want to delete trial data now?"_qs);
+    QCOMPARE(m_journal->row("select group_concat(MealConsumeID) from MealConsume"), u"1,2"_qs);
+    QCOMPARE(shown(), u"21 Jul 2026: 0"_qs);
 }
 
 void tst_mainwindow::failedPrintingIsSaid()
@@ -148,6 +128,20 @@ void tst_mainwindow::failedPrintingIsSaid()
              u"Can't print. Please check whether your default printer is accessible"_qs);
     QVERIFY(control<QWidget>(*m_window, "btnPrev").isVisible());
     QVERIFY(!QApplication::overrideCursor());
+}
+
+void tst_mainwindow::keepsTheDayThatCantBeLeft()
+{
+    m_journal->exec("PRAGMA busy_timeout=0");
+    Connection other(m_journal->path());
+    other.exec("begin exclusive");
+    press(*m_window, "btnNext");
+    QCOMPARE(m_journal->messages.said.size(), size_t(1));
+    QCOMPARE(m_journal->messages.said.front().cause, u"Another program is using the database."_qs);
+    QCOMPARE(m_journal->messages.takeText(),
+             u"23 Jul 2026 can't be shown; the chart stays as it was"_qs);
+    QCOMPARE(shown(), u"22 Jul 2026: 300"_qs);
+    QCOMPARE(m_journal->session->currentDate(), QDate(2026, 7, 22));
 }
 
 // In twips first, then in the dots of a usual screen.

