@@ -318,17 +318,21 @@ QStringList carriedOut(const Action &action)
     return numberless(stored(journal->path()));
 }
 
-void storesTheNext(DayJournal &journal)
+void storesTheNext(DayJournal &journal, const Action &refused)
 {
     Try undisturbed{journal, Fault::Busy, 0, false};
-    storing<frmUserNote>(
-        "next", {}, 0,
-        {{"dtpDateTo", u"2030-01-01"_s}, {"dtpDateFrom", u"2030-01-01"_s}, {"txtNote", u"Next"_s}})
-        .run(undisturbed);
+    const bool wasNote = QLatin1String(refused.name).contains("note"_L1);
+    const Action next = wasNote ? storing<frmMealCategory>("next", {}, 0, {{"txtName", u"Next"_s}})
+                                : storing<frmUserNote>("next", {}, 0,
+                                                       {{"dtpDateTo", u"2030-01-01"_s},
+                                                        {"dtpDateFrom", u"2030-01-01"_s},
+                                                        {"txtNote", u"Next"_s}});
+    next.run(undisturbed);
     QCOMPARE(journal.messages.takeText(), QString());
     QVERIFY(!QFile::exists(journal.path() + u"-journal"_s));
     QVERIFY(stored(journal.path()).join(u'\n').contains(u"Next"_s));
-    journal.exec("delete from UserNote where NoteText = 'Next'");
+    journal.exec("delete from UserNote where NoteText = 'Next';"
+                 "delete from MealCategory where Name = 'Next'");
 }
 
 // Whether the action was carried out; what was found afterwards is looked at either way.
@@ -360,7 +364,7 @@ bool isSurvivedBy(DayJournal &journal, const Action &action, Try &attempt)
                 rows->removeIf([&](const QString &row) { return gone.match(row).hasMatch(); });
         }
         QCOMPARE(now, whole);
-        storesTheNext(journal);
+        storesTheNext(journal, action);
     }();
     return refused == said.end() || attempt.fault == Fault::Unsynchronized;
 }
