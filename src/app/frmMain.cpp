@@ -200,7 +200,11 @@ void frmMain::openEditor(qint32 id, bool addMode)
 {
     Editor editor(m_session, m_messages, this);
     editor.setAddMode(addMode);
-    if (editor.run(id))
+    bool stored = false;
+    // A record that can't be opened may be gone, and then goes from the chart, too.
+    const bool opened = attempt(
+        this, m_messages, [&] { stored = editor.run(id); }, tr("The record can't be opened"));
+    if (stored || !opened)
         followJournal();
 }
 

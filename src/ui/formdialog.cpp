@@ -36,6 +36,11 @@ public:
         });
     }
 
+    // The focus moves on once more while the fields are being deleted.
+    ~FormScroll() override { disconnect(qApp, nullptr, this, nullptr); }
+    FormScroll(const FormScroll &) = delete;
+    FormScroll &operator=(const FormScroll &) = delete;
+
     QSize sizeHint() const override
     {
         return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(),
