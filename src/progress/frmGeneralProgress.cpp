@@ -28,7 +28,6 @@ using namespace progress;
 
 namespace {
 
-constexpr double paperPoints = 9;
 constexpr int sideWidth = 16;          // in lines of text
 constexpr int dayLines = 9;            // of text, so that the list below stands still
 constexpr qsizetype mostOfNote = 2000; // characters

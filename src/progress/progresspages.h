@@ -10,6 +10,9 @@ class QPagedPaintDevice;
 
 namespace progress {
 
+/// Size of the base font on paper and in PDF files.
+inline constexpr double paperPoints = 9;
+
 /// What a page shows; the fonts' sizes are taken from the base font.
 struct PageContents
 {

@@ -81,7 +81,6 @@ private:
 /// What kept the picture from being saved; empty where nothing did.
 QString write(const QString &path, PageContents contents, QSize chartSize, int resolution)
 {
-    constexpr double paperPoints = 9;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     QSaveFile file(path);

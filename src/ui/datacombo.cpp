@@ -1,6 +1,7 @@
 #include "ui/datacombo.h"
 
 #include "ui/namefilter.h"
+#include "ui/tooltips.h"
 #include "ui/wheelguard.h"
 
 #include <QCompleter>
@@ -33,10 +34,7 @@ public:
             QStyledItemDelegate::sizeHint(option, index).width() > option.rect.width();
         if (event->type() != QEvent::ToolTip || !isCut)
             return QStyledItemDelegate::helpEvent(event, view, option, index);
-        // Rich text is what tooltips wrap.
-        QToolTip::showText(event->globalPos(),
-                           Qt::convertFromPlainText(index.data().toString(), Qt::WhiteSpaceNormal),
-                           view);
+        QToolTip::showText(event->globalPos(), toolTipOf(index.data().toString()), view);
         return true;
     }
 };

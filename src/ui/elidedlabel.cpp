@@ -1,5 +1,7 @@
 #include "ui/elidedlabel.h"
 
+#include "ui/tooltips.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QRegularExpression>
@@ -53,9 +55,7 @@ bool ElidedLabel::event(QEvent *event)
     QString whole = text();
     if (buddy())
         whole.remove(QRegularExpression(QStringLiteral("&(?!&)")));
-    // Rich text is what tooltips wrap; the text's own markup is not interpreted.
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal), this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), toolTipOf(whole), this);
     return true;
 }
 

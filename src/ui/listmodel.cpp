@@ -1,9 +1,9 @@
 #include "ui/listmodel.h"
 
 #include "session/excerpt.h"
+#include "ui/tooltips.h"
 
 #include <QFont>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <numeric>
@@ -15,23 +15,6 @@ int positionOf(const std::vector<ListRow> &rows, Predicate predicate)
 {
     const auto found = std::find_if(rows.begin(), rows.end(), predicate);
     return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
-}
-
-/// The same with places to break at in every word that is too long for a line: a tooltip is as
-/// wide as its longest word.
-QString withBreaks(QString text)
-{
-    constexpr int mostInLine = 80;
-    constexpr char16_t zeroWidthSpace = 0x200B;
-    int inWord = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        inWord = text[i].isSpace() ? 0 : inWord + 1;
-        if (inWord > mostInLine && !text[i].isLowSurrogate()) {
-            text.insert(i, QChar(zeroWidthSpace));
-            inWord = 0;
-        }
-    }
-    return text;
 }
 
 } // namespace
@@ -114,9 +97,7 @@ QVariant ListModel::toolTip(const QModelIndex &index) const
         text = row.texts.value(index.column());
     if (row.toolTip.isEmpty() && text.size() <= longText)
         return {};
-    // Rich text is what tooltips wrap; the text's own markup is not interpreted.
-    return Qt::convertFromPlainText(withBreaks(excerptOf(text, mostInToolTip)),
-                                    Qt::WhiteSpaceNormal);
+    return toolTipOf(text);
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const

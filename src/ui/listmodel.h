@@ -46,9 +46,8 @@ class ListModel : public QAbstractTableModel
 public:
     /// Characters beyond which a text is not shown in full but in its tooltip.
     static constexpr int longText = 50;
-    /// Characters that a cell and a tooltip show at most of a text of any length.
+    /// Characters that a cell shows at most of a text of any length.
     static constexpr int mostInCell = 2000;
-    static constexpr int mostInToolTip = 500;
 
     explicit ListModel(std::vector<ListColumn> columns, QObject *parent = nullptr);
 

@@ -5,6 +5,7 @@
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/reportstyle.h"
+#include "ui/tooltips.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -13,7 +14,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -76,8 +76,8 @@ protected:
         if (!index.isValid() || index.data(Qt::ToolTipRole).isValid() ||
             sizeHintForIndex(index).width() <= columnWidth(index.column()))
             return QTreeView::viewportEvent(event);
-        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()),
-                           viewport(), visualRect(index));
+        QToolTip::showText(help->globalPos(), toolTipOf(index.data().toString()), viewport(),
+                           visualRect(index));
         return true;
     }
 
