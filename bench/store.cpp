@@ -81,11 +81,11 @@ void compareStore(Table &table, deData &data)
             Recordset &meal = data.rsMealConsume;
             meal.reopen({0});
             meal.addNew();
-            meal.set("MealConsumeID"_L1, Value(int(NewMealConsumeID(data))));
-            meal.set("ConsumeDate"_L1, Value(day));
-            meal.set("MealID"_L1, Value(1));
-            meal.set("ConsumeTime"_L1, Value(0.5));
-            meal.set("Qty"_L1, Value(1.25));
+            meal.set(schema::MealConsume::MealConsumeID, Value(int(NewMealConsumeID(data))));
+            meal.set(schema::MealConsume::ConsumeDate, Value(day));
+            meal.set(schema::MealConsume::MealID, Value(1));
+            meal.set(schema::MealConsume::ConsumeTime, Value(0.5));
+            meal.set(schema::MealConsume::Qty, Value(1.25));
             meal.update();
         });
     };
@@ -104,6 +104,7 @@ void compareStore(Table &table, deData &data)
 void measureStore(Table &table, const QString &fullJournal)
 {
     std::vector<double> openings;
+    openings.reserve(20);
     for (int i = 0; i < 20; ++i)
         openings.push_back(timed([&] { deData data(fullJournal); }));
     table.addTime(u"opening the database file"_qs, median(openings), 5);

@@ -45,25 +45,36 @@ else()
   corvana_fetch_sqlite3mc(sqlite3mc_dir)
 endif()
 
-add_library(sqlite3mc STATIC ${sqlite3mc_dir}/sqlite3.c)
-target_include_directories(sqlite3mc SYSTEM PUBLIC ${sqlite3mc_dir})
-# Hidden symbols: a library of the desktop that brings the system's SQLite must not meet this one.
-set_target_properties(sqlite3mc PROPERTIES
-  C_VISIBILITY_PRESET hidden
-  POSITION_INDEPENDENT_CODE ON
-  AUTOMOC OFF)
-# Optimized in every preset, and never instrumented: it is not ours to debug.
-target_compile_options(sqlite3mc PRIVATE -w -O2 -fno-sanitize=all)
-target_compile_definitions(sqlite3mc PRIVATE
-  SQLITE_DQS=0
-  SQLITE_DEFAULT_FOREIGN_KEYS=1
-  SQLITE_DEFAULT_MEMSTATUS=0
-  SQLITE_TEMP_STORE=2
-  SQLITE_LIKE_DOESNT_MATCH_BLOBS
-  SQLITE_ENABLE_COLUMN_METADATA
-  SQLITE_OMIT_DEPRECATED
-  SQLITE_OMIT_SHARED_CACHE
-  SQLITE_OMIT_PROGRESS_CALLBACK)
-target_link_libraries(sqlite3mc PUBLIC ${CMAKE_DL_LIBS})
+# Optimized in every preset, and never instrumented: it is not ours to debug. Compiled alike, it is
+# compiled once for all of them, beside everything else that they compile. Hidden symbols: a library
+# of the desktop that brings the system's SQLite must not meet this one.
+set(flags -O2 -w -fPIC -fvisibility=hidden
+  -DSQLITE_DQS=0
+  -DSQLITE_DEFAULT_FOREIGN_KEYS=1
+  -DSQLITE_DEFAULT_MEMSTATUS=0
+  -DSQLITE_TEMP_STORE=2
+  -DSQLITE_LIKE_DOESNT_MATCH_BLOBS
+  -DSQLITE_ENABLE_COLUMN_METADATA
+  -DSQLITE_OMIT_DEPRECATED
+  -DSQLITE_OMIT_SHARED_CACHE
+  -DSQLITE_OMIT_PROGRESS_CALLBACK)
+file(SHA256 ${sqlite3mc_dir}/sqlite3.c source_sum)
+string(SHA256 sum "${CMAKE_C_COMPILER} ${CMAKE_C_COMPILER_VERSION} ${flags} ${source_sum}")
+string(SUBSTRING ${sum} 0 16 sum)
+set(SQLITE3MC_LIBRARY ${CMAKE_SOURCE_DIR}/build/deps/engine-${sum}/libsqlite3mc.a)
+file(MAKE_DIRECTORY ${CMAKE_SOURCE_DIR}/build/deps/engine-${sum})
+add_custom_command(
+  OUTPUT ${SQLITE3MC_LIBRARY}
+  COMMAND ${CMAKE_COMMAND} -D "compiler=${CMAKE_C_COMPILER}" -D "archiver=${CMAKE_AR}"
+    -D "flags=${flags}" -D source=${sqlite3mc_dir}/sqlite3.c -D library=${SQLITE3MC_LIBRARY}
+    -P ${CMAKE_SOURCE_DIR}/cmake/CompileEngine.cmake
+  DEPENDS ${sqlite3mc_dir}/sqlite3.c
+  COMMENT "Compiling the database engine"
+  VERBATIM)
+# Linked by its path: what is compiled against a target of CMake's would wait for the whole engine.
+add_custom_target(engine DEPENDS ${SQLITE3MC_LIBRARY})
 find_package(Threads REQUIRED)
-target_link_libraries(sqlite3mc PUBLIC Threads::Threads)
+add_library(sqlite3mc INTERFACE)
+target_include_directories(sqlite3mc SYSTEM INTERFACE ${sqlite3mc_dir})
+target_link_libraries(sqlite3mc INTERFACE
+  ${SQLITE3MC_LIBRARY} ${CMAKE_DL_LIBS} Threads::Threads)

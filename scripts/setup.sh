@@ -1,11 +1,12 @@
 # Shared by ./run and ./test: says what is done and installs what a bare Debian 12 lacks for it.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libsqlitecpp-dev librsvg2-bin)
+build_packages=(g++ cmake mold ninja-build qt6-base-dev libsqlitecpp-dev librsvg2-bin)
 command -v npm >/dev/null || build_packages+=(npm)
 # A private display, and the means to see and press what a program shows on it.
 screen_packages=(xvfb openbox xdotool dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     imagemagick x11-utils fonts-dejavu-core)
 printing_packages=(cups-daemon cups-client poppler-utils)
+checking_packages=(clang-format clang-tidy)
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -23,10 +24,11 @@ apt() {
 
 # install_missing PACKAGE...: installs those that are not there; with none missing it touches nothing.
 install_missing() {
-    local package missing=()
+    local package installed missing=()
+    # All at once: to be asked for each would be felt at every start.
+    installed=$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null) || true
     for package in "$@"; do
-        [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
-            missing+=("$package")
+        [[ $'\n'$installed$'\n' == *$'\n'"$package installed"$'\n'* ]] || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
     if ! command -v apt-get >/dev/null || { ((EUID)) && ! command -v sudo >/dev/null; }; then
@@ -41,9 +43,14 @@ install_missing() {
     rm "$log"
 }
 
+# configure PRESET: anew only where the presets have changed; the build looks after the rest.
+configure() {
+    [[ build/$1/build.ninja -nt CMakePresets.json ]] || cmake --preset "$1" >/dev/null
+}
+
 # build PRESET [TARGET]: configures and builds, everything or one target.
 build() {
     say "Building ($1)"
-    cmake --preset "$1" >/dev/null
+    configure "$1"
     cmake --build --preset "$1" ${2:+--target "$2"}
 }

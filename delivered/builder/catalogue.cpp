@@ -3,6 +3,7 @@
 #include "energy.h"
 
 #include "data/namecollation.h"
+#include "data/schema.h"
 
 #include <QDir>
 
@@ -22,21 +23,20 @@ Currency notNegative(const TsvRow &row, const QString &column)
     return number;
 }
 
-Meal readMeal(const TsvRow &row, int category)
+DeliveredMeal readMeal(const TsvRow &row, int category)
 {
-    Meal meal{category,
-              row.text(u"Name"_s),
-              row.text(u"Unit"_s),
-              row.optionalDecimal(u"DefaultQty"_s),
-              row.optionalDecimal(u"Increment"_s),
-              notNegative(row, u"Calories"_s),
-              notNegative(row, u"Fat"_s),
-              notNegative(row, u"Carbohydrate"_s),
-              notNegative(row, u"Protein"_s),
-              {}};
+    DeliveredMeal meal{category,
+                       row.text(u"Name"_s),
+                       row.text(u"Unit"_s),
+                       row.optionalDecimal(u"DefaultQty"_s),
+                       row.optionalDecimal(u"Increment"_s),
+                       notNegative(row, u"Calories"_s),
+                       schema::Meal::weights.map([&](auto column) {
+                           return notNegative(row, QString::fromLatin1(column.name()));
+                       }),
+                       {}};
     // Without nutrients, as in spirits, nothing says where the calories come from.
-    meal.byNutrient = caloriesByNutrient(meal.calories, meal.fat, meal.carbohydrate, meal.protein)
-                          .value_or(CaloriesByNutrient());
+    meal.byNutrient = caloriesByNutrient(meal.calories, meal.grams).value_or(Nutrients<Currency>());
     return meal;
 }
 
@@ -51,7 +51,7 @@ void loadMeals(const QString &path, const EnergyCheck &energy, Catalogue &catalo
     const int category = categoryNames.add(name, path, 1);
     catalogue.categories << name;
     for (const TsvRow &row : table.rows()) {
-        const Meal meal = readMeal(row, category);
+        const DeliveredMeal meal = readMeal(row, category);
         catalogue.mealNames.add(meal.name, path, row.line());
         energy.check(row, meal);
         catalogue.meals << meal;

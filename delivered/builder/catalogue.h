@@ -31,18 +31,16 @@ private:
     std::map<QString, Entry, Order> m_entries;
 };
 
-struct Meal
+struct DeliveredMeal
 {
     int category; ///< index in Catalogue::categories
     QString name;
     QString unit;
     std::optional<Currency> defaultQty;
     std::optional<Currency> increment;
-    Currency calories; ///< per unit, as are the nutrients in grams
-    Currency fat;
-    Currency carbohydrate;
-    Currency protein;
-    CaloriesByNutrient byNutrient;
+    Currency calories; ///< per unit, as are the nutrients
+    Nutrients<Currency> grams;
+    Nutrients<Currency> byNutrient; ///< of the calories
 };
 
 struct Activity
@@ -57,7 +55,7 @@ struct Activity
 struct Catalogue
 {
     QStringList categories;
-    QList<Meal> meals;
+    QList<DeliveredMeal> meals;
     QList<Activity> activities;
     NameIndex mealNames;
     NameIndex activityNames;

@@ -1,7 +1,10 @@
 #include "database.h"
 
+#include "schemacheck.h"
+
 #include "data/commands.h"
 #include "data/connection.h"
+#include "data/schema.h"
 #include "data/value.h"
 #include "settings/units.h"
 
@@ -27,41 +30,59 @@ Value valueOf(const std::optional<Currency> &number)
     return number ? Value(*number) : Value();
 }
 
-// Inserts a row with a value for each "?" of the list; returns its key.
-qint64 insert(Connection &connection, const std::string &tableAndColumns,
-              const std::vector<Value> &values)
+using Row = std::vector<std::pair<schema::Column, Value>>;
+
+// Inserts a row; returns its key.
+qint64 insert(Connection &connection, const schema::Table &table, const Row &row)
 {
-    std::string marks = "?";
-    for (size_t i = 1; i < values.size(); ++i)
-        marks += ",?";
-    connection.write("insert into " + tableAndColumns + " values (" + marks + ")", values);
+    std::string columns;
+    std::string marks;
+    std::vector<Value> values;
+    for (const auto &[column, value] : row) {
+        columns += (columns.empty() ? "" : ", ") + std::string(column.name());
+        marks += marks.empty() ? "?" : ",?";
+        values.push_back(value);
+    }
+    connection.write(std::string("insert into ") + table.name() + " (" + columns + ") values (" +
+                         marks + ")",
+                     values);
     return connection.database().getLastInsertRowid();
 }
 
 void writeCommon(Connection &connection, const CommonRow &common)
 {
-    insert(connection,
-           "Common (weight, metabolicRate, Measurement, NextBodyID, NextMealConsumeID,"
-           " NextExercisePerformID, NextUserNoteID, installDate)",
-           {common.weight, units::backgroundCalories(common.weight.toDouble(), true),
-            units::codeOf(true), common.nextBodyId, common.nextMealConsumeId,
-            common.nextExercisePerformId, common.nextUserNoteId, common.installDate});
+    using T = schema::Common;
+    insert(connection, T::table,
+           {{T::weight, common.weight},
+            {T::metabolicRate, units::backgroundCalories(common.weight.toDouble(), true)},
+            {T::Measurement, units::codeOf(true)},
+            {T::NextBodyID, common.nextBodyId},
+            {T::NextMealConsumeID, common.nextMealConsumeId},
+            {T::NextExercisePerformID, common.nextExercisePerformId},
+            {T::NextUserNoteID, common.nextUserNoteId},
+            {T::installDate, common.installDate}});
 }
 
 QList<qint64> writeMeals(Connection &connection, const Catalogue &catalogue)
 {
+    using T = schema::Meal;
     QList<qint64> categories;
     for (const QString &name : catalogue.categories)
-        categories << insert(connection, "MealCategory (Name)", {name});
+        categories << insert(connection, schema::MealCategory::table,
+                             {{schema::MealCategory::Name, name}});
     QList<qint64> meals;
-    for (const Meal &meal : catalogue.meals) {
-        meals << insert(connection,
-                        "Meal (MealCategoryID, Name, Unit, DefaultQty, Increment, Calories, Fat,"
-                        " Carbohydrate, Protein, FatBC, CarbohydrateBC, ProteinBC)",
-                        {categories[meal.category], meal.name, meal.unit, valueOf(meal.defaultQty),
-                         valueOf(meal.increment), meal.calories, meal.fat, meal.carbohydrate,
-                         meal.protein, meal.byNutrient.fat, meal.byNutrient.carbohydrate,
-                         meal.byNutrient.protein});
+    for (const DeliveredMeal &meal : catalogue.meals) {
+        Row row{{T::MealCategoryID, categories[meal.category]},
+                {T::Name, meal.name},
+                {T::Unit, meal.unit},
+                {T::DefaultQty, valueOf(meal.defaultQty)},
+                {T::Increment, valueOf(meal.increment)},
+                {T::Calories, meal.calories}};
+        for (const Nutrient n : allNutrients) {
+            row.emplace_back(T::weights[n], meal.grams[n]);
+            row.emplace_back(T::shares[n], meal.byNutrient[n]);
+        }
+        meals << insert(connection, T::table, row);
     }
     return meals;
 }
@@ -69,14 +90,16 @@ QList<qint64> writeMeals(Connection &connection, const Catalogue &catalogue)
 QList<qint64> writeActivities(Connection &connection, const QList<Activity> &activities,
                               Currency weight)
 {
+    using T = schema::Exercise;
     QList<qint64> exercises;
     for (const Activity &activity : activities) {
-        exercises << insert(connection,
-                            "Exercise (Name, Unit, DefaultQty, CaloriesConsume,"
-                            " CaloriesConsumeBase, WeightDependent)",
-                            {activity.name, activity.unit, valueOf(activity.defaultQty),
-                             activity.caloriesAtReference, activity.caloriesAtReference,
-                             activity.weightDependent ? 1 : 0});
+        exercises << insert(connection, T::table,
+                            {{T::Name, activity.name},
+                             {T::Unit, activity.unit},
+                             {T::DefaultQty, valueOf(activity.defaultQty)},
+                             {T::CaloriesConsume, activity.caloriesAtReference},
+                             {T::CaloriesConsumeBase, activity.caloriesAtReference},
+                             {T::WeightDependent, activity.weightDependent ? 1 : 0}});
     }
     // The very statement and factor that follow a change of the weight, so that they change
     // nothing as long as it stays the same.
@@ -85,33 +108,63 @@ QList<qint64> writeActivities(Connection &connection, const QList<Activity> &act
     return exercises;
 }
 
-void writeSample(Connection &connection, const SampleJournal &sample, QDate installDate,
-                 const QList<qint64> &meals, const QList<qint64> &exercises)
+void writeConsumptions(Connection &connection, const SampleJournal &sample, QDate installDate,
+                       const QList<qint64> &meals)
 {
+    using T = schema::MealConsume;
     qint64 key = 0;
     for (const SampleConsumption &row : sample.consumptions) {
-        insert(connection, "MealConsume (MealConsumeID, MealID, ConsumeDate, ConsumeTime, Qty)",
-               {--key, meals[row.meal], installDate.addDays(row.day), row.time, row.qty});
+        insert(connection, T::table,
+               {{T::MealConsumeID, --key},
+                {T::MealID, meals[row.meal]},
+                {T::ConsumeDate, installDate.addDays(row.day)},
+                {T::ConsumeTime, row.time},
+                {T::Qty, row.qty}});
     }
-    key = 0;
+}
+
+void writePerformances(Connection &connection, const SampleJournal &sample, QDate installDate,
+                       const QList<qint64> &exercises)
+{
+    using T = schema::ExercisePerform;
+    qint64 key = 0;
     for (const SamplePerformance &row : sample.performances) {
-        insert(connection,
-               "ExercisePerform (ExercisePerformID, ExerciseID, PerformDate, timeBeg, timeEnd,"
-               " Qty)",
-               {--key, exercises[row.activity], installDate.addDays(row.day), row.begin, row.end,
-                row.qty});
+        insert(connection, T::table,
+               {{T::ExercisePerformID, --key},
+                {T::ExerciseID, exercises[row.activity]},
+                {T::PerformDate, installDate.addDays(row.day)},
+                {T::timeBeg, row.begin},
+                {T::timeEnd, row.end},
+                {T::Qty, row.qty}});
     }
-    key = 0;
+}
+
+void writeMeasurements(Connection &connection, const SampleJournal &sample, QDate installDate)
+{
+    using T = schema::Body;
+    qint64 key = 0;
     for (const SampleMeasurement &row : sample.measurements) {
-        insert(connection, "Body (BodyID, DateMeasured, Weight, Breast, Waist, Hips, Measurement)",
-               {--key, installDate.addDays(row.day), row.weight, row.breast, row.waist, row.hips,
-                units::codeOf(true)});
+        insert(connection, T::table,
+               {{T::BodyID, --key},
+                {T::DateMeasured, installDate.addDays(row.day)},
+                {T::Weight, row.weight},
+                {T::Breast, row.breast},
+                {T::Waist, row.waist},
+                {T::Hips, row.hips},
+                {T::Measurement, units::codeOf(true)}});
     }
-    key = 0;
+}
+
+void writeNotes(Connection &connection, const SampleJournal &sample, QDate installDate)
+{
+    using T = schema::UserNote;
+    qint64 key = 0;
     for (const SampleNote &row : sample.notes) {
-        insert(
-            connection, "UserNote (UserNoteID, DateFrom, DateTo, NoteText)",
-            {--key, installDate.addDays(row.firstDay), installDate.addDays(row.lastDay), row.text});
+        insert(connection, T::table,
+               {{T::UserNoteID, --key},
+                {T::DateFrom, installDate.addDays(row.firstDay)},
+                {T::DateTo, installDate.addDays(row.lastDay)},
+                {T::NoteText, row.text}});
     }
 }
 
@@ -120,11 +173,16 @@ void writeFile(const QString &path, const Sources &sources)
     const std::unique_ptr<Connection> connection = Connection::create(path);
     WriteTransaction transaction(*connection);
     connection->exec(sources.schema.constData());
+    checkSchema(*connection);
     writeCommon(*connection, sources.common);
     const QList<qint64> meals = writeMeals(*connection, sources.catalogue);
     const QList<qint64> exercises =
         writeActivities(*connection, sources.catalogue.activities, sources.common.weight);
-    writeSample(*connection, sources.sample, sources.common.installDate, meals, exercises);
+    const QDate installDate = sources.common.installDate;
+    writeConsumptions(*connection, sources.sample, installDate, meals);
+    writePerformances(*connection, sources.sample, installDate, exercises);
+    writeMeasurements(*connection, sources.sample, installDate);
+    writeNotes(*connection, sources.sample, installDate);
     transaction.commit();
 }
 

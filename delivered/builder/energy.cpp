@@ -12,12 +12,14 @@ namespace {
 
 constexpr double alcoholFactor = 7;
 
-double nutrientCalories(const Meal &meal)
+double nutrientCalories(const DeliveredMeal &meal)
 {
-    return 9 * meal.fat.toDouble() + 4 * (meal.carbohydrate.toDouble() + meal.protein.toDouble());
+    constexpr Nutrients<int> caloriesPerGram{9, 4, 4};
+    return perNutrient([&](Nutrient n) { return caloriesPerGram[n] * meal.grams[n].toDouble(); })
+        .sum();
 }
 
-bool fits(const Meal &meal, double expected)
+bool fits(const DeliveredMeal &meal, double expected)
 {
     return std::abs(meal.calories.toDouble() - expected) <= 0.1 * expected + 3;
 }
@@ -39,7 +41,7 @@ EnergyCheck::EnergyCheck(const QString &path)
     }
 }
 
-void EnergyCheck::check(const TsvRow &row, const Meal &meal) const
+void EnergyCheck::check(const TsvRow &row, const DeliveredMeal &meal) const
 {
     const double sum = nutrientCalories(meal);
     const auto exception = m_exceptions.find(meal.name);

@@ -8,7 +8,7 @@
 namespace delivered {
 
 class NameIndex;
-struct Meal;
+struct DeliveredMeal;
 
 /// Fat counts 9 kcal a gram, carbohydrate and protein 4, alcohol 7. A row may be off by a tenth of
 /// that sum and 3 kcal: so much is rounding and published factors that differ from food to food.
@@ -21,7 +21,7 @@ public:
 
     /// Throws SourceError at the meal's row where its calories don't fit, and at its row in
     /// energy.tsv where they fit without that.
-    void check(const TsvRow &row, const Meal &meal) const;
+    void check(const TsvRow &row, const DeliveredMeal &meal) const;
     /// Throws SourceError at the first row for a meal that there isn't.
     void checkNames(const NameIndex &meals) const;
 

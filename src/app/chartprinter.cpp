@@ -1,7 +1,7 @@
 #include "app/chartprinter.h"
 
 #include "chart/TrellumGraph.h"
-#include "ui/paper.h"
+#include "plot/paper.h"
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
@@ -9,12 +9,12 @@
 
 bool printDailyChart(const TrellumGraph &graph, const QString &heading, const QString &date)
 {
-    return printLandscape(heading, [&](QPainter &painter, QPagedPaintDevice &paper) {
+    return plot::printLandscape(heading, [&](QPainter &painter, QPagedPaintDevice &paper) {
         const QRectF page(0, 0, paper.width(), paper.height());
         QFont font = graph.font();
         font.setPointSizeF(10);
         painter.setFont(font);
-        const QPalette palette = paperPalette();
+        const QPalette palette = plot::paperPalette();
         painter.setPen(palette.color(QPalette::Text));
         const double line = QFontMetricsF(font, &paper).lineSpacing();
         const QRectF top(page.left(), page.top(), page.width(), line);

@@ -10,11 +10,9 @@ frmDate::frmDate(Session &session, Messages &messages, QWidget *parent)
     : FormDialog(session, messages, QStringLiteral("frmDate"), tr("Set Current Date"), parent)
     , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
 {
-    if (parent)
-        setWindowIcon(parent->windowIcon());
     dtpDate->setAccessibleName(tr("Current date"));
     dtpDate->setDate(session.currentDate());
-    checkTyped(dtpDate, tr("The Date field contains illegal data"));
+    checkTyped(dtpDate, tr("Date"));
 
     auto *form = new QFormLayout;
     form->addRow(makeLabel(tr("&Date"), dtpDate), dtpDate);

@@ -40,8 +40,6 @@
 #include <limits>
 #include <utility>
 
-using namespace Qt::Literals;
-
 namespace {
 
 // The chart holds whole numbers of 32 bits; a figure beyond them is no person's day.
@@ -61,10 +59,8 @@ frmMain::frmMain(Session &session, Messages &messages)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Corvana"));
-    setWindowIcon(programIcon());
     setCentralWidget(m_view);
-    makeMenus();
-    makeToolBar();
+    makeCommands();
     showPictures();
     makeConnections();
 
@@ -79,8 +75,8 @@ frmMain::frmMain(Session &session, Messages &messages)
 
 void frmMain::showPictures()
 {
-    for (const auto &[name, entry] : m_entries)
-        entry->setIcon(icon(name, palette()));
+    for (QAction *entry : m_entries)
+        entry->setIcon(icon(entry->objectName(), palette()));
 }
 
 void frmMain::makeConnections()
@@ -98,7 +94,7 @@ void frmMain::makeConnections()
     connect(m_view->graph, &TrellumGraph::freeActivityPlaceChosen, this,
             handler(&frmMain::addActivityAt));
     connect(&m_session, &Session::dayChanged, this, &frmMain::followDay);
-    connect(&m_session, &Session::journalChanged, this, &frmMain::followJournal);
+    connect(&m_session, &Session::recordsChanged, this, &frmMain::followRecords);
 }
 
 void frmMain::LoadGraph()
@@ -111,6 +107,7 @@ void frmMain::LoadGraph()
     Recordset &activities = m_session.data().rsExercisePerformSorted;
     meals.reopenReadable({Value(day)});
     activities.reopenReadable({Value(day)});
+    m_shownVersion = m_session.data().Con.dataVersion();
     m_missing = whatIsMissing(meals.leftOut() + activities.leftOut(),
                               meals.isCutShort() || activities.isCutShort());
 
@@ -119,15 +116,16 @@ void frmMain::LoadGraph()
     graph.clear();
     graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
     for (; !meals.isEof(); meals.moveNext())
-        graph.addMeal(meals.integer("MealConsumeID"_L1), meals.time("ConsumeTime"_L1),
-                      chartFigure(meals.number("sCarbohydrate"_L1)),
-                      chartFigure(meals.number("sFat"_L1)),
-                      chartFigure(meals.number("sProtein"_L1)));
+        graph.addMeal(meals.integer(schema::MealConsume::MealConsumeID),
+                      meals.time(schema::MealConsume::ConsumeTime),
+                      commands::consumed.map(
+                          [&meals](auto column) { return chartFigure(meals.number(column)); }));
     meals.close();
     for (; !activities.isEof(); activities.moveNext())
-        graph.addActivity(activities.integer("ExercisePerformID"_L1), activities.time("timeBeg"_L1),
-                          activities.time("timeEnd"_L1),
-                          chartFigure(activities.number("sCalories"_L1)));
+        graph.addActivity(activities.integer(schema::ExercisePerform::ExercisePerformID),
+                          activities.time(schema::ExercisePerform::timeBeg),
+                          activities.time(schema::ExercisePerform::timeEnd),
+                          chartFigure(activities.number(commands::sCalories)));
     activities.close();
 }
 
@@ -168,12 +166,37 @@ void frmMain::followDay()
     m_session.setCurrentDate(m_shownDate);
 }
 
-void frmMain::followJournal()
+// A new record of a catalogue stands in no day yet, and one that does can't be removed.
+void frmMain::followRecords(const StoredChange &change)
+{
+    const bool isCatalogue =
+        change.touches(schema::Meal::table) || change.touches(schema::Exercise::table);
+    const bool isJournal = change.touches(schema::MealConsume::table) ||
+                           change.touches(schema::ExercisePerform::table);
+    if (isJournal || change.touches(schema::Common::table) ||
+        (isCatalogue && change.kind == StoredChange::Kind::Changed))
+        redraw();
+    showSampleNotice();
+}
+
+// Whenever the user comes back here, from a window of this program, too.
+void frmMain::followOtherPrograms()
+{
+    try {
+        if (m_session.data().Con.dataVersion() == m_shownVersion)
+            return;
+    } catch (const StoreError &) {
+        return; // told by who needs the file
+    }
+    redraw();
+    showSampleNotice();
+}
+
+void frmMain::redraw()
 {
     attempt(
         this, m_messages, [this] { RePaintGraph(); },
         tr("The chart can't be drawn anew. What was stored before is stored"));
-    showSampleNotice();
 }
 
 void frmMain::showPreviousDay()
@@ -188,11 +211,7 @@ void frmMain::showNextDay()
 
 void frmMain::setDate()
 {
-    const QDate before = m_session.currentDate();
     frmDate(m_session, m_messages, this).exec();
-    // Another day has been shown already, when the session told of it.
-    if (m_session.currentDate() == before)
-        followJournal();
 }
 
 template<typename Editor>
@@ -200,19 +219,14 @@ void frmMain::openEditor(qint32 id, bool addMode)
 {
     Editor editor(m_session, m_messages, this);
     editor.setAddMode(addMode);
-    bool stored = false;
-    // A record that can't be opened may be gone, and then goes from the chart, too.
-    const bool opened = attempt(
-        this, m_messages, [&] { stored = editor.run(id); }, tr("The record can't be opened"));
-    if (stored || !opened)
-        followJournal();
+    attempt(
+        this, m_messages, [&] { editor.run(id); }, tr("The record can't be opened"));
 }
 
 template<typename List>
 void frmMain::openDayList()
 {
     List(m_session, m_messages, this).run();
-    followJournal();
 }
 
 void frmMain::showMeals()
@@ -275,19 +289,16 @@ void frmMain::addActivityAt(QTime time)
 void frmMain::openMeasurements()
 {
     frmMeasurements(m_session, m_messages, this).exec();
-    followJournal();
 }
 
 void frmMain::addMeasurement()
 {
-    if (frmBody(m_session, m_messages, this).run(0))
-        followJournal();
+    frmBody(m_session, m_messages, this).run(0);
 }
 
 void frmMain::addNote()
 {
-    if (frmUserNote(m_session, m_messages, this).run(0))
-        followJournal();
+    frmUserNote(m_session, m_messages, this).run(0);
 }
 
 void frmMain::printChart()
@@ -328,7 +339,10 @@ void frmMain::deleteTrialData()
     attempt(
         this, m_messages, [this] { deleteSampleJournal(m_session.data()); },
         tr("The trial data can't be deleted"));
-    followJournal();
+    // Refused half-way, it has deleted some.
+    m_session.announce({{&schema::Body::table, &schema::ExercisePerform::table,
+                         &schema::MealConsume::table, &schema::UserNote::table},
+                        StoredChange::Kind::Removed});
 }
 
 void frmMain::openMealCategories()
@@ -339,13 +353,11 @@ void frmMain::openMealCategories()
 void frmMain::openMeals()
 {
     frmMeals(m_session, m_messages, this).run();
-    followJournal(); // the day's meals may have other calories now
 }
 
 void frmMain::openExercises()
 {
     frmExercises(m_session, m_messages, this).run();
-    followJournal();
 }
 
 void frmMain::openCommonParameters()
@@ -353,8 +365,6 @@ void frmMain::openCommonParameters()
     frmCommon dialog(m_session, m_messages, this);
     dialog.setFirstStart(false);
     dialog.run();
-    if (dialog.OkPressed())
-        followJournal();
 }
 
 void frmMain::openGeneralProgress()
@@ -397,6 +407,8 @@ void frmMain::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         showPictures();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        followOtherPrograms();
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

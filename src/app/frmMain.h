@@ -4,11 +4,12 @@
 #include <QDate>
 #include <QMainWindow>
 
-#include <map>
+#include <vector>
 
 class DayView;
 class Messages;
 class Session;
+struct StoredChange;
 
 /// Shows the current date and its calorie chart, moves the date, and opens every other window.
 /// Closing it ends the program.
@@ -31,26 +32,20 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    using Handler = void (frmMain::*)();
+    struct Command;
 
-    /// An entry of a menu; a separator where it has no caption.
-    struct Entry
-    {
-        const char *name;
-        QString caption = {};
-        Handler handler = nullptr;
-    };
-
-    void makeMenus();
-    void addMenu(const char *name, const QString &caption, std::initializer_list<Entry> entries);
-    void makeToolBar();
+    static std::vector<Command> commands();
+    void makeCommands();
+    void addEntry(QMenu &menu, const Command &command);
     void makeConnections();
     void showPictures();
     void showSampleNotice();
 
-    /// Draws what the session tells of, or says that it can't be drawn.
+    // They draw what the session tells of, or say that it can't be drawn.
     void followDay();
-    void followJournal();
+    void followRecords(const StoredChange &change);
+    void followOtherPrograms();
+    void redraw();
     void tellMissing();
     void showPreviousDay();
     void showNextDay();
@@ -87,8 +82,9 @@ private:
     Messages &m_messages;
     DayView *m_view;
     QToolBar *tlbToolBar;
-    std::map<QString, QAction *> m_entries;
-    QDate m_shownDate; ///< of the chart
-    QString m_missing; ///< why it doesn't show all of the day; empty where it does
-    QDate m_toldDate;  ///< the day of which that was said last
+    std::vector<QAction *> m_entries; ///< of the menus
+    QDate m_shownDate;                ///< of the chart
+    qint64 m_shownVersion = 0;        ///< of the file, as other programs have changed it
+    QString m_missing;                ///< why it doesn't show all of the day; empty where it does
+    QDate m_toldDate;                 ///< the day of which that was said last
 };

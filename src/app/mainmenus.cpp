@@ -6,96 +6,113 @@
 #include <QMenuBar>
 #include <QToolBar>
 
-void frmMain::makeMenus()
+using namespace Qt::StringLiterals;
+
+/// An entry of a menu, a separator in one, or a menu itself, which the entries behind it are in.
+struct frmMain::Command
 {
-    addMenu("mnuOperate", tr("&Operate"),
-            {{"mnuMealConsume", tr("&Meal Consumed List"), &frmMain::showMeals},
-             {"mnuAddMeal", tr("&Add Meal"), &frmMain::addMeal},
-             {"mnuSep1"},
-             {"mnuExercisePerformed", tr("A&ctivities Performed List"), &frmMain::showActivities},
-             {"mnuAddExercise", tr("A&dd Activity"), &frmMain::addActivity},
-             {"mnuSep7"},
-             {"mnuMeasurement", tr("&Body Measurement and Notes"), &frmMain::openMeasurements},
-             {"mnuAddMeasurement", tr("Add Body Measu&rement"), &frmMain::addMeasurement},
-             {"mnuAddNote", tr("Add &Note"), &frmMain::addNote},
-             {"mnuSep6"},
-             {"mnuPrintChart", tr("&Print Daily Chart"), &frmMain::printChart},
-             {"mnuSep5"},
-             {"mnuSetDate", tr("&Set Date"), &frmMain::setDate},
-             {"mnuSep9"},
-             {"mnuDeleteTrialData", tr("Delete Trial Data"), &frmMain::deleteTrialData},
-             {"mnuSep4"},
-             {"mnuExit", tr("E&xit"), &frmMain::leave}});
-    addMenu("mnuAnalyze", tr("&Analyze"),
-            {{"mnuGeneralProgress", tr("&General Progress"), &frmMain::openGeneralProgress}});
-    addMenu("mnuSettings", tr("&Settings"),
-            {{"mnuMealCategories", tr("Meal &Categories"), &frmMain::openMealCategories},
-             {"mnuMeal", tr("&Meal"), &frmMain::openMeals},
-             {"mnuExercises", tr("&Activities"), &frmMain::openExercises},
-             {"mnuSep3"},
-             {"mnuCommon", tr("C&ommon"), &frmMain::openCommonParameters}});
-    addMenu("mnuHelp", tr("&Help"),
-            {{"mnuHelpAbout", tr("&About"), &frmMain::showAbout},
-             {"mnuHelpContents", tr("&Contents"), &frmMain::showHelpContents},
-             {"mnuHelpMainForm", tr("&Main Form"), &frmMain::showHelpOfMainForm}});
+    QString name;
+    QString caption = {}; ///< of a separator empty
+    void (frmMain::*handler)() = nullptr;
+    /// Where there is one, the entry has a button in the toolbar, too, with this tooltip.
+    QString toolTip = {};
+    QKeySequence shortcut = {};
+    bool beginsGroup = false; ///< of buttons, behind a separator
+};
+
+std::vector<frmMain::Command> frmMain::commands()
+{
+    return {
+        {u"mnuOperate"_s, tr("&Operate")},
+        {u"mnuMealConsume"_s, tr("&Meal Consumed List"), &frmMain::showMeals,
+         tr("Meal Consume List")},
+        {u"mnuAddMeal"_s, tr("&Add Meal"), &frmMain::addMeal, tr("Add Meal")},
+        {u"mnuSep1"_s},
+        {u"mnuExercisePerformed"_s,
+         tr("A&ctivities Performed List"),
+         &frmMain::showActivities,
+         tr("Activities Performed List"),
+         {},
+         true},
+        {u"mnuAddExercise"_s, tr("A&dd Activity"), &frmMain::addActivity, tr("Add Activity")},
+        {u"mnuSep7"_s},
+        {u"mnuMeasurement"_s,
+         tr("&Body Measurement and Notes"),
+         &frmMain::openMeasurements,
+         tr("Body Measurement & Notes"),
+         {},
+         true},
+        {u"mnuAddMeasurement"_s, tr("Add Body Measu&rement"), &frmMain::addMeasurement,
+         tr("Add Measurement")},
+        {u"mnuAddNote"_s, tr("Add &Note"), &frmMain::addNote, tr("Add Note")},
+        {u"mnuSep6"_s},
+        {u"mnuPrintChart"_s,
+         tr("&Print Daily Chart"),
+         &frmMain::printChart,
+         tr("Print Daily Chart"),
+         {},
+         true},
+        {u"mnuSep5"_s},
+        {u"mnuSetDate"_s, tr("&Set Date"), &frmMain::setDate},
+        {u"mnuSep9"_s},
+        {u"mnuDeleteTrialData"_s, tr("Delete Trial Data"), &frmMain::deleteTrialData},
+        {u"mnuSep4"_s},
+        {u"mnuExit"_s, tr("E&xit"), &frmMain::leave},
+
+        {u"mnuAnalyze"_s, tr("&Analyze")},
+        {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,
+         tr("General Progress")},
+
+        {u"mnuSettings"_s, tr("&Settings")},
+        {u"mnuMealCategories"_s,
+         tr("Meal &Categories"),
+         &frmMain::openMealCategories,
+         tr("Configure Meal Categories"),
+         {},
+         true},
+        {u"mnuMeal"_s, tr("&Meal"), &frmMain::openMeals, tr("Configure Meals")},
+        {u"mnuExercises"_s, tr("&Activities"), &frmMain::openExercises, tr("Configure Activities")},
+        {u"mnuSep3"_s},
+        {u"mnuCommon"_s, tr("C&ommon"), &frmMain::openCommonParameters},
+
+        {u"mnuHelp"_s, tr("&Help")},
+        {u"mnuHelpAbout"_s, tr("&About"), &frmMain::showAbout, tr("About the Program"), {}, true},
+        {u"mnuHelpContents"_s, tr("&Contents"), &frmMain::showHelpContents, tr("Help Contents")},
+        {u"mnuHelpMainForm"_s, tr("&Main Form"), &frmMain::showHelpOfMainForm},
+    };
 }
 
-void frmMain::addMenu(const char *name, const QString &caption,
-                      std::initializer_list<Entry> entries)
+void frmMain::makeCommands()
 {
-    QMenu *menu = menuBar()->addMenu(caption);
-    menu->setObjectName(QLatin1String(name));
-    for (const Entry &entry : entries) {
-        QAction *action = entry.handler ? menu->addAction(entry.caption) : menu->addSeparator();
-        action->setObjectName(QLatin1String(entry.name));
-        if (!entry.handler)
-            continue;
-        connect(action, &QAction::triggered, this, attempting(this, m_messages, entry.handler));
-        m_entries[action->objectName()] = action;
-    }
-}
-
-// A button is the menu entry of its name; its tooltip is its own.
-void frmMain::makeToolBar()
-{
-    struct Button
-    {
-        const char *key = nullptr; ///< null for a separator
-        QString toolTip = {};
-    };
-    const Button buttons[] = {
-        {"mnuMealConsume", tr("Meal Consume List")},
-        {"mnuAddMeal", tr("Add Meal")},
-        {},
-        {"mnuExercisePerformed", tr("Activities Performed List")},
-        {"mnuAddExercise", tr("Add Activity")},
-        {},
-        {"mnuMeasurement", tr("Body Measurement & Notes")},
-        {"mnuAddMeasurement", tr("Add Measurement")},
-        {"mnuAddNote", tr("Add Note")},
-        {},
-        {"mnuPrintChart", tr("Print Daily Chart")},
-        {"mnuGeneralProgress", tr("General Progress")},
-        {},
-        {"mnuMealCategories", tr("Configure Meal Categories")},
-        {"mnuMeal", tr("Configure Meals")},
-        {"mnuExercises", tr("Configure Activities")},
-        {},
-        {"mnuHelpAbout", tr("About the Program")},
-        {"mnuHelpContents", tr("Help Contents")},
-    };
-    tlbToolBar->setObjectName(QStringLiteral("tlbToolBar"));
+    tlbToolBar->setObjectName(u"tlbToolBar"_s);
     tlbToolBar->setWindowTitle(tr("Toolbar"));
     tlbToolBar->setMovable(false);
     tlbToolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be switched off
-    for (const Button &button : buttons) {
-        if (!button.key) {
-            tlbToolBar->addSeparator();
-            continue;
+    QMenu *menu = nullptr;
+    for (const Command &command : commands()) {
+        if (command.handler) {
+            addEntry(*menu, command);
+        } else if (command.caption.isEmpty()) {
+            menu->addSeparator()->setObjectName(command.name);
+        } else {
+            menu = menuBar()->addMenu(command.caption);
+            menu->setObjectName(command.name);
         }
-        QAction *entry = m_entries.at(QLatin1String(button.key));
-        entry->setToolTip(button.toolTip);
-        tlbToolBar->addAction(entry);
     }
     addToolBar(tlbToolBar);
+}
+
+void frmMain::addEntry(QMenu &menu, const Command &command)
+{
+    QAction *entry = menu.addAction(command.caption);
+    entry->setObjectName(command.name);
+    entry->setShortcut(command.shortcut);
+    connect(entry, &QAction::triggered, this, attempting(this, m_messages, command.handler));
+    m_entries.push_back(entry);
+    if (command.toolTip.isEmpty())
+        return;
+    if (command.beginsGroup)
+        tlbToolBar->addSeparator();
+    entry->setToolTip(command.toolTip);
+    tlbToolBar->addAction(entry);
 }

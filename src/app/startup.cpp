@@ -11,8 +11,6 @@
 
 #include <QCoreApplication>
 
-using namespace Qt::Literals;
-
 namespace {
 
 QString tr(const char *text)
@@ -102,7 +100,8 @@ void StartUp::makeSession()
     try {
         m_session->readCommonParameters();
     } catch (const OverflowError &) {
-        m_session->setParameters({.measurement = m_data->rsCommon.text("Measurement"_L1)});
+        m_session->setParameters(
+            {.measurement = m_data->rsCommon.text(schema::Common::Measurement)});
         m_settings.messages.error(
             nullptr,
             tr("The body weight or the background calories are no number that the program can "
@@ -128,11 +127,10 @@ void StartUp::tellDamage(Installation &installation)
 bool StartUp::runFirstStart()
 {
     Installation installation(m_settings.programFolder);
-    if (installation.isDamaged())
+    const Installation::FirstStart firstStart = installation.firstStart();
+    if (firstStart == Installation::FirstStart::Untold)
         tellDamage(installation);
-    else if (!installation.isFirstStartDone())
-        return askForParameters(installation);
-    return true;
+    return firstStart != Installation::FirstStart::Pending || askForParameters(installation);
 }
 
 bool StartUp::askForParameters(Installation &installation)

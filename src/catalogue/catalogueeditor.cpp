@@ -10,7 +10,7 @@ void CatalogueEditor::makeNameBox(const QString &accessibleName)
     txtName->setMinimumWidth(fontMetrics().averageCharWidth() * 32);
 }
 
-void CatalogueEditor::showColumn(QLineEdit *box, QLatin1StringView column)
+void CatalogueEditor::showColumn(QLineEdit *box, const schema::Column &column)
 {
     box->setText(session().text().toText(source().value(column)));
     box->setCursorPosition(0); // a text longer than its box shows its beginning

@@ -12,6 +12,7 @@ class CatalogueEditor : public RecordEditor
 public:
     /// The text of the name box as it was stored, untrimmed; empty where nothing was stored.
     QString storedName() const { return m_storedName; }
+    Reselection reselection() const override { return {.name = m_storedName}; }
 
 protected:
     using RecordEditor::RecordEditor;
@@ -21,7 +22,7 @@ protected:
     /// Makes `txtName`.
     void makeNameBox(const QString &accessibleName);
     /// Shows a column of the record in a box; Null shows as nothing.
-    void showColumn(QLineEdit *box, QLatin1StringView column);
+    void showColumn(QLineEdit *box, const schema::Column &column);
     /// The number in a box. Throws std::runtime_error, with the focus moved there, where the box
     /// holds none.
     Currency number(QLineEdit *box) const;

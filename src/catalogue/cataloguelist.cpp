@@ -2,7 +2,6 @@
 
 #include "session/session.h"
 
-#include <QScopeGuard>
 #include <QVBoxLayout>
 
 CatalogueList::CatalogueList(Session &session, Messages &messages, Recordset &source,
@@ -11,11 +10,10 @@ CatalogueList::CatalogueList(Session &session, Messages &messages, Recordset &so
     : QDialog(parent)
     , m_session(session)
     , m_messages(messages)
-    , m_source(source)
-    , m_list(new RecordList(std::move(columns), ListFamily::Catalogue, messages,
-                            {[this] { return rows(); }, [this](qint32 id) { return edit(id); },
-                             [this](qint32 id) { remove(id); }},
-                            caption, this))
+    , m_list(new RecordList(
+          std::move(columns), ListFamily::Catalogue, session, messages,
+          {[this] { return rows(); }, [this](qint32 id) { return edit(id); }, source}, caption,
+          this))
 {
     setObjectName(name);
     setWindowTitle(caption);
@@ -36,25 +34,17 @@ void CatalogueList::run()
     exec();
 }
 
-ListRows CatalogueList::readRows(Recordset &records, QLatin1StringView tag,
-                                 std::initializer_list<QLatin1StringView> columns) const
+ListRows CatalogueList::readRows(Recordset &records, const schema::Column &tag,
+                                 std::initializer_list<schema::Column> columns) const
 {
     std::vector<ListRow> rows;
     rows.reserve(records.rowCount());
     for (; !records.isEof(); records.moveNext()) {
         ListRow row{records.integer(tag), {}};
-        for (const QLatin1StringView column : columns)
+        for (const schema::Column &column : columns)
             row.texts += m_session.text().toText(records.value(column));
         rows.push_back(std::move(row));
     }
     records.close();
     return {std::move(rows), records.leftOut(), records.isCutShort()};
-}
-
-void CatalogueList::remove(qint32 id)
-{
-    const auto close = qScopeGuard([this] { m_source.close(); });
-    m_source.reopen({Value(id)});
-    if (!m_source.isEof())
-        m_source.remove();
 }

@@ -31,8 +31,8 @@ protected:
 
     /// All records of an open result set as rows, and closes it: the identifier as the tag, the
     /// values as texts, Null as the empty one.
-    ListRows readRows(Recordset &records, QLatin1StringView tag,
-                      std::initializer_list<QLatin1StringView> columns) const;
+    ListRows readRows(Recordset &records, const schema::Column &tag,
+                      std::initializer_list<schema::Column> columns) const;
     /// Puts what belongs to the list above it.
     void setHead(QLayout *head);
 
@@ -41,10 +41,7 @@ protected:
     Messages &messages() const { return m_messages; }
 
 private:
-    void remove(qint32 id);
-
     Session &m_session;
     Messages &m_messages;
-    Recordset &m_source;
     RecordList *m_list;
 };

@@ -4,6 +4,7 @@
 #include "catalogue/weightadjustment.h"
 #include "session/session.h"
 #include "ui/attempt.h"
+#include "ui/fieldmessages.h"
 #include "ui/messages.h"
 
 #include <QCheckBox>
@@ -11,8 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-using namespace Qt::Literals;
 
 frmExercise::frmExercise(Session &session, Messages &messages, QWidget *parent)
     : CatalogueEditor(session, messages, session.data().rsExercise, QStringLiteral("frmExercise"),
@@ -62,12 +61,12 @@ QLayout *frmExercise::makeForm()
 
 void frmExercise::makeChecks()
 {
-    checkSpecified(txtName, tr("The Name should be specified"));
-    addCheck(txtCaloriesConsume, tr("The Calories Consume should be specified"),
+    checkSpecified(txtName, tr("Name"));
+    addCheck(txtCaloriesConsume, shouldBeSpecified(tr("Calories Consume")),
              [this] { return !txtCaloriesConsume->text().isEmpty(); });
-    checkNumeric(txtCaloriesConsume, tr("The Calories Consume field contains illegal data"));
-    checkSpecified(txtUnit, tr("The Unit should be specified"));
-    checkNumericOrEmpty(txtDefaultQty, tr("The Default Quantity field contains illegal data"));
+    checkNumeric(txtCaloriesConsume, tr("Calories Consume"));
+    checkSpecified(txtUnit, tr("Unit"));
+    checkNumericOrEmpty(txtDefaultQty, tr("Default Quantity"));
 }
 
 void frmExercise::makeConnections()
@@ -86,11 +85,11 @@ void frmExercise::makeConnections()
 void frmExercise::Populate()
 {
     if (!source().isEof()) {
-        showColumn(txtName, "Name"_L1);
-        showColumn(txtCaloriesConsume, "CaloriesConsume"_L1);
-        showColumn(txtUnit, "Unit"_L1);
-        chkWeightDependent->setChecked(source().number("WeightDependent"_L1) == 1);
-        showColumn(txtDefaultQty, "DefaultQty"_L1);
+        showColumn(txtName, schema::Exercise::Name);
+        showColumn(txtCaloriesConsume, schema::Exercise::CaloriesConsume);
+        showColumn(txtUnit, schema::Exercise::Unit);
+        chkWeightDependent->setChecked(source().number(schema::Exercise::WeightDependent) == 1);
+        showColumn(txtDefaultQty, schema::Exercise::DefaultQty);
     }
     showDependence();
     m_caloriesChanged = false;
@@ -120,15 +119,15 @@ bool frmExercise::Validate()
 
 void frmExercise::Gather()
 {
-    source().set("Name"_L1, Value(txtName->text()));
-    source().set("Unit"_L1, Value(txtUnit->text()));
-    source().set("WeightDependent"_L1, Value(chkWeightDependent->isChecked() ? 1 : 0));
-    source().set("DefaultQty"_L1, numberOrNull(txtDefaultQty));
+    source().set(schema::Exercise::Name, Value(txtName->text()));
+    source().set(schema::Exercise::Unit, Value(txtUnit->text()));
+    source().set(schema::Exercise::WeightDependent, Value(chkWeightDependent->isChecked() ? 1 : 0));
+    source().set(schema::Exercise::DefaultQty, numberOrNull(txtDefaultQty));
     // Untouched calories keep their base, which may have been given for another weight.
     if (!m_caloriesChanged)
         return;
-    source().set("CaloriesConsume"_L1, Value(number(txtCaloriesConsume)));
-    source().set("CaloriesConsumeBase"_L1, Value(caloriesForReferenceBody()));
+    source().set(schema::Exercise::CaloriesConsume, Value(number(txtCaloriesConsume)));
+    source().set(schema::Exercise::CaloriesConsumeBase, Value(caloriesForReferenceBody()));
 }
 
 double frmExercise::caloriesForReferenceBody() const

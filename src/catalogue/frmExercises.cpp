@@ -3,8 +3,6 @@
 #include "catalogue/frmExercise.h"
 #include "session/session.h"
 
-using namespace Qt::Literals;
-
 frmExercises::frmExercises(Session &session, Messages &messages, QWidget *parent)
     : CatalogueList(session, messages, session.data().rsExercise, QStringLiteral("frmExercises"),
                     tr("Activities"),
@@ -20,14 +18,13 @@ ListRows frmExercises::rows()
 {
     Recordset &activities = session().data().rsExerciseSorted;
     activities.reopenReadable();
-    return readRows(activities, "ExerciseID"_L1,
-                    {"Name"_L1, "CaloriesConsume"_L1, "Unit"_L1, "DefaultQty"_L1});
+    return readRows(activities, schema::Exercise::ExerciseID,
+                    {schema::Exercise::Name, schema::Exercise::CaloriesConsume,
+                     schema::Exercise::Unit, schema::Exercise::DefaultQty});
 }
 
 std::optional<Reselection> frmExercises::edit(qint32 id)
 {
     frmExercise editor(session(), messages(), this);
-    if (!editor.run(id))
-        return std::nullopt;
-    return Reselection{editor.storedName()};
+    return editor.run(id) ? std::optional(editor.reselection()) : std::nullopt;
 }

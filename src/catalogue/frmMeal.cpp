@@ -1,10 +1,10 @@
 #include "catalogue/frmMeal.h"
 
 #include "catalogue/frmMealCategory.h"
+#include "catalogue/mealcategorychooser.h"
 #include "catalogue/nutrition.h"
 #include "session/session.h"
 #include "ui/attempt.h"
-#include "ui/datacombo.h"
 #include "ui/elidedlabel.h"
 
 #include <QGridLayout>
@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <algorithm>
 
 using namespace Qt::Literals;
 
@@ -23,30 +25,24 @@ frmMeal::frmMeal(Session &session, Messages &messages, QWidget *parent)
     setForm(makeForm());
     makeChecks();
     makeConnections();
-    loadCategories();
+    dcbMealCategory->load();
 }
 
 void frmMeal::makeControls()
 {
-    dcbMealCategory = new DataCombo(this);
-    dcbMealCategory->setObjectName(QStringLiteral("dcbMealCategory"));
-    dcbMealCategory->setAccessibleName(tr("Meal Category"));
-    btnNewCategory = new QPushButton(tr("&New Category"), this);
-    btnNewCategory->setObjectName(QStringLiteral("btnNewCategory"));
-    btnNewCategory->setToolTip(tr("New record"));
-    btnNewCategory->setAutoDefault(false);
+    dcbMealCategory = new MealCategoryChooser(session(), this);
+    btnNewCategory = makeNewButton(QStringLiteral("btnNewCategory"), tr("&New Category"));
     makeNameBox(tr("Meal Name"));
     txtUnit = makeBox(QStringLiteral("txtUnit"), tr("Unit"));
     txtDefaultQty = makeBox(QStringLiteral("txtDefaultQty"), tr("Default Qty"));
     txtIncrement = makeBox(QStringLiteral("txtIncrement"), tr("Increment"));
     txtCalories = makeBox(QStringLiteral("txtCalories"), tr("Calories per Unit"));
-    txtFat = makeBox(QStringLiteral("txtFat"), tr("Fat by Weight"));
-    txtCarboHydrate = makeBox(QStringLiteral("txtCarboHydrate"), tr("Carbohydrate by Weight"));
-    txtProtein = makeBox(QStringLiteral("txtProtein"), tr("Protein by Weight"));
-    txtFatBC = makeBox(QStringLiteral("txtFatBC"), tr("Fat by Calories"));
-    txtCarboHydrateBC =
-        makeBox(QStringLiteral("txtCarboHydrateBC"), tr("Carbohydrate by Calories"));
-    txtProteinBC = makeBox(QStringLiteral("txtProteinBC"), tr("Protein by Calories"));
+    m_weights = {makeBox(QStringLiteral("txtFat"), tr("Fat by Weight")),
+                 makeBox(QStringLiteral("txtCarboHydrate"), tr("Carbohydrate by Weight")),
+                 makeBox(QStringLiteral("txtProtein"), tr("Protein by Weight"))};
+    m_shares = {makeBox(QStringLiteral("txtFatBC"), tr("Fat by Calories")),
+                makeBox(QStringLiteral("txtCarboHydrateBC"), tr("Carbohydrate by Calories")),
+                makeBox(QStringLiteral("txtProteinBC"), tr("Protein by Calories"))};
 }
 
 QLayout *frmMeal::makeForm()
@@ -73,31 +69,24 @@ QLayout *frmMeal::makeForm()
 
     auto *frames = new QHBoxLayout;
     frames->addWidget(
-        makeFrame(tr("By Weight"),
-                  {makeLabel(tr("&Fat"), txtFat), makeLabel(tr("Car&bohydr."), txtCarboHydrate),
-                   makeLabel(tr("&Protein"), txtProtein)},
-                  {txtFat, txtCarboHydrate, txtProtein}));
+        makeFrame(tr("By Weight"), {tr("&Fat"), tr("Car&bohydr."), tr("&Protein")}, m_weights));
     frames->addWidget(
-        makeFrame(tr("By Calories"),
-                  {makeLabel(tr("F&at"), txtFatBC), makeLabel(tr("Carboh&ydr."), txtCarboHydrateBC),
-                   makeLabel(tr("Pro&tein"), txtProteinBC)},
-                  {txtFatBC, txtCarboHydrateBC, txtProteinBC}));
+        makeFrame(tr("By Calories"), {tr("F&at"), tr("Carboh&ydr."), tr("Pro&tein")}, m_shares));
     form->addLayout(frames, 6, 0, 1, 4);
     form->setColumnStretch(2, 1);
     return form;
 }
 
-QGroupBox *frmMeal::makeFrame(const QString &title, std::initializer_list<QLabel *> labels,
-                              std::initializer_list<QLineEdit *> boxes)
+QGroupBox *frmMeal::makeFrame(const QString &title, const Nutrients<QString> &captions,
+                              const Nutrients<QLineEdit *> &boxes)
 {
     auto *frame = new QGroupBox(title, this);
     auto *grid = new QGridLayout(frame);
-    int row = 0;
-    for (QLabel *label : labels)
-        grid->addWidget(label, row++, 0);
-    row = 0;
-    for (QLineEdit *box : boxes)
-        grid->addWidget(box, row++, 1);
+    for (const Nutrient n : allNutrients) {
+        const int row = grid->rowCount();
+        grid->addWidget(makeLabel(captions[n], boxes[n]), row, 0);
+        grid->addWidget(boxes[n], row, 1);
+    }
     return frame;
 }
 
@@ -105,18 +94,17 @@ void frmMeal::makeChecks()
 {
     addCheck(dcbMealCategory, tr("The Meal Category is not specified or specified incorrect"),
              [this] { return dcbMealCategory->boundValue().has_value(); });
-    checkSpecified(txtName, tr("The Meal Name should be specified"));
-    checkSpecified(txtUnit, tr("The Unit should be specified"));
-    checkNumericOrEmpty(txtDefaultQty, tr("The Default Quantity field contains illegal data"));
-    checkNumericOrEmpty(txtIncrement, tr("The Increment field contains illegal data"));
-    checkSpecified(txtFat, tr("The Fat should be specified"));
-    checkNumeric(txtFat, tr("The Fat field contains illegal data"));
-    checkSpecified(txtCarboHydrate, tr("The CarboHydrate should be specified"));
-    checkNumeric(txtCarboHydrate, tr("The CarboHydrate field contains illegal data"));
-    checkSpecified(txtProtein, tr("The Protein should be specified"));
-    checkNumeric(txtProtein, tr("The Protein field contains illegal data"));
-    checkSpecified(txtCalories, tr("The Calories should be specified"));
-    checkNumeric(txtCalories, tr("The Calories field contains illegal data"));
+    checkSpecified(txtName, tr("Meal Name"));
+    checkSpecified(txtUnit, tr("Unit"));
+    checkNumericOrEmpty(txtDefaultQty, tr("Default Quantity"));
+    checkNumericOrEmpty(txtIncrement, tr("Increment"));
+    const Nutrients<QString> names{tr("Fat"), tr("CarboHydrate"), tr("Protein")};
+    for (const Nutrient n : allNutrients) {
+        checkSpecified(m_weights[n], names[n]);
+        checkNumeric(m_weights[n], names[n]);
+    }
+    checkSpecified(txtCalories, tr("Calories"));
+    checkNumeric(txtCalories, tr("Calories"));
 }
 
 void frmMeal::makeConnections()
@@ -124,27 +112,19 @@ void frmMeal::makeConnections()
     connect(btnNewCategory, &QPushButton::clicked, this,
             attempting(this, messages(), &frmMeal::createCategory));
     connect(txtUnit, &QLineEdit::textChanged, this, &frmMeal::showCaloriesLabel);
-    for (QLineEdit *box : {txtCalories, txtFat, txtCarboHydrate, txtProtein})
+    connect(txtCalories, &QLineEdit::textChanged, this, &frmMeal::splitCalories);
+    for (QLineEdit *box : m_weights)
         connect(box, &QLineEdit::textChanged, this, &frmMeal::splitCalories);
-}
-
-void frmMeal::loadCategories()
-{
-    Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopenReadable();
-    dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
-    categories.close();
 }
 
 std::vector<frmMeal::Bound> frmMeal::requiredNumbers() const
 {
-    return {{txtCalories, "Calories"_L1},
-            {txtFat, "Fat"_L1},
-            {txtCarboHydrate, "Carbohydrate"_L1},
-            {txtProtein, "Protein"_L1},
-            {txtFatBC, "FatBC"_L1},
-            {txtProteinBC, "ProteinBC"_L1},
-            {txtCarboHydrateBC, "CarbohydrateBC"_L1}};
+    std::vector<Bound> numbers = {{txtCalories, schema::Meal::Calories}};
+    for (const Nutrient n : allNutrients)
+        numbers.push_back({m_weights[n], schema::Meal::weights[n]});
+    for (const Nutrient n : allNutrients)
+        numbers.push_back({m_shares[n], schema::Meal::shares[n]});
+    return numbers;
 }
 
 void frmMeal::Populate()
@@ -154,22 +134,22 @@ void frmMeal::Populate()
             dcbMealCategory->setBoundValue(m_categoryId);
         return;
     }
-    dcbMealCategory->setBoundValue(source().integer("MealCategoryID"_L1));
-    showColumn(txtName, "Name"_L1);
-    showColumn(txtUnit, "Unit"_L1);
-    showColumn(txtDefaultQty, "DefaultQty"_L1);
-    showColumn(txtIncrement, "Increment"_L1);
+    dcbMealCategory->setBoundValue(source().integer(schema::Meal::MealCategoryID));
+    showColumn(txtName, schema::Meal::Name);
+    showColumn(txtUnit, schema::Meal::Unit);
+    showColumn(txtDefaultQty, schema::Meal::DefaultQty);
+    showColumn(txtIncrement, schema::Meal::Increment);
     for (const auto &[box, column] : requiredNumbers())
         showColumn(box, column);
 }
 
 void frmMeal::Gather()
 {
-    source().set("MealCategoryID"_L1, Value(*dcbMealCategory->boundValue()));
-    source().set("Name"_L1, Value(txtName->text()));
-    source().set("Unit"_L1, Value(txtUnit->text()));
-    source().set("DefaultQty"_L1, numberOrNull(txtDefaultQty));
-    source().set("Increment"_L1, numberOrNull(txtIncrement));
+    source().set(schema::Meal::MealCategoryID, Value(*dcbMealCategory->boundValue()));
+    source().set(schema::Meal::Name, Value(txtName->text()));
+    source().set(schema::Meal::Unit, Value(txtUnit->text()));
+    source().set(schema::Meal::DefaultQty, numberOrNull(txtDefaultQty));
+    source().set(schema::Meal::Increment, numberOrNull(txtIncrement));
     for (const auto &[box, column] : requiredNumbers())
         source().set(column, Value(number(box)));
 }
@@ -198,7 +178,7 @@ void frmMeal::createCategory()
         return;
     m_newCategoryName = editor.storedName();
     m_categoriesChanged = true;
-    loadCategories();
+    dcbMealCategory->load();
     dcbMealCategory->setDisplayedText(m_newCategoryName);
 }
 
@@ -219,18 +199,17 @@ void frmMeal::splitCalories()
         return;
     const LocaleText &text = session().text();
     const auto calories = text.toCurrency(txtCalories->text());
-    const auto fat = text.toCurrency(txtFat->text());
-    const auto carbohydrate = text.toCurrency(txtCarboHydrate->text());
-    const auto protein = text.toCurrency(txtProtein->text());
-    if (!calories || !fat || !carbohydrate || !protein)
+    const auto grams =
+        m_weights.map([&](const QLineEdit *box) { return text.toCurrency(box->text()); });
+    if (!calories || std::find(grams.begin(), grams.end(), std::nullopt) != grams.end())
         return;
     try {
-        const auto parts = caloriesByNutrient(*calories, *fat, *carbohydrate, *protein);
+        const auto parts =
+            caloriesByNutrient(*calories, grams.map([](const auto &value) { return *value; }));
         if (!parts)
             return;
-        txtFatBC->setText(text.toText(parts->fat));
-        txtProteinBC->setText(text.toText(parts->protein));
-        txtCarboHydrateBC->setText(text.toText(parts->carbohydrate));
+        for (const Nutrient n : allNutrients)
+            m_shares[n]->setText(text.toText((*parts)[n]));
     } catch (const OverflowError &) {
         // Beyond any meal: the boxes keep what they show, as they do for what is no number.
     }

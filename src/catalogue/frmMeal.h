@@ -2,8 +2,9 @@
 #pragma once
 
 #include "catalogue/catalogueeditor.h"
+#include "data/nutrients.h"
 
-class DataCombo;
+class MealCategoryChooser;
 class QGroupBox;
 
 /// The meal editor. The calories by nutrient are computed while calories or nutrients are typed;
@@ -37,34 +38,29 @@ private:
     struct Bound
     {
         QLineEdit *box;
-        QLatin1StringView column;
+        schema::Column column;
     };
 
     void makeControls();
     QLayout *makeForm();
-    QGroupBox *makeFrame(const QString &title, std::initializer_list<QLabel *> labels,
-                         std::initializer_list<QLineEdit *> boxes);
+    QGroupBox *makeFrame(const QString &title, const Nutrients<QString> &captions,
+                         const Nutrients<QLineEdit *> &boxes);
     void makeChecks();
     void makeConnections();
     std::vector<Bound> requiredNumbers() const;
-    void loadCategories();
     void createCategory();
     void showCaloriesLabel();
     void splitCalories();
 
-    DataCombo *dcbMealCategory;
+    MealCategoryChooser *dcbMealCategory;
     QPushButton *btnNewCategory;
     QLineEdit *txtUnit;
     QLineEdit *txtDefaultQty;
     QLineEdit *txtIncrement;
     QLabel *lblCalories;
     QLineEdit *txtCalories;
-    QLineEdit *txtFat;
-    QLineEdit *txtCarboHydrate;
-    QLineEdit *txtProtein;
-    QLineEdit *txtFatBC;
-    QLineEdit *txtCarboHydrateBC;
-    QLineEdit *txtProteinBC;
+    Nutrients<QLineEdit *> m_weights; ///< txtFat, txtCarboHydrate, txtProtein
+    Nutrients<QLineEdit *> m_shares;  ///< txtFatBC, txtCarboHydrateBC, txtProteinBC
 
     qint32 m_categoryId = 0;
     bool m_categoriesChanged = false;

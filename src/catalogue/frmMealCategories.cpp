@@ -3,8 +3,6 @@
 #include "catalogue/frmMealCategory.h"
 #include "session/session.h"
 
-using namespace Qt::Literals;
-
 frmMealCategories::frmMealCategories(Session &session, Messages &messages, QWidget *parent)
     : CatalogueList(session, messages, session.data().rsMealCategory,
                     QStringLiteral("frmMealCategories"), tr("Meal Categories"),
@@ -16,13 +14,11 @@ ListRows frmMealCategories::rows()
 {
     Recordset &categories = session().data().rsMealCategorySorted;
     categories.reopenReadable();
-    return readRows(categories, "MealCategoryID"_L1, {"Name"_L1});
+    return readRows(categories, schema::MealCategory::MealCategoryID, {schema::MealCategory::Name});
 }
 
 std::optional<Reselection> frmMealCategories::edit(qint32 id)
 {
     frmMealCategory editor(session(), messages(), this);
-    if (!editor.run(id))
-        return std::nullopt;
-    return Reselection{editor.storedName()};
+    return editor.run(id) ? std::optional(editor.reselection()) : std::nullopt;
 }

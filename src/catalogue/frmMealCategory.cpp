@@ -6,8 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-using namespace Qt::Literals;
-
 frmMealCategory::frmMealCategory(Session &session, Messages &messages, QWidget *parent)
     : CatalogueEditor(session, messages, session.data().rsMealCategory,
                       QStringLiteral("frmMealCategory"), tr("Meal Category"), parent)
@@ -16,18 +14,18 @@ frmMealCategory::frmMealCategory(Session &session, Messages &messages, QWidget *
     auto *form = new QFormLayout;
     form->addRow(makeLabel(tr("Meal Category &Name"), txtName), txtName);
     setForm(form);
-    checkSpecified(txtName, tr("The Name should be specified"));
+    checkSpecified(txtName, tr("Name"));
 }
 
 void frmMealCategory::Populate()
 {
     if (!source().isEof())
-        showColumn(txtName, "Name"_L1);
+        showColumn(txtName, schema::MealCategory::Name);
 }
 
 void frmMealCategory::Gather()
 {
-    source().set("Name"_L1, Value(txtName->text()));
+    source().set(schema::MealCategory::Name, Value(txtName->text()));
 }
 
 QString frmMealCategory::refusedStoreMessage() const

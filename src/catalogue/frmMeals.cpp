@@ -1,15 +1,13 @@
 #include "catalogue/frmMeals.h"
 
 #include "catalogue/frmMeal.h"
+#include "catalogue/mealcategorychooser.h"
 #include "session/session.h"
 #include "ui/attempt.h"
-#include "ui/datacombo.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScopedValueRollback>
-
-using namespace Qt::Literals;
 
 frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
     : CatalogueList(session, messages, session.data().rsMeal, QStringLiteral("frmMeals"),
@@ -23,10 +21,8 @@ frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
                      {tr("Def."), tr("Default quantity: proposed for a new entry"), true},
                      {tr("Increm."), tr("Increment: step by which the quantity is changed"), true}},
                     parent)
-    , dcbMealCategory(new DataCombo(this))
+    , dcbMealCategory(new MealCategoryChooser(session, this))
 {
-    dcbMealCategory->setObjectName(QStringLiteral("dcbMealCategory"));
-    dcbMealCategory->setAccessibleName(tr("Meal Category"));
     dcbMealCategory->setKeepsChoice(true); // the list always shows a category
     auto *label = new QLabel(tr("Meal Cate&gory"), this);
     label->setBuddy(dcbMealCategory);
@@ -41,19 +37,11 @@ frmMeals::frmMeals(Session &session, Messages &messages, QWidget *parent)
 
 void frmMeals::load()
 {
-    loadCategories();
+    dcbMealCategory->load();
     if (dcbMealCategory->count() > 0)
         dcbMealCategory->setBoundValue(dcbMealCategory->itemData(0).toInt());
     // The names of another category may be longer.
     resize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 110, 0}));
-}
-
-void frmMeals::loadCategories()
-{
-    Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopenReadable();
-    dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
-    categories.close();
 }
 
 void frmMeals::categoryChanged()
@@ -69,9 +57,10 @@ ListRows frmMeals::rows()
         return {};
     Recordset &meals = session().data().rsMealSorted;
     meals.reopenReadable({Value(*category)});
-    return readRows(meals, "MealID"_L1,
-                    {"Name"_L1, "Unit"_L1, "Fat"_L1, "Carbohydrate"_L1, "Protein"_L1, "Calories"_L1,
-                     "DefaultQty"_L1, "Increment"_L1});
+    return readRows(meals, schema::Meal::MealID,
+                    {schema::Meal::Name, schema::Meal::Unit, schema::Meal::Fat,
+                     schema::Meal::Carbohydrate, schema::Meal::Protein, schema::Meal::Calories,
+                     schema::Meal::DefaultQty, schema::Meal::Increment});
 }
 
 std::optional<Reselection> frmMeals::edit(qint32 id)
@@ -80,7 +69,7 @@ std::optional<Reselection> frmMeals::edit(qint32 id)
     editor.setCategoryId(dcbMealCategory->boundValue().value_or(0));
     const bool stored = editor.run(id);
     if (editor.categoriesChanged()) {
-        loadCategories();
+        dcbMealCategory->load();
         dcbMealCategory->setDisplayedText(editor.newCategoryName());
     }
     if (!stored)
@@ -89,5 +78,5 @@ std::optional<Reselection> frmMeals::edit(qint32 id)
         const QScopedValueRollback switching(m_switchingCategory, true);
         dcbMealCategory->setBoundValue(editor.categoryId());
     }
-    return Reselection{editor.storedName()};
+    return editor.reselection();
 }

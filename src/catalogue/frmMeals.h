@@ -3,7 +3,7 @@
 
 #include "catalogue/cataloguelist.h"
 
-class DataCombo;
+class MealCategoryChooser;
 
 class frmMeals : public CatalogueList
 {
@@ -18,10 +18,9 @@ protected:
     void load() override;
 
 private:
-    void loadCategories();
     void categoryChanged();
 
-    DataCombo *dcbMealCategory;
+    MealCategoryChooser *dcbMealCategory;
     /// The window itself chooses a category and refreshes the list afterwards.
     bool m_switchingCategory = false;
 };

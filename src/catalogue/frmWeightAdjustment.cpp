@@ -22,8 +22,8 @@ frmWeightAdjustment::frmWeightAdjustment(Session &session, Messages &messages, Q
     txtWeight->setText(session.text().toText(units::referenceWeight(metric)));
     setForm(makeForm());
 
-    checkNumeric(txtCaloriesConsume, tr("Calories field contains illegal value"));
-    checkNumeric(txtWeight, tr("For Weight field contains illegal value"));
+    checkNumber(txtCaloriesConsume, tr("Calories field contains illegal value"));
+    checkNumber(txtWeight, tr("For Weight field contains illegal value"));
     addCheck(txtWeight, tr("For Weight should be other than 0"),
              [this] { return *this->session().text().toDouble(txtWeight->text()) != 0; });
 }

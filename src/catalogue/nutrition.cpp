@@ -1,38 +1,46 @@
 #include "catalogue/nutrition.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-// The sum of three decimals; it overflows only when the sum itself is out of range, because the
-// least and the greatest are added first.
-Currency sumOf(Currency a, Currency b, Currency c)
+constexpr Nutrients<double> weights{4.5, 2.0, 2.0};
+constexpr Nutrient takesTheRest = Nutrient::Carbohydrate;
+
+// It overflows only when the sum itself is out of range, because each step leads towards zero or
+// all that is left has the sign of the sum.
+Currency sumOf(Nutrients<Currency> addends)
 {
-    std::array terms{a, b, c};
+    std::array terms = addends.values();
     std::sort(terms.begin(), terms.end());
-    return terms[0] + terms[2] + terms[1];
+    Currency sum;
+    auto least = terms.begin();
+    auto greatest = terms.end();
+    while (least != greatest)
+        sum = sum + (sum < Currency() ? *--greatest : *least++);
+    return sum;
 }
 
 } // namespace
 
-std::optional<CaloriesByNutrient> caloriesByNutrient(Currency calories, Currency fat,
-                                                     Currency carbohydrate, Currency protein)
+std::optional<Nutrients<Currency>> caloriesByNutrient(Currency calories,
+                                                      const Nutrients<Currency> &grams)
 {
-    const double weightedFat = fat.toDouble() * 4.5;
-    const Currency weightedProtein = protein * 2;
-    const Currency sum =
-        sumOf(Currency::fromDouble(weightedFat), weightedProtein, carbohydrate * 2);
+    const auto weighted = perNutrient([&](Nutrient n) { return grams[n].toDouble() * weights[n]; });
+    const Currency sum = sumOf(weighted.map(&Currency::fromDouble));
     if (sum == Currency())
         return std::nullopt;
 
     // Shares are taken in double precision, quotient first, and rounded once, to four places.
-    const auto share = [&](double weighted) {
-        return Currency::fromDouble(calories.toDouble() * (weighted / sum.toDouble()));
-    };
-    CaloriesByNutrient parts;
-    parts.fat = share(weightedFat);
-    parts.protein = share(weightedProtein.toDouble());
-    parts.carbohydrate = sumOf(calories, -parts.fat, -parts.protein);
+    Nutrients<Currency> parts;
+    Nutrients<Currency> rest;
+    rest[takesTheRest] = calories;
+    for (const Nutrient n : allNutrients) {
+        if (n == takesTheRest)
+            continue;
+        parts[n] = Currency::fromDouble(calories.toDouble() * (weighted[n] / sum.toDouble()));
+        rest[n] = -parts[n];
+    }
+    parts[takesTheRest] = sumOf(rest);
     return parts;
 }

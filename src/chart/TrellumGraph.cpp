@@ -1,5 +1,6 @@
 #include "chart/TrellumGraph.h"
 
+#include "chart/daylayout.h"
 #include "chart/emphasis.h"
 #include "chart/graphaccessible.h"
 #include "chart/secondclickguard.h"
@@ -17,19 +18,14 @@
 using namespace daychart;
 
 TrellumGraph::TrellumGraph(QWidget *parent)
-    : QWidget(parent)
+    : ChartWidget(parent)
     , m_targets(allTargets(m_shown))
-    , m_fonts(font(), logicalDpiY(), this)
-    , m_colors(ChartColors::of(palette()))
+    , m_colors(DayColors(palette()))
 {
     [[maybe_unused]] static const bool installed =
         (QAccessible::installFactory(graphAccessibleFactory), true);
     setObjectName(QStringLiteral("graph"));
     setAccessibleName(tr("Daily calorie chart"));
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     relayout();
 }
 
@@ -48,9 +44,9 @@ void TrellumGraph::set24HourClock(bool on)
     m_clock24 = on;
 }
 
-void TrellumGraph::addMeal(int id, QTime time, int carbohydrate, int fat, int protein)
+void TrellumGraph::addMeal(int id, QTime time, const Nutrients<int> &calories)
 {
-    m_held.add(MealItem{id, time, carbohydrate, fat, protein});
+    m_held.add(MealItem{id, time, calories});
 }
 
 void TrellumGraph::addActivity(int id, QTime begin, QTime end, int calories)
@@ -74,10 +70,10 @@ void TrellumGraph::repaintChart()
 
 void TrellumGraph::paintChart(QPainter &painter, const QRectF &area, const QPalette &palette) const
 {
-    const ChartFonts fonts(font(), logicalDpiY(), painter.device());
-    const ChartGeometry geometry =
-        chartGeometry(m_held, area, metricsOf(fonts, painter.device()), texts());
-    paintDayChart(painter, geometry, ChartColors::of(palette), fonts, Medium::Paper);
+    const plot::Fonts fonts(font(), logicalDpiY(), painter.device());
+    const DayGeometry geometry =
+        dayGeometry(m_held, area, plot::metricsOf(fonts, painter.device()), texts());
+    paintDayChart(painter, geometry, DayColors(palette), fonts, Medium::Paper);
 }
 
 QSize TrellumGraph::sizeHint() const
@@ -90,69 +86,30 @@ QSize TrellumGraph::minimumSizeHint() const
     return QSize(30, 18) * fontMetrics().height();
 }
 
-void TrellumGraph::relayout()
+void TrellumGraph::forgetLayout()
 {
-    m_fonts = ChartFonts(font(), logicalDpiY(), this);
-    m_colors = ChartColors::of(palette());
+    m_colors = DayColors(palette());
     m_geometry.reset();
-    m_picture = {};
     setAccessibleDescription(texts().daySummary(m_shown));
-    update();
 }
 
-/// Computed when it is first asked for, however many changes came before.
-const ChartGeometry &TrellumGraph::geometry()
+const DayGeometry &TrellumGraph::geometry()
 {
     if (!m_geometry)
-        m_geometry = chartGeometry(m_shown, rect(), metricsOf(m_fonts, this), texts());
+        m_geometry = dayGeometry(m_shown, rect(), plot::metricsOf(fonts(), this), texts());
     return *m_geometry;
 }
 
-void TrellumGraph::changeEvent(QEvent *event)
+void TrellumGraph::paintPicture(QPainter &painter)
 {
-    switch (event->type()) {
-    case QEvent::FontChange:
-    case QEvent::PaletteChange:
-    case QEvent::StyleChange:
-    case QEvent::LocaleChange:
-    case QEvent::LanguageChange:
-        relayout();
-        break;
-    default:
-        break;
-    }
-    QWidget::changeEvent(event);
+    paintDayChart(painter, geometry(), m_colors, fonts(), Medium::Screen);
 }
 
-void TrellumGraph::resizeEvent(QResizeEvent *)
+void TrellumGraph::paintEmphasis(QPainter &painter)
 {
-    relayout();
-}
-
-const QPixmap &TrellumGraph::picture()
-{
-    const qreal ratio = devicePixelRatioF();
-    if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
-        m_picture = QPixmap(size() * ratio);
-        m_picture.setDevicePixelRatio(ratio);
-        QPainter painter(&m_picture);
-        paintDayChart(painter, geometry(), m_colors, m_fonts, Medium::Screen);
-    }
-    return m_picture;
-}
-
-void TrellumGraph::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, picture());
-    paintEmphasis(painter, geometry(), m_colors, m_fonts, texts(), m_pointed, false);
-    if (!hasFocus() || !m_byKeyboard)
-        return;
-    paintEmphasis(painter, geometry(), m_colors, m_fonts, texts(), m_cursor, true);
-    const double line = 0.12 * geometry().unit;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_colors.highlight, line));
-    painter.drawRect(geometry().area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+    daychart::paintEmphasis(painter, geometry(), m_colors, fonts(), texts(), m_pointed, false);
+    if (showsFocus())
+        daychart::paintEmphasis(painter, geometry(), m_colors, fonts(), texts(), m_cursor, true);
 }
 
 void TrellumGraph::point(QPointF position)
@@ -239,21 +196,23 @@ std::optional<Cursor> TrellumGraph::cursorAfter(const QKeyEvent &key) const
     const Lane lane = m_cursor.target.lane;
     switch (key.key()) {
     case Qt::Key_Left:
-        return placing ? shifted(m_cursor, -minutes) : stepped(m_shown, m_cursor, Step::Previous);
+        return placing ? shifted(m_cursor, -minutes)
+                       : stepped(m_shown, m_cursor, WalkStep::Previous);
     case Qt::Key_Right:
-        return placing ? shifted(m_cursor, minutes) : stepped(m_shown, m_cursor, Step::Next);
+        return placing ? shifted(m_cursor, minutes) : stepped(m_shown, m_cursor, WalkStep::Next);
     case Qt::Key_PageUp:
         return shifted(m_cursor, -60);
     case Qt::Key_PageDown:
         return shifted(m_cursor, 60);
     case Qt::Key_Home:
-        return stepped(m_shown, m_cursor, Step::First);
+        return stepped(m_shown, m_cursor, WalkStep::First);
     case Qt::Key_End:
-        return stepped(m_shown, m_cursor, Step::Last);
+        return stepped(m_shown, m_cursor, WalkStep::Last);
     case Qt::Key_Up:
-        return lane == Lane::Activities ? stepped(m_shown, m_cursor, Step::OtherLane) : m_cursor;
+        return lane == Lane::Activities ? stepped(m_shown, m_cursor, WalkStep::OtherLane)
+                                        : m_cursor;
     case Qt::Key_Down:
-        return lane == Lane::Meals ? stepped(m_shown, m_cursor, Step::OtherLane) : m_cursor;
+        return lane == Lane::Meals ? stepped(m_shown, m_cursor, WalkStep::OtherLane) : m_cursor;
     default:
         return std::nullopt;
     }
@@ -279,19 +238,13 @@ void TrellumGraph::keyPressEvent(QKeyEvent *event)
 
 void TrellumGraph::focusInEvent(QFocusEvent *event)
 {
-    QWidget::focusInEvent(event);
+    ChartWidget::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
         m_byKeyboard = true;
     if (m_cursor.target.kind == Target::Kind::None)
-        m_cursor = stepped(m_shown, m_cursor, Step::First);
+        m_cursor = stepped(m_shown, m_cursor, WalkStep::First);
     moveCursor(m_cursor);
-}
-
-void TrellumGraph::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 /// Raises the signal of a target. Nothing may follow: the answer may be a dialog, after which the
@@ -305,15 +258,15 @@ void TrellumGraph::choose(const Target &target, int minute)
     case Target::Kind::Item:
     case Target::Kind::Caption:
         if (meals)
-            emit mealItemChosen(idOf(m_shown, target), hit, time);
+            Q_EMIT mealItemChosen(idOf(m_shown, target), hit, time);
         else
-            emit activityItemChosen(idOf(m_shown, target), hit, time);
+            Q_EMIT activityItemChosen(idOf(m_shown, target), hit, time);
         break;
     case Target::Kind::FreePlace:
         if (meals)
-            emit freeMealPlaceChosen(time);
+            Q_EMIT freeMealPlaceChosen(time);
         else
-            emit freeActivityPlaceChosen(time);
+            Q_EMIT freeActivityPlaceChosen(time);
         break;
     case Target::Kind::None:
         break;

@@ -5,9 +5,7 @@
 #include "chart/chartpainter.h"
 #include "chart/charttexts.h"
 #include "chart/navigation.h"
-
-#include <QPixmap>
-#include <QWidget>
+#include "plot/chartwidget.h"
 
 #include <optional>
 
@@ -24,7 +22,7 @@ class GraphAccessible;
 /// - Ctrl+Left and Ctrl+Right move the free place by five minutes, with Shift by one minute, and
 ///   Page Up and Page Down by one hour, starting where the keyboard stands.
 /// - Enter and Space choose.
-class TrellumGraph : public QWidget
+class TrellumGraph : public plot::ChartWidget
 {
     Q_OBJECT
 
@@ -37,7 +35,7 @@ public:
     void setBackgroundRate(double caloriesPerMinute);
     void set24HourClock(bool on);
     /// Calories of each nutrient; all may be 0 and, like those of an activity, negative.
-    void addMeal(int id, QTime time, int carbohydrate, int fat, int protein);
+    void addMeal(int id, QTime time, const Nutrients<int> &calories);
     /// An activity that does not end after it begins is shown as one minute long.
     void addActivity(int id, QTime begin, QTime end, int calories);
     /// Draws the items now held.
@@ -51,7 +49,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
+Q_SIGNALS:
     /// With hit, the meal of that id was chosen, at the time under the pointer. Without, the list
     /// of meals was (id 0), by its caption, which has no time: it is invalid then.
     void mealItemChosen(int id, bool hit, QTime time);
@@ -60,10 +58,11 @@ signals:
     void freeActivityPlaceChosen(QTime time);
 
 protected:
+    void forgetLayout() override;
+    void paintPicture(QPainter &painter) override;
+    void paintEmphasis(QPainter &painter) override;
+    bool showsFocus() const override { return hasFocus() && m_byKeyboard; }
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
@@ -71,15 +70,12 @@ protected:
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     friend class daychart::GraphAccessible;
 
     daychart::ChartTexts texts() const { return {locale(), m_clock24}; }
-    void relayout();
-    const daychart::ChartGeometry &geometry();
-    const QPixmap &picture();
+    const daychart::DayGeometry &geometry();
     void point(QPointF position);
     void setPointed(const daychart::Cursor &pointed);
     void moveCursor(const daychart::Cursor &cursor);
@@ -94,10 +90,8 @@ private:
     daychart::DayData m_shown; ///< as of the last repaintChart; what geometry and cursors refer to
     std::vector<daychart::Target> m_targets; ///< all that can be chosen of what is shown
     bool m_clock24 = true;
-    std::optional<daychart::ChartGeometry> m_geometry; ///< of what is shown, in this size
-    daychart::ChartFonts m_fonts;
-    daychart::ChartColors m_colors;
-    QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little
+    std::optional<daychart::DayGeometry> m_geometry; ///< of what is shown, in this size
+    daychart::DayColors m_colors;
     daychart::Cursor m_cursor;  ///< of the keyboard
     bool m_byKeyboard = false;  ///< the cursor is shown only while the keyboard is used
     daychart::Cursor m_pointed; ///< under the pointer

@@ -1,5 +1,7 @@
 #include "chart/activityblocks.h"
 
+#include "chart/drawnlimit.h"
+
 #include <cmath>
 
 namespace daychart {

@@ -1,7 +1,7 @@
 // The activities as blocks on top of the band of the background burn.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "chart/daygeometry.h"
 
 namespace daychart {
 

@@ -1,5 +1,7 @@
 #include "chart/chartpainter.h"
 
+#include "plot/drawing.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,16 +14,14 @@ namespace daychart {
 
 namespace {
 
-class DayChartPainter
+class DayPainter : plot::Drawing
 {
 public:
-    DayChartPainter(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
-                    const ChartFonts &fonts)
-        : p(painter)
+    DayPainter(QPainter &painter, const DayGeometry &geometry, const DayColors &colors,
+               const plot::Fonts &fonts)
+        : Drawing(painter, geometry.unit, colors, fonts)
         , g(geometry)
         , c(colors)
-        , m_fonts(fonts)
-        , m_hairline(std::max(1.0, em(0.055)))
     {
     }
 
@@ -41,20 +41,15 @@ public:
             paintSwatch(swatch);
         for (const auto &labels : {g.mealLabels, g.activityLabels}) {
             for (const ItemLabel &label : labels)
-                paintText(label.text);
+                text(label.text);
         }
-        for (const PlacedText &text : g.texts)
-            paintText(text);
+        for (const PlacedText &placed : g.texts)
+            text(placed);
         for (const PlacedText &hint : onScreen ? g.hints : std::vector<PlacedText>())
-            paintText(hint);
+            text(hint);
     }
 
 private:
-    double em(double count) const { return count * g.unit; }
-    QPen pen(const QColor &color, double lines = 1) const
-    {
-        return {color, lines * m_hairline, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
-    }
     void horizontal(double y) { p.drawLine(QPointF(left(), y), QPointF(right(), y)); }
     void vertical(double x, double from, double to)
     {
@@ -72,19 +67,13 @@ private:
     void paintSwatch(const Swatch &swatch);
     void paintPart(Part part, const QRectF &rect);
     void paintCut(const QRectF &rect, double y);
-    void paintText(const PlacedText &text) { paintPlacedText(p, text, c, m_fonts); }
     void plate(const QRectF &rect, QColor color);
-    void hatch(const QRectF &rect);
 
-    QPainter &p;
-    const ChartGeometry &g;
-    const ChartColors &c;
-    const ChartFonts &m_fonts;
-    double m_hairline;
-    QList<QLineF> m_lines; ///< kept for its memory
+    const DayGeometry &g;
+    const DayColors &c;
 };
 
-void DayChartPainter::paintGrid()
+void DayPainter::paintGrid()
 {
     p.setPen(pen(c.grid));
     for (const double x : g.hourLines)
@@ -95,7 +84,7 @@ void DayChartPainter::paintGrid()
     }
 }
 
-void DayChartPainter::paintBurn()
+void DayPainter::paintBurn()
 {
     p.fillRect(g.band, c.band);
     if (g.band.height() > 0) {
@@ -126,14 +115,13 @@ void DayChartPainter::paintBurn()
     }
 }
 
-void DayChartPainter::paintMeals()
+void DayPainter::paintMeals()
 {
-    constexpr std::array parts = {Part::Carbohydrate, Part::Fat, Part::Protein};
     for (const MealColumn &column : g.columns) {
         bool empty = true;
-        for (size_t i = 0; i < parts.size(); ++i) {
-            if (column.parts[i].height() > 0) {
-                paintPart(parts[i], column.parts[i]);
+        for (const Nutrient n : stackedNutrients) {
+            if (column.parts[n].height() > 0) {
+                paintPart(partOf(n), column.parts[n]);
                 empty = false;
             }
         }
@@ -149,7 +137,7 @@ void DayChartPainter::paintMeals()
 }
 
 /// A slanted gap through a column that is higher than drawn.
-void DayChartPainter::paintCut(const QRectF &rect, double y)
+void DayPainter::paintCut(const QRectF &rect, double y)
 {
     const double slant = em(0.2);
     const double over = em(0.15);
@@ -159,42 +147,22 @@ void DayChartPainter::paintCut(const QRectF &rect, double y)
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void DayChartPainter::paintPart(Part part, const QRectF &rect)
+void DayPainter::paintPart(Part part, const QRectF &rect)
 {
     p.fillRect(rect, c.fill(part));
-    if (part == Part::Fat)
-        hatch(rect);
+    if (part == partOf(Nutrient::Fat))
+        hatch(rect, pen(c.fatHatch, 1.1));
     if (part == Part::Activity || part == Part::Background) {
         p.setPen(pen(part == Part::Activity ? c.activityEdge : c.bandEdge));
         p.drawRect(rect);
-    } else if (rect.height() > 3 * m_hairline) {
+    } else if (rect.height() > 3 * hairline()) {
         // The parts of a column are parted by a line of the ground.
         p.setPen(pen(c.ground));
         p.drawLine(rect.topLeft(), rect.topRight());
     }
 }
 
-/// Lines from lower left to upper right, along which x + y is constant. Drawn one by one, because a
-/// brush's pattern would keep the size of a screen's pixels on paper.
-void DayChartPainter::hatch(const QRectF &rect)
-{
-    const double apart = em(0.3);
-    m_lines.clear();
-    const int first = int(std::ceil((rect.left() + rect.top()) / apart));
-    const int last = int(std::floor((rect.right() + rect.bottom()) / apart));
-    for (int i = first; i <= last; ++i) {
-        const double sum = i * apart;
-        const double from = std::max(rect.left(), sum - rect.bottom());
-        const double to = std::min(rect.right(), sum - rect.top());
-        m_lines.append(QLineF(from, sum - from, to, sum - to));
-    }
-    p.setRenderHint(QPainter::Antialiasing, true);
-    p.setPen(pen(c.fatHatch, 1.1));
-    p.drawLines(m_lines);
-    p.setRenderHint(QPainter::Antialiasing, false);
-}
-
-void DayChartPainter::paintAxes()
+void DayPainter::paintAxes()
 {
     p.setPen(pen(c.axis));
     horizontal(g.meals.scale.zeroY);
@@ -211,7 +179,7 @@ void DayChartPainter::paintAxes()
 
 /// A line with a seam of the ground's colour, so that it stays legible across the items. The jumps
 /// at meals are thin: the meal's column already says how large they are.
-void DayChartPainter::paintBalance()
+void DayPainter::paintBalance()
 {
     p.setRenderHint(QPainter::Antialiasing, true);
     const auto stroke = [this](const QColor &color, double jump, double line) {
@@ -233,20 +201,20 @@ void DayChartPainter::paintBalance()
     p.drawRoundedRect(g.balanceEnd.rect, em(0.25), em(0.25));
     p.setBrush(Qt::NoBrush);
     p.setRenderHint(QPainter::Antialiasing, false);
-    paintText(g.balanceEnd);
+    text(g.balanceEnd);
 }
 
-void DayChartPainter::paintPlates(bool withHints)
+void DayPainter::paintPlates(bool withHints)
 {
     for (const auto &labels : {g.mealLabels, g.activityLabels}) {
         for (const auto &[item, text] : labels)
-            plate(text.rect, text.tone == Tone::OnActivity ? c.activity : c.ground);
+            plate(text.rect, text.tone == Tone::OnFill ? c.activity : c.ground);
     }
     for (const PlacedText &hint : withHints ? g.hints : std::vector<PlacedText>())
         plate(hint.rect, c.ground);
 }
 
-void DayChartPainter::paintSwatch(const Swatch &swatch)
+void DayPainter::paintSwatch(const Swatch &swatch)
 {
     if (swatch.part != Part::Balance) {
         paintPart(swatch.part, swatch.rect);
@@ -262,7 +230,7 @@ void DayChartPainter::paintSwatch(const Swatch &swatch)
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void DayChartPainter::plate(const QRectF &rect, QColor color)
+void DayPainter::plate(const QRectF &rect, QColor color)
 {
     color.setAlphaF(0.8F);
     p.fillRect(rect, color);
@@ -270,54 +238,13 @@ void DayChartPainter::plate(const QRectF &rect, QColor color)
 
 } // namespace
 
-ChartFonts::ChartFonts(const QFont &base, int baseDpi, QPaintDevice *device)
-    : plain(base, device)
-    , caption(base, device)
-    , figure(base, device)
-{
-    const double points =
-        base.pointSizeF() > 0 ? base.pointSizeF() : base.pixelSize() * 72.0 / baseDpi;
-    plain.setPointSizeF(points);
-    caption.setPointSizeF(points);
-    caption.setBold(true);
-    figure.setPointSizeF(1.4 * points);
-    figure.setBold(true);
-}
-
-const QFont &ChartFonts::font(TextRole role) const
-{
-    if (role == TextRole::Plain)
-        return plain;
-    return role == TextRole::Caption ? caption : figure;
-}
-
-TextMetrics metricsOf(const ChartFonts &fonts, QPaintDevice *device)
-{
-    const std::array metrics = {QFontMetricsF(fonts.plain, device),
-                                QFontMetricsF(fonts.caption, device),
-                                QFontMetricsF(fonts.figure, device)};
-    return {metrics[0].height(), metrics[2].height(),
-            [metrics](const QString &text, TextRole role) {
-                return std::ceil(metrics[size_t(role)].horizontalAdvance(text));
-            }};
-}
-
-void paintPlacedText(QPainter &painter, const PlacedText &text, const ChartColors &colors,
-                     const ChartFonts &fonts)
-{
-    painter.setFont(fonts.font(text.role));
-    painter.setPen(colors.tone(text.tone));
-    painter.drawText(text.rect, int(text.alignment) | Qt::TextSingleLine | Qt::TextDontClip,
-                     text.text);
-}
-
-void paintDayChart(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
-                   const ChartFonts &fonts, Medium medium)
+void paintDayChart(QPainter &painter, const DayGeometry &geometry, const DayColors &colors,
+                   const plot::Fonts &fonts, Medium medium)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    DayChartPainter(painter, geometry, colors, fonts).paint(medium);
+    DayPainter(painter, geometry, colors, fonts).paint(medium);
     painter.restore();
 }
 

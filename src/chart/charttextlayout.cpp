@@ -1,20 +1,22 @@
 // The words and figures around the plot of the daily chart.
-#include "chart/chartlayout.h"
+#include "chart/daylayout.h"
 
 #include <cmath>
 
 namespace daychart {
 
-std::vector<LegendRow> Layout::legend(Lane which) const
+std::vector<LegendRow> DayLayout::legend(Lane which) const
 {
-    if (which == Lane::Meals)
-        return {{Part::Carbohydrate, m_figures.carbohydrate},
-                {Part::Fat, m_figures.fat},
-                {Part::Protein, m_figures.protein}};
-    return {{Part::Activity, m_figures.activities}, {Part::Background, m_figures.background}};
+    if (which == Lane::Activities)
+        return {{Part::Activity, m_figures.activities}, {Part::Background, m_figures.background}};
+    std::vector<LegendRow> rows;
+    rows.reserve(stackedNutrients.size());
+    for (const Nutrient n : stackedNutrients)
+        rows.push_back({partOf(n), m_figures.byNutrient[n]});
+    return rows;
 }
 
-double Layout::legendWidth(bool withValues) const
+double DayLayout::legendWidth(bool withValues) const
 {
     double widestName = 0;
     double widestValue = 0;
@@ -31,7 +33,7 @@ double Layout::legendWidth(bool withValues) const
     return std::ceil(std::max(row, widestHead) + em(0.6));
 }
 
-void Layout::placeFigures()
+void DayLayout::placeFigures()
 {
     const QString eaten = m_texts.number(m_figures.eaten());
     const QString burnt = m_texts.number(m_figures.burnt());
@@ -63,7 +65,7 @@ void Layout::placeFigures()
 }
 
 /// Name, figure and unit on one base line; returns where they end.
-double Layout::placeFigure(double x, const QString &name, const QString &value, bool withUnit)
+double DayLayout::placeFigure(double x, const QString &name, const QString &value, bool withUnit)
 {
     const double lift = 0.2 * (m_metrics.figureHeight - m_metrics.lineHeight);
     const auto place = [&](const QString &text, TextRole role, Tone tone) {
@@ -84,7 +86,7 @@ double Layout::placeFigure(double x, const QString &name, const QString &value, 
 }
 
 /// Caption, unit and legend from the top of the lane down, as many lines as there is room for.
-void Layout::placeHeader(Lane which)
+void DayLayout::placeHeader(Lane which)
 {
     LaneGeometry &current = lane(which);
     const double left = m_figureRow.left();
@@ -123,7 +125,7 @@ void Layout::placeHeader(Lane which)
                          .adjusted(-em(0.35), -em(0.25), em(0.35), em(0.25));
 }
 
-void Layout::placeTimeAxis()
+void DayLayout::placeTimeAxis()
 {
     double widest = 0;
     for (int hour = 0; hour <= 24; ++hour)
@@ -142,7 +144,7 @@ void Layout::placeTimeAxis()
 }
 
 /// The labels at the left of both lanes; from here on the grid lines are heights.
-void Layout::placeValueLabels()
+void DayLayout::placeValueLabels()
 {
     const auto place = [this](LaneGeometry &current, double step) {
         for (double &value : current.gridLines) {
@@ -158,7 +160,7 @@ void Layout::placeValueLabels()
     place(g.activities, m_burnStep);
 }
 
-void Layout::placeHints()
+void DayLayout::placeHints()
 {
     const auto place = [this](Lane which, double y) {
         const QString text = m_texts.emptyHint(which);
@@ -175,7 +177,7 @@ void Layout::placeHints()
         place(Lane::Activities, g.activities.area.top() + em(1.2));
 }
 
-void Layout::placeNotDrawn()
+void DayLayout::placeNotDrawn()
 {
     double y = g.timeAxis.bottom();
     for (const QString &sentence : m_notDrawn) {

@@ -47,20 +47,16 @@ QString ChartTexts::unit(Lane lane) const
 QString ChartTexts::part(Part part) const
 {
     switch (part) {
-    case Part::Carbohydrate:
-        return tr("Carbohydrate");
-    case Part::Fat:
-        return tr("Fat");
-    case Part::Protein:
-        return tr("Protein");
     case Part::Activity:
         return tr("Activity");
     case Part::Background:
         return tr("Background");
     case Part::Balance:
+        return tr("Balance");
+    case Part::Nutrients:
         break;
     }
-    return tr("Balance");
+    return Nutrients<QString>{tr("Fat"), tr("Carbohydrate"), tr("Protein")}[nutrientOf(part)];
 }
 
 QString ChartTexts::eaten() const
@@ -82,8 +78,9 @@ QString ChartTexts::emptyHint(Lane lane) const
 QString ChartTexts::mealName(const MealItem &meal) const
 {
     return tr("Meal at %1, %2: carbohydrate %3, fat %4, protein %5")
-        .arg(time(meal.time), energy(meal.calories()), number(meal.carbohydrate), number(meal.fat),
-             number(meal.protein));
+        .arg(time(meal.time), energy(meal.calories()),
+             number(meal.byNutrient[Nutrient::Carbohydrate]),
+             number(meal.byNutrient[Nutrient::Fat]), number(meal.byNutrient[Nutrient::Protein]));
 }
 
 QString ChartTexts::activityName(const ActivityItem &activity) const
@@ -130,9 +127,10 @@ QStringList ChartTexts::notDrawn(const DayData &day) const
 
 QString ChartTexts::mealTip(const MealItem &meal) const
 {
-    return tr("Meal at %1\n%2\nCarbohydrate: %3\nFat: %4\nProtein: %5")
-        .arg(time(meal.time), energy(meal.calories()), energy(meal.carbohydrate), energy(meal.fat),
-             energy(meal.protein));
+    QString tip = tr("Meal at %1\n%2").arg(time(meal.time), energy(meal.calories()));
+    for (const Nutrient n : stackedNutrients)
+        tip += tr("\n%1: %2").arg(part(partOf(n)), energy(meal.byNutrient[n]));
+    return tip;
 }
 
 QString ChartTexts::activityTip(const ActivityItem &activity) const

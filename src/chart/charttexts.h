@@ -1,10 +1,12 @@
 // The words and figures of the daily chart: on it, in its tooltips and for a screen reader.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "chart/chartparts.h"
+#include "chart/daydata.h"
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QStringList>
 
 namespace daychart {
 

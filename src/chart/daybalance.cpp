@@ -34,9 +34,8 @@ DayFigures dayFigures(const DayData &day)
 {
     DayFigures figures;
     day.forEachMeal([&](const MealItem &meal) {
-        figures.carbohydrate += meal.carbohydrate;
-        figures.fat += meal.fat;
-        figures.protein += meal.protein;
+        for (const Nutrient n : allNutrients)
+            figures.byNutrient[n] += meal.byNutrient[n];
     });
     day.forEachActivity(
         [&](const ActivityItem &activity) { figures.activities += activity.calories; });

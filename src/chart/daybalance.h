@@ -8,13 +8,11 @@ namespace daychart {
 /// Totals of the day in whole calories, rounded so that the figures shown add up.
 struct DayFigures
 {
-    qint64 carbohydrate = 0;
-    qint64 fat = 0;
-    qint64 protein = 0;
+    Nutrients<qint64> byNutrient; ///< of what was eaten
     qint64 activities = 0;
     qint64 background = 0; ///< the rate over all 1440 minutes of the day
 
-    qint64 eaten() const { return carbohydrate + fat + protein; }
+    qint64 eaten() const { return byNutrient.sum(); }
     qint64 burnt() const { return activities + background; }
     /// Positive: more was eaten than burnt.
     qint64 balance() const { return eaten() - burnt(); }

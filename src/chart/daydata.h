@@ -1,6 +1,8 @@
 // What the daily chart is handed: the items of one day, and the day as minutes.
 #pragma once
 
+#include "data/nutrients.h"
+
 #include <QTime>
 
 #include <algorithm>
@@ -27,11 +29,9 @@ struct MealItem
 {
     int id = 0;
     QTime time;
-    int carbohydrate = 0;
-    int fat = 0;
-    int protein = 0;
+    Nutrients<int> byNutrient;
 
-    qint64 calories() const { return qint64(carbohydrate) + fat + protein; }
+    qint64 calories() const { return byNutrient.sum<qint64>(); }
 };
 
 /// One performance of an activity; its calories come on top of the background burn.

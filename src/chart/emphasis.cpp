@@ -10,7 +10,7 @@ namespace daychart {
 
 namespace {
 
-QPainterPath outlineOf(const ChartGeometry &geometry, const Target &target, double distance)
+QPainterPath outlineOf(const DayGeometry &geometry, const Target &target, double distance)
 {
     QPainterPath path;
     if (target.isItem(Lane::Activities)) {
@@ -24,8 +24,8 @@ QPainterPath outlineOf(const ChartGeometry &geometry, const Target &target, doub
     return path;
 }
 
-void paintPlace(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
-                const ChartFonts &fonts, const ChartTexts &texts, const Cursor &cursor)
+void paintPlace(QPainter &painter, const DayGeometry &geometry, const DayColors &colors,
+                const plot::Fonts &fonts, const ChartTexts &texts, const Cursor &cursor)
 {
     const double unit = geometry.unit;
     const QRectF &lane = geometry.lane(cursor.target.lane).area;
@@ -48,8 +48,8 @@ void paintPlace(QPainter &painter, const ChartGeometry &geometry, const ChartCol
 
 } // namespace
 
-void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ChartColors &colors,
-                   const ChartFonts &fonts, const ChartTexts &texts, const Cursor &cursor,
+void paintEmphasis(QPainter &painter, const DayGeometry &geometry, const DayColors &colors,
+                   const plot::Fonts &fonts, const ChartTexts &texts, const Cursor &cursor,
                    bool strong)
 {
     if (cursor.target.kind == Target::Kind::None)

@@ -20,7 +20,7 @@ bool blockContains(const ActivityBlock &block, QPointF point, double slack)
     });
 }
 
-int mealAt(const ChartGeometry &geometry, QPointF point, double slack)
+int mealAt(const DayGeometry &geometry, QPointF point, double slack)
 {
     for (size_t i = 0; i < geometry.columns.size(); ++i) {
         const QRectF &rect = geometry.columns[i].rect;
@@ -30,7 +30,7 @@ int mealAt(const ChartGeometry &geometry, QPointF point, double slack)
     return -1;
 }
 
-int activityAt(const ChartGeometry &geometry, QPointF point, double slack)
+int activityAt(const DayGeometry &geometry, QPointF point, double slack)
 {
     for (size_t i = 0; i < geometry.blocks.size(); ++i) {
         if (blockContains(geometry.blocks[i], point, slack))
@@ -40,7 +40,7 @@ int activityAt(const ChartGeometry &geometry, QPointF point, double slack)
 }
 
 /// Exactly on an item, else on its label, else just beside it.
-int itemAt(const ChartGeometry &geometry, Lane lane, QPointF point)
+int itemAt(const DayGeometry &geometry, Lane lane, QPointF point)
 {
     const bool meals = lane == Lane::Meals;
     const auto find = meals ? mealAt : activityAt;
@@ -56,7 +56,7 @@ int itemAt(const ChartGeometry &geometry, Lane lane, QPointF point)
 
 } // namespace
 
-Target targetAt(const ChartGeometry &geometry, QPointF point)
+Target targetAt(const DayGeometry &geometry, QPointF point)
 {
     for (const Lane which : {Lane::Meals, Lane::Activities}) {
         const LaneGeometry &lane = geometry.lane(which);
@@ -71,14 +71,14 @@ Target targetAt(const ChartGeometry &geometry, QPointF point)
     return {};
 }
 
-int minuteAt(const ChartGeometry &geometry, double x)
+int minuteAt(const DayGeometry &geometry, double x)
 {
     const int grid = geometry.time.minutesPerUnit() > 1.25 ? 5 : 1;
     const double minute = std::clamp(geometry.time.minute(x), 0.0, double(minutesPerDay));
     return std::min(int(std::lround(minute / grid)) * grid, minutesPerDay - 1);
 }
 
-QRectF boundsOf(const ChartGeometry &geometry, const Target &target)
+QRectF boundsOf(const DayGeometry &geometry, const Target &target)
 {
     const LaneGeometry &lane = geometry.lane(target.lane);
     switch (target.kind) {

@@ -1,7 +1,7 @@
 // What lies under a point of the chart.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "chart/daygeometry.h"
 
 namespace daychart {
 
@@ -27,13 +27,13 @@ struct Target
 
 /// Items come before the free place around them; an item too small to meet is met a little beside
 /// it too. A lane's header and its total in the line of figures are its caption.
-Target targetAt(const ChartGeometry &geometry, QPointF point);
+Target targetAt(const DayGeometry &geometry, QPointF point);
 
 /// The minute of the day at x, 0 to 1439: the nearest one, or the nearest multiple of five where
 /// the scale is too coarse to point at single minutes.
-int minuteAt(const ChartGeometry &geometry, double x);
+int minuteAt(const DayGeometry &geometry, double x);
 
 /// The outline of a target, for tooltips and screen readers; of a free place, its lane.
-QRectF boundsOf(const ChartGeometry &geometry, const Target &target);
+QRectF boundsOf(const DayGeometry &geometry, const Target &target);
 
 } // namespace daychart

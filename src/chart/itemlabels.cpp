@@ -134,7 +134,7 @@ std::vector<ItemLabel> activityLabels(const DayData &day, const std::vector<Acti
         if (!block.cut && widest(block.segments).contains(inside)) {
             if (const auto rect = room.taken(item, inside))
                 labels.push_back(
-                    {item, {*rect, text, Qt::AlignCenter, TextRole::Plain, Tone::OnActivity}});
+                    {item, {*rect, text, Qt::AlignCenter, TextRole::Plain, Tone::OnFill}});
             continue;
         }
         const QRectF &top = highest(block.segments);

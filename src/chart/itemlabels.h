@@ -1,7 +1,8 @@
 // The calories written at columns and blocks.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "chart/charttexts.h"
+#include "chart/daygeometry.h"
 
 namespace daychart {
 

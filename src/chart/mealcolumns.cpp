@@ -1,5 +1,7 @@
 #include "chart/mealcolumns.h"
 
+#include "chart/drawnlimit.h"
+
 #include <cmath>
 #include <numeric>
 
@@ -18,7 +20,7 @@ struct Extent
 Extent extentOf(const MealItem &meal)
 {
     Extent extent;
-    for (const int calories : {meal.carbohydrate, meal.fat, meal.protein})
+    for (const int calories : meal.byNutrient)
         (calories > 0 ? extent.up : extent.down) += std::abs(double(calories));
     return extent;
 }
@@ -108,14 +110,14 @@ MealColumn columnOf(const MealItem &meal, double centre, double width, const Val
     const double left = centre - width / 2;
     double up = scale.zeroY;
     double down = scale.zeroY;
-    const std::array calories = {meal.carbohydrate, meal.fat, meal.protein};
-    for (size_t i = 0; i < calories.size(); ++i) {
-        const double length = std::abs(double(calories[i])) * perCalorie;
-        if (calories[i] > 0)
+    for (const Nutrient n : stackedNutrients) {
+        const int calories = meal.byNutrient[n];
+        const double length = std::abs(double(calories)) * perCalorie;
+        if (calories > 0)
             up -= length;
-        if (calories[i] != 0)
-            column.parts[i] = QRectF(left, calories[i] > 0 ? up : down, width, length);
-        if (calories[i] < 0)
+        if (calories != 0)
+            column.parts[n] = QRectF(left, calories > 0 ? up : down, width, length);
+        if (calories < 0)
             down += length;
     }
     if (!(down > up))
@@ -138,7 +140,7 @@ ValueScale mealScale(const DayData &day, double topY, double bottomY)
     }
     if (low == 0 && high == 0)
         high = 500; // an axis to look at until there is something to measure
-    return fittedScale(low, high, topY, bottomY);
+    return plot::fittedScale(low, high, topY, bottomY);
 }
 
 std::vector<MealColumn> mealColumns(const DayData &day, const TimeScale &time,

@@ -1,7 +1,7 @@
 // The meals as columns stacked from their nutrients.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "chart/daygeometry.h"
 
 namespace daychart {
 

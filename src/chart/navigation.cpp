@@ -56,24 +56,24 @@ Cursor placedOn(const DayData &day, const Target &target, int minute)
     return {target, std::clamp(minute, 0, minutesPerDay - 1)};
 }
 
-Cursor stepped(const DayData &day, const Cursor &cursor, Step step)
+Cursor stepped(const DayData &day, const Cursor &cursor, WalkStep step)
 {
     if (cursor.target.kind == Kind::None)
         return placedOn(day, {Kind::Caption, Lane::Meals}, cursor.minute);
-    if (step == Step::OtherLane)
+    if (step == WalkStep::OtherLane)
         return placedOn(day, counterpart(day, cursor), cursor.minute);
 
     const std::vector<Target> targets = laneTargets(day, cursor.target.lane);
     const auto here = std::find(targets.begin(), targets.end(), cursor.target);
     size_t index = here == targets.end() ? 0 : size_t(here - targets.begin());
     switch (step) {
-    case Step::Previous:
+    case WalkStep::Previous:
         index = index > 0 ? index - 1 : 0;
         break;
-    case Step::Next:
+    case WalkStep::Next:
         index = std::min(index + 1, targets.size() - 1);
         break;
-    case Step::First:
+    case WalkStep::First:
         index = 0;
         break;
     default:

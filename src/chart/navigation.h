@@ -13,7 +13,7 @@ struct Cursor
     int minute = minutesPerDay / 2;
 };
 
-enum class Step
+enum class WalkStep
 {
     Previous,
     Next,
@@ -25,7 +25,7 @@ enum class Step
 /// One step in the cursor's lane: its caption, then its items by time, then its free place at the
 /// cursor's minute. The other lane is entered at the item nearest in time, or at the same kind of
 /// place.
-Cursor stepped(const DayData &day, const Cursor &cursor, Step step);
+Cursor stepped(const DayData &day, const Cursor &cursor, WalkStep step);
 
 /// The free place of the cursor's lane that many minutes away, within the day. A step of five
 /// minutes leads to a multiple of five.

@@ -2,7 +2,7 @@
 // those of the sample journal.
 #pragma once
 
-#include <array>
+#include "data/schema.h"
 
 /// The declared type of a parameter. A value handed in is converted to it when it is bound; a
 /// text is compared as the column that it meets, so a date or identifier may be handed in as one.
@@ -22,59 +22,80 @@ struct Parameter
     ParameterType type = ParameterType::None;
 };
 
-/// A named command. `table` says where an updatable result set writes to; it is null for the
-/// others. `key` is the column with the identifier of a row, null where rows have none.
+/// A named command.
 struct Command
 {
     const char *name;
     const char *sql;
     std::array<Parameter, 3> parameters = {};
-    const char *table = nullptr;
-    const char *key = nullptr;
+    /// Where an updatable result set writes to; null for the others.
+    const schema::Table *table = nullptr;
+    /// What other records and the windows refer to a row by, and what therefore has to fit their
+    /// 32 bits; null where nothing does.
+    const schema::Column *identifier = nullptr;
 };
 
 namespace commands {
 
 using enum ParameterType;
 
+// What the commands compute.
+
+inline constexpr schema::Column sFat{"sFat", schema::Type::Integer};
+inline constexpr schema::Column sCarbohydrate{"sCarbohydrate", schema::Type::Integer};
+inline constexpr schema::Column sProtein{"sProtein", schema::Type::Integer};
+inline constexpr Nutrients<schema::Column> consumed{sFat, sCarbohydrate, sProtein};
+inline constexpr schema::Column sCalories{"sCalories", schema::Type::Integer};
+inline constexpr schema::Column minDt{"minDt", schema::Type::Integer, true};
+inline constexpr schema::Column maxDt{"maxDt", schema::Type::Integer, true};
+inline constexpr schema::Column days{"days", schema::Type::Integer};
+inline constexpr schema::Column calories{"calories", schema::Type::Real};
+inline constexpr schema::Column curDate{"curDate", schema::Type::Integer};
+
 // Catalogues
 
 inline constexpr Command MealCategory{"MealCategory",
                                       "select * from MealCategory where MealCategoryID = :id",
                                       {{{":id", Integer}}},
-                                      "MealCategory",
-                                      "MealCategoryID"};
+                                      &schema::MealCategory::table,
+                                      &schema::MealCategory::MealCategoryID};
 
 inline constexpr Command MealCategorySorted{"MealCategorySorted",
                                             "select * from MealCategory order by Name",
                                             {},
                                             nullptr,
-                                            "MealCategoryID"};
+                                            &schema::MealCategory::MealCategoryID};
 
-inline constexpr Command Meal{
-    "Meal", "select * from Meal where MealID = :id", {{{":id", Integer}}}, "Meal", "MealID"};
+inline constexpr Command Meal{"Meal",
+                              "select * from Meal where MealID = :id",
+                              {{{":id", Integer}}},
+                              &schema::Meal::table,
+                              &schema::Meal::MealID};
 
 inline constexpr Command MealSorted{"MealSorted",
                                     "select * from Meal where MealCategoryID = :id order by Name",
                                     {{{":id", Integer}}},
                                     nullptr,
-                                    "MealID"};
+                                    &schema::Meal::MealID};
 
 inline constexpr Command MealForCategory{
     "MealForCategory",
     "select * from Meal where MealCategoryID = :ID order by Name",
     {{{":ID", Integer}}},
     nullptr,
-    "MealID"};
+    &schema::Meal::MealID};
 
 inline constexpr Command Exercise{"Exercise",
                                   "select * from Exercise where ExerciseID = :a",
                                   {{{":a", Integer}}},
-                                  "Exercise",
-                                  "ExerciseID"};
+                                  &schema::Exercise::table,
+                                  &schema::Exercise::ExerciseID};
 
-inline constexpr Command ExerciseSorted{
-    "ExerciseSorted", "select * from Exercise order by Name", {}, nullptr, "ExerciseID"};
+inline constexpr Command ExerciseSorted{"ExerciseSorted",
+                                        "select * from Exercise order by Name",
+                                        {},
+                                        nullptr,
+                                        &schema::Exercise::ExerciseID};
 
 // Daily journal
 
@@ -87,7 +108,7 @@ inline constexpr Command MealConsumeSorted{
     " where MealConsume.ConsumeDate = :d order by ConsumeTime",
     {{{":d", Date}}},
     nullptr,
-    "MealConsumeID"};
+    &schema::MealConsume::MealConsumeID};
 
 inline constexpr Command MealConsume{
     "MealConsume",
@@ -95,8 +116,8 @@ inline constexpr Command MealConsume{
     " from MealConsume inner join Meal on MealConsume.MealID = Meal.MealID"
     " where MealConsumeID = :id",
     {{{":id", Integer}}},
-    "MealConsume",
-    "MealConsumeID"};
+    &schema::MealConsume::table,
+    &schema::MealConsume::MealConsumeID};
 
 inline constexpr Command MealConsumeDelete{
     "MealConsumeDelete", "delete from MealConsume where MealConsumeID = :id", {{{":id", Text}}}};
@@ -109,14 +130,14 @@ inline constexpr Command ExercisePerformSorted{
     " where PerformDate = :dt order by timeBeg",
     {{{":dt", Date}}},
     nullptr,
-    "ExercisePerformID"};
+    &schema::ExercisePerform::ExercisePerformID};
 
 inline constexpr Command ExercisePerform{"ExercisePerform",
                                          "select * from ExercisePerform"
                                          " where ExercisePerformID = :id",
                                          {{{":id", Integer}}},
-                                         "ExercisePerform",
-                                         "ExercisePerformID"};
+                                         &schema::ExercisePerform::table,
+                                         &schema::ExercisePerform::ExercisePerformID};
 
 // Body measurements and notes
 
@@ -125,16 +146,19 @@ inline constexpr Command BodySorted{
     "select * from Body where DateMeasured >= :DateMeasuredFrom order by DateMeasured",
     {{{":DateMeasuredFrom", Text}}},
     nullptr,
-    "BodyID"};
+    &schema::Body::BodyID};
 
-inline constexpr Command Body{
-    "Body", "select * from Body where BodyID = :id", {{{":id", Integer}}}, "Body", "BodyID"};
+inline constexpr Command Body{"Body",
+                              "select * from Body where BodyID = :id",
+                              {{{":id", Integer}}},
+                              &schema::Body::table,
+                              &schema::Body::BodyID};
 
 inline constexpr Command BodyCheck{"BodyCheck",
                                    "select * from Body where DateMeasured = :dt and BodyID <> :id",
                                    {{{":dt", Date}, {":id", Integer}}},
                                    nullptr,
-                                   "BodyID"};
+                                   &schema::Body::BodyID};
 
 inline constexpr Command BodyDelete{
     "BodyDelete", "delete from Body where BodyID = :id", {{{":id", Text}}}};
@@ -144,13 +168,13 @@ inline constexpr Command UserNoteSorted{
     "select * from UserNote where DateTo >= :theDateFrom order by DateFrom",
     {{{":theDateFrom", Date}}},
     nullptr,
-    "UserNoteID"};
+    &schema::UserNote::UserNoteID};
 
 inline constexpr Command UserNote{"UserNote",
                                   "select * from UserNote where UserNoteID = :id",
                                   {{{":id", Integer}}},
-                                  "UserNote",
-                                  "UserNoteID"};
+                                  &schema::UserNote::table,
+                                  &schema::UserNote::UserNoteID};
 
 inline constexpr Command UserNoteCheck{
     "UserNoteCheck",
@@ -161,7 +185,8 @@ inline constexpr Command UserNoteCheck{
 
 // Common parameters and recalculation
 
-inline constexpr Command Common{"Common", "select rowid, * from Common", {}, "Common", "rowid"};
+inline constexpr Command Common{
+    "Common", "select rowid, * from Common", {}, &schema::Common::table};
 
 inline constexpr Command RecalculateWeightDependent{
     "RecalculateWeightDependent",

@@ -1,6 +1,7 @@
 #include "data/connection.h"
 
 #include "data/namecollation.h"
+#include "data/schema.h"
 #include "data/sqlfunctions.h"
 
 #include <QDir>
@@ -27,27 +28,6 @@ constexpr char connectionSettings[] = "PRAGMA foreign_keys=ON;"
                                       "PRAGMA synchronous=EXTRA;"
                                       "PRAGMA trusted_schema=OFF;";
 
-struct ExpectedTable
-{
-    const char *name;
-    const char *columns;
-};
-
-constexpr ExpectedTable expectedTables[] = {
-    {"MealCategory", "MealCategoryID, Name"},
-    {"Meal",
-     "MealID, MealCategoryID, Name, Unit, DefaultQty, Increment, Calories, Fat, Carbohydrate, "
-     "Protein, FatBC, CarbohydrateBC, ProteinBC"},
-    {"Exercise",
-     "ExerciseID, Name, Unit, DefaultQty, CaloriesConsume, CaloriesConsumeBase, WeightDependent"},
-    {"MealConsume", "MealConsumeID, MealID, ConsumeDate, ConsumeTime, Qty"},
-    {"ExercisePerform", "ExercisePerformID, ExerciseID, PerformDate, timeBeg, timeEnd, Qty"},
-    {"Body", "BodyID, DateMeasured, Weight, Breast, Waist, Hips, Measurement"},
-    {"UserNote", "UserNoteID, DateFrom, DateTo, NoteText"},
-    {"Common", "weight, metabolicRate, Measurement, NextBodyID, NextMealConsumeID, "
-               "NextExercisePerformID, NextUserNoteID, installDate"},
-};
-
 } // namespace
 
 void bindValue(SQLite::Statement &statement, int index, const Value &value)
@@ -62,6 +42,13 @@ void bindValue(SQLite::Statement &statement, int index, const Value &value)
         void operator()(const QString &text) { statement.bind(index, text.toStdString()); }
     };
     std::visit(Binder{statement, index}, value.storage());
+}
+
+void bindValues(SQLite::Statement &statement, const std::vector<Value> &values)
+{
+    int index = 0;
+    for (const Value &value : values)
+        bindValue(statement, ++index, value);
 }
 
 Value columnValue(SQLite::Statement &statement, int column)
@@ -113,10 +100,12 @@ void Connection::open(const QString &path, int flags)
 
 void Connection::checkTables()
 {
-    for (const ExpectedTable &table : expectedTables) {
-        const std::string columns = table.columns;
+    for (const schema::Table &table : schema::tables) {
+        std::string columns;
+        for (const schema::Column &column : table)
+            columns += (columns.empty() ? "" : ", ") + std::string(column.name());
         // Preparing alone tells whether the table and its columns are there.
-        SQLite::Statement(*m_database, "select " + columns + " from " + table.name);
+        SQLite::Statement(*m_database, "select " + columns + " from " + table.name());
     }
     SQLite::Statement common(*m_database, "select count(*) from Common");
     if (!common.executeStep() || common.getColumn(0).getInt() != 1)
@@ -139,16 +128,7 @@ void Connection::exec(const char *sql)
 
 int Connection::write(const std::string &sql, const std::vector<Value> &values)
 {
-    WriteTransaction transaction(*this);
-    const int changed = guarded([&] {
-        const StatementUse statement = prepared(sql);
-        int index = 0;
-        for (const Value &value : values)
-            bindValue(*statement, ++index, value);
-        return statement->exec();
-    });
-    transaction.commit();
-    return changed;
+    return write(sql, [&](SQLite::Statement &statement) { bindValues(statement, values); });
 }
 
 StatementUse Connection::prepared(const std::string &sql)
@@ -165,6 +145,15 @@ StatementUse Connection::prepared(const std::string &sql)
 bool Connection::isInTransaction() const
 {
     return sqlite3_get_autocommit(m_database->getHandle()) == 0;
+}
+
+qint64 Connection::dataVersion()
+{
+    return guarded([&] {
+        const StatementUse statement = prepared("PRAGMA data_version");
+        statement->executeStep();
+        return qint64(statement->getColumn(0).getInt64());
+    });
 }
 
 WriteTransaction::WriteTransaction(Connection &connection)

@@ -26,6 +26,8 @@ decltype(auto) guarded(Action action)
 
 /// Binds one value to a parameter of a statement, counted from 1.
 void bindValue(SQLite::Statement &statement, int index, const Value &value);
+/// Binds all of them, in their order.
+void bindValues(SQLite::Statement &statement, const std::vector<Value> &values);
 /// The value of a column of the statement's current row, counted from 0.
 Value columnValue(SQLite::Statement &statement, int column);
 
@@ -67,13 +69,18 @@ public:
 
     /// Runs statements without parameters and without rows.
     void exec(const char *sql);
-    /// Runs a statement with these values for its marks, durably unless within a transaction; the
+    /// Runs a statement with what `bind` binds to it, durably unless within a transaction; the
     /// number of rows changed.
+    template<typename Bind>
+    int write(const std::string &sql, Bind bind);
+    /// The same with these values for its marks.
     int write(const std::string &sql, const std::vector<Value> &values);
     /// The statement of this text, prepared once, without bindings.
     StatementUse prepared(const std::string &sql);
     SQLite::Database &database() { return *m_database; }
     bool isInTransaction() const;
+    /// Another number whenever another program has stored something meanwhile.
+    qint64 dataVersion();
 
     /// How long a statement waits for another program to let go of the file, in milliseconds.
     static constexpr int busyTimeout = 2000;
@@ -112,3 +119,16 @@ private:
     const bool m_outermost;
     bool m_open = true;
 };
+
+template<typename Bind>
+int Connection::write(const std::string &sql, Bind bind)
+{
+    WriteTransaction transaction(*this);
+    const int changed = guarded([&] {
+        const StatementUse statement = prepared(sql);
+        bind(*statement);
+        return statement->exec();
+    });
+    transaction.commit();
+    return changed;
+}

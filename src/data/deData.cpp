@@ -1,21 +1,20 @@
 #include "data/deData.h"
 
+deData::deData(const QString &path)
+    : Con(path)
+{
+}
+
+deData::~deData() = default;
+
 int deData::run(const Command &command, std::initializer_list<Value> values)
 {
-    WriteTransaction transaction(Con);
-    const int changed = guarded([&] {
-        const StatementUse statement = Con.prepared(command.sql);
-        bindParameters(*statement, command, values);
-        return statement->exec();
+    return Con.write(command.sql, [&](SQLite::Statement &statement) {
+        bindParameters(statement, command, values);
     });
-    transaction.commit();
-    return changed;
 }
 
 int deData::run(const char *sql)
 {
-    WriteTransaction transaction(Con);
-    const int changed = guarded([&] { return Con.database().exec(sql); });
-    transaction.commit();
-    return changed;
+    return Con.write(sql, std::vector<Value>());
 }

@@ -9,10 +9,8 @@ class deData
 {
 public:
     /// Opens the database file; throws StoreError as Connection does.
-    explicit deData(const QString &path)
-        : Con(path)
-    {
-    }
+    explicit deData(const QString &path);
+    ~deData();
 
     /// Runs a command without rows, durably; the number of rows changed.
     int run(const Command &command, std::initializer_list<Value> values = {});

@@ -2,11 +2,9 @@
 
 #include "data/numbers.h"
 
-using namespace Qt::Literals;
-
 namespace {
 
-qint16 nextOf(deData &data, QLatin1StringView counter)
+qint16 nextOf(deData &data, const schema::Column &counter)
 {
     Recordset &common = data.rsCommon;
     WriteTransaction transaction(data.Con);
@@ -23,20 +21,34 @@ qint16 nextOf(deData &data, QLatin1StringView counter)
 
 qint16 NewMealConsumeID(deData &data)
 {
-    return nextOf(data, "NextMealConsumeID"_L1);
+    return nextOf(data, schema::Common::NextMealConsumeID);
 }
 
 qint16 NewExercisePerformID(deData &data)
 {
-    return nextOf(data, "NextExercisePerformID"_L1);
+    return nextOf(data, schema::Common::NextExercisePerformID);
 }
 
 qint16 NewBodyID(deData &data)
 {
-    return nextOf(data, "NextBodyID"_L1);
+    return nextOf(data, schema::Common::NextBodyID);
 }
 
 qint16 NewUserNoteID(deData &data)
 {
-    return nextOf(data, "NextUserNoteID"_L1);
+    return nextOf(data, schema::Common::NextUserNoteID);
+}
+
+std::optional<qint16> newIdentifier(deData &data, const schema::Table &table)
+{
+    const std::pair<const schema::Table *, qint16 (*)(deData &)> counters[] = {
+        {&schema::MealConsume::table, NewMealConsumeID},
+        {&schema::ExercisePerform::table, NewExercisePerformID},
+        {&schema::Body::table, NewBodyID},
+        {&schema::UserNote::table, NewUserNoteID}};
+    for (const auto &[counted, next] : counters) {
+        if (counted == &table)
+            return next(data);
+    }
+    return std::nullopt;
 }

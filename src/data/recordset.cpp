@@ -78,7 +78,7 @@ void Recordset::readRows()
     m_leftOut = 0;
     m_cutShort = false;
     const int columns = m_statement->getColumnCount();
-    const int key = m_command.key ? int(columnOf(QLatin1StringView(m_command.key))) : -1;
+    const int key = m_command.identifier ? int(columnOf(*m_command.identifier)) : -1;
     while (m_statement->executeStep()) {
         if (key >= 0 && !isIdentifier(columnValue(*m_statement, key))) {
             ++m_leftOut;
@@ -115,7 +115,7 @@ void Recordset::close()
     m_open = false;
 }
 
-bool Recordset::moveTo(QLatin1StringView column, qint32 id)
+bool Recordset::moveTo(const schema::Column &column, qint32 id)
 {
     const size_t at = columnOf(column);
     for (size_t row = 0; row < m_rows.count; ++row) {
@@ -127,17 +127,16 @@ bool Recordset::moveTo(QLatin1StringView column, qint32 id)
     return false;
 }
 
-size_t Recordset::columnOf(QLatin1StringView name) const
+size_t Recordset::columnOf(const schema::Column &column) const
 {
     for (size_t i = 0; i < m_columns.size(); ++i) {
-        if (name.compare(QLatin1StringView(m_columns[i].c_str()), Qt::CaseInsensitive) == 0)
+        if (qstricmp(m_columns[i].c_str(), column.name()) == 0)
             return i;
     }
-    throw std::logic_error(std::string("rs") + m_command.name + " has no column " +
-                           name.toString().toStdString());
+    throw std::logic_error(std::string("rs") + m_command.name + " has no column " + column.name());
 }
 
-const Value &Recordset::value(QLatin1StringView column) const
+const Value &Recordset::value(const schema::Column &column) const
 {
     const size_t at = columnOf(column);
     for (const Change &change : m_changes) {
@@ -166,7 +165,7 @@ void Recordset::addNew()
     m_adding = true;
 }
 
-void Recordset::set(QLatin1StringView column, const Value &value)
+void Recordset::set(const schema::Column &column, const Value &value)
 {
     requireUpdatable();
     if (!m_adding && isEof())
@@ -200,8 +199,8 @@ void Recordset::insertRow()
         names += (names.empty() ? "" : ", ") + m_columns[change.column];
         marks += marks.empty() ? "?" : ", ?";
     }
-    const std::string sql =
-        std::string("insert into ") + m_command.table + " (" + names + ") values (" + marks + ")";
+    const std::string sql = std::string("insert into ") + m_command.table->name() + " (" + names +
+                            ") values (" + marks + ")";
     std::vector<Value> values;
     for (const Change &change : m_changes)
         values.push_back(change.value);
@@ -212,7 +211,7 @@ void Recordset::insertRow()
     for (const Change &change : m_changes)
         cell(m_rows.current, change.column) = change.value;
     // The keys of the tables are their row numbers, whoever handed them out.
-    cell(m_rows.current, columnOf(QLatin1StringView(m_command.key))) =
+    cell(m_rows.current, columnOf(m_command.table->key())) =
         Value(qint64(m_connection.database().getLastInsertRowid()));
 }
 
@@ -224,8 +223,8 @@ void Recordset::updateRow()
         assignments += (assignments.empty() ? "" : ", ") + m_columns[change.column] + " = ?";
         values.push_back(change.value);
     }
-    const std::string sql =
-        std::string("update ") + m_command.table + " set " + assignments + unchangedRow(values);
+    const std::string sql = std::string("update ") + m_command.table->name() + " set " +
+                            assignments + unchangedRow(values);
     if (m_connection.write(sql, values) == 0)
         throwMissing();
     for (const Change &change : m_changes)
@@ -236,7 +235,7 @@ void Recordset::updateRow()
 // the values that it compares with go behind the others.
 std::string Recordset::unchangedRow(std::vector<Value> &values)
 {
-    std::string condition = std::string(" where ") + m_command.key + " = ?";
+    std::string condition = std::string(" where ") + m_command.table->key().name() + " = ?";
     values.push_back(currentKey());
     for (const Change &change : m_changes) {
         condition += " and " + m_columns[change.column] + " is ?";
@@ -248,11 +247,9 @@ std::string Recordset::unchangedRow(std::vector<Value> &values)
 bool Recordset::finds(const std::string &condition, const std::vector<Value> &values)
 {
     return guarded([&] {
-        const StatementUse statement =
-            m_connection.prepared(std::string("select 1 from ") + m_command.table + condition);
-        int index = 0;
-        for (const Value &value : values)
-            bindValue(*statement, ++index, value);
+        const StatementUse statement = m_connection.prepared(std::string("select 1 from ") +
+                                                             m_command.table->name() + condition);
+        bindValues(*statement, values);
         return statement->executeStep();
     });
 }
@@ -268,14 +265,14 @@ void Recordset::requireUnchanged()
 // Either the row is gone, or it is no longer the one that was read.
 void Recordset::throwMissing()
 {
-    if (finds(std::string(" where ") + m_command.key + " = ?", {currentKey()}))
+    if (finds(std::string(" where ") + m_command.table->key().name() + " = ?", {currentKey()}))
         throw StoreError(StoreError::Kind::Changed, "another program has changed the record");
     throw StoreError(StoreError::Kind::Gone, "the record has been deleted");
 }
 
 Value Recordset::currentKey()
 {
-    return cell(m_rows.current, columnOf(QLatin1StringView(m_command.key)));
+    return cell(m_rows.current, columnOf(m_command.table->key()));
 }
 
 void Recordset::cancelUpdate()
@@ -293,9 +290,9 @@ void Recordset::restore(Rows rows)
 void Recordset::remove()
 {
     requireUpdatable();
-    const Value key = value(QLatin1StringView(m_command.key));
-    const std::string sql =
-        std::string("delete from ") + m_command.table + " where " + m_command.key + " = ?";
+    const Value key = value(m_command.table->key());
+    const std::string sql = std::string("delete from ") + m_command.table->name() + " where " +
+                            m_command.table->key().name() + " = ?";
     m_connection.write(sql, {key});
     cancelUpdate();
     const auto first =

@@ -4,8 +4,6 @@
 #include "data/commands.h"
 #include "data/connection.h"
 
-#include <QLatin1StringView>
-
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -59,23 +57,23 @@ public:
     void moveNext() { ++m_rows.current; }
     /// Stands on the first row whose column holds this whole number; false, and the position
     /// unchanged, where there is none.
-    bool moveTo(QLatin1StringView column, qint32 id);
+    bool moveTo(const schema::Column &column, qint32 id);
 
     /// A value of the current row; throws std::logic_error for an unknown column or behind the
     /// last row. While a change is pending, the value set last.
-    const Value &value(QLatin1StringView column) const;
-    bool isNull(QLatin1StringView column) const { return value(column).isNull(); }
-    qint32 integer(QLatin1StringView column) const { return value(column).toInt32(); }
-    double number(QLatin1StringView column) const { return value(column).toDouble(); }
-    Currency currency(QLatin1StringView column) const { return value(column).toCurrency(); }
-    QDate date(QLatin1StringView column) const { return value(column).toDate(); }
-    QTime time(QLatin1StringView column) const { return value(column).toTime(); }
-    QString text(QLatin1StringView column) const { return value(column).toText(); }
+    const Value &value(const schema::Column &column) const;
+    bool isNull(const schema::Column &column) const { return value(column).isNull(); }
+    qint32 integer(const schema::Column &column) const { return value(column).toInt32(); }
+    double number(const schema::Column &column) const { return value(column).toDouble(); }
+    Currency currency(const schema::Column &column) const { return value(column).toCurrency(); }
+    QDate date(const schema::Column &column) const { return value(column).toDate(); }
+    QTime time(const schema::Column &column) const { return value(column).toTime(); }
+    QString text(const schema::Column &column) const { return value(column).toText(); }
 
     /// Begins a new record behind the rows; it becomes the current one when it is updated.
     void addNew();
     /// Sets a column of the new or current record; nothing is written yet.
-    void set(QLatin1StringView column, const Value &value);
+    void set(const schema::Column &column, const Value &value);
     /// Writes the pending change, of a row only while the columns to write are as they were read.
     /// On StoreError it stays pending: cancelUpdate() discards it.
     void update();
@@ -92,7 +90,7 @@ private:
         Value value;
     };
 
-    size_t columnOf(QLatin1StringView name) const;
+    size_t columnOf(const schema::Column &column) const;
     Value &cell(size_t row, size_t column)
     {
         return m_rows.values[row * m_columns.size() + column];

@@ -1,8 +1,7 @@
 #include "journal/consumptionfigures.h"
 
-ConsumptionFigures consumptionFigures(Currency quantity, double fatBC, double carbohydrateBC,
-                                      double proteinBC)
+Nutrients<qint64> consumptionFigures(Currency quantity, const Nutrients<double> &caloriesPerUnit)
 {
-    const double q = quantity.toDouble();
-    return {roundToInt32(q * fatBC), roundToInt32(q * carbohydrateBC), roundToInt32(q * proteinBC)};
+    return caloriesPerUnit.map(
+        [q = quantity.toDouble()](double calories) { return qint64(roundToInt32(q * calories)); });
 }

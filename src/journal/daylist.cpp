@@ -4,6 +4,7 @@
 #include "journal/daytotals.h"
 #include "session/session.h"
 #include "ui/attempt.h"
+#include "ui/fieldmessages.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 
@@ -15,16 +16,16 @@
 #include <QVBoxLayout>
 
 DayList::DayList(Session &session, Messages &messages, const Texts &texts, const Columns &columns,
-                 QWidget *parent)
+                 Recordset &records, const Command *removal, QWidget *parent)
     : QDialog(parent)
     , m_session(session)
     , m_messages(messages)
     , m_columns(columns)
     , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
-    , m_list(new RecordList(columns.columns, ListFamily::Journal, messages,
-                            {[this] { return load(); }, [this](qint32 id) { return edit(id); },
-                             [this](qint32 id) { remove(id); }},
-                            texts.caption, this))
+    , m_list(new RecordList(
+          columns.columns, ListFamily::Journal, session, messages,
+          {[this] { return load(); }, [this](qint32 id) { return edit(id); }, records, removal},
+          texts.caption, this))
 {
     setObjectName(texts.name);
     setWindowTitle(texts.caption);
@@ -79,7 +80,7 @@ void DayList::showDay(QDate day)
 
 void DayList::refuseDate()
 {
-    m_messages.error(this, tr("The %1 field contains illegal data").arg(dtpDate->accessibleName()));
+    m_messages.error(this, containsIllegalData(dtpDate->accessibleName()));
     // Later, as a button's work ends with the focus in the list.
     QTimer::singleShot(0, dtpDate, [this] {
         dtpDate->setFocus();
@@ -127,15 +128,5 @@ std::optional<Reselection> DayList::edit(qint32 id)
         refuseDate();
         return std::nullopt;
     }
-    const qint32 stored = editRecord(id);
-    if (stored == 0)
-        return std::nullopt;
-    m_session.announceJournalChange();
-    return Reselection{{}, stored};
-}
-
-void DayList::remove(qint32 id)
-{
-    removeRecord(id);
-    m_session.announceJournalChange();
+    return editRecord(id);
 }

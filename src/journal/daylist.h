@@ -1,6 +1,7 @@
 // What the two lists of a day share.
 #pragma once
 
+#include "data/schema.h"
 #include "ui/recordlist.h"
 
 #include <QDialog>
@@ -8,6 +9,7 @@
 class QDateEdit;
 class Recordset;
 class Session;
+struct Command;
 
 /// A list window of the journal that shows one day: a date picker, which moves the session's
 /// current date, and the day's rows in the order of their time; below two or more of them a blank
@@ -33,19 +35,19 @@ protected:
         std::vector<ListColumn> columns;
         int nameColumn; ///< in the row of totals it tells how many items are added up
         /// Columns with totals and the fields that fill them.
-        std::vector<std::pair<int, QLatin1StringView>> totals;
+        std::vector<std::pair<int, schema::Column>> totals;
     };
 
+    /// The records are those of the command for a single one; the removal as in RecordList.
     DayList(Session &session, Messages &messages, const Texts &texts, const Columns &columns,
-            QWidget *parent);
+            Recordset &records, const Command *removal, QWidget *parent);
 
     /// The result set of the day's rows; it takes the day as its parameter.
     virtual Recordset &rows() const = 0;
     /// The row that the result set stands on.
     virtual ListRow currentRow() const = 0;
-    /// Opens the editor, 0 for a new record; the stored identifier, 0 where nothing was stored.
-    virtual qint32 editRecord(qint32 id) = 0;
-    virtual void removeRecord(qint32 id) = 0;
+    /// Opens the editor, 0 for a new record; what to reselect where it stored something.
+    virtual std::optional<Reselection> editRecord(qint32 id) = 0;
 
     Session &session() const { return m_session; }
     Messages &messages() const { return m_messages; }
@@ -55,7 +57,6 @@ private:
     ListRows load() const;
     ListRow totalsRow(const class DayTotals &totals) const;
     std::optional<Reselection> edit(qint32 id);
-    void remove(qint32 id);
     void showDay(QDate day);
     void refuseDate();
 

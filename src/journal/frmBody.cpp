@@ -1,6 +1,5 @@
 #include "journal/frmBody.h"
 
-#include "data/identifiers.h"
 #include "session/session.h"
 #include "settings/units.h"
 #include "ui/messages.h"
@@ -9,8 +8,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-
-using namespace Qt::Literals;
 
 frmBody::frmBody(Session &session, Messages &messages, QWidget *parent)
     : RecordEditor(session, messages, session.data().rsBody, QStringLiteral("frmBody"),
@@ -64,11 +61,11 @@ QLayout *frmBody::makeForm()
 
 void frmBody::makeChecks()
 {
-    checkTyped(dtpDate, tr("The Date field contains illegal data"));
-    checkNumeric(txtWeight, tr("The Weight is not specified or contains illegal data"));
-    checkNumeric(txtBreast, tr("The Breast measurement is not specified or contains illegal data"));
-    checkNumeric(txtWaist, tr("The Waist measurement is not specified or contains illegal data"));
-    checkNumeric(txtHips, tr("The Hips measurement is not specified or contains illegal data"));
+    checkTyped(dtpDate, tr("Date"));
+    checkNumber(txtWeight, tr("The Weight is not specified or contains illegal data"));
+    checkNumber(txtBreast, tr("The Breast measurement is not specified or contains illegal data"));
+    checkNumber(txtWaist, tr("The Waist measurement is not specified or contains illegal data"));
+    checkNumber(txtHips, tr("The Hips measurement is not specified or contains illegal data"));
 }
 
 void frmBody::Populate()
@@ -77,35 +74,33 @@ void frmBody::Populate()
     if (source().isEof())
         return;
     const LocaleText &text = session().text();
-    dtpDate->setDate(source().date("DateMeasured"_L1));
-    txtWeight->setText(text.toText(source().value("Weight"_L1)));
-    txtWaist->setText(text.toText(source().value("Waist"_L1)));
-    txtBreast->setText(text.toText(source().value("Breast"_L1)));
-    txtHips->setText(text.toText(source().value("Hips"_L1)));
+    dtpDate->setDate(source().date(schema::Body::DateMeasured));
+    txtWeight->setText(text.toText(source().value(schema::Body::Weight)));
+    txtWaist->setText(text.toText(source().value(schema::Body::Waist)));
+    txtBreast->setText(text.toText(source().value(schema::Body::Breast)));
+    txtHips->setText(text.toText(source().value(schema::Body::Hips)));
 }
 
 void frmBody::Gather()
 {
-    if (recordId() == 0) {
-        source().set("BodyID"_L1, Value(int(NewBodyID(session().data()))));
-        source().set("Measurement"_L1, Value(session().parameters().measurement));
-    }
+    if (recordId() == 0)
+        source().set(schema::Body::Measurement, Value(session().parameters().measurement));
     const auto number = [this](const QLineEdit *box) {
         return Value(*session().text().toCurrency(box->text()));
     };
-    source().set("DateMeasured"_L1, Value(dtpDate->date()));
-    source().set("Weight"_L1, number(txtWeight));
-    source().set("Breast"_L1, number(txtBreast));
-    source().set("Waist"_L1, number(txtWaist));
-    source().set("Hips"_L1, number(txtHips));
+    source().set(schema::Body::DateMeasured, Value(dtpDate->date()));
+    source().set(schema::Body::Weight, number(txtWeight));
+    source().set(schema::Body::Breast, number(txtBreast));
+    source().set(schema::Body::Waist, number(txtWaist));
+    source().set(schema::Body::Hips, number(txtHips));
 }
 
 // The identifier of another measurement on the gathered date, 0 where there is none.
 qint32 frmBody::otherMeasurement()
 {
     Recordset &check = session().data().rsBodyCheck;
-    check.reopen({source().value("DateMeasured"_L1), Value(recordId())});
-    const qint32 other = check.isEof() ? 0 : check.integer("BodyID"_L1);
+    check.reopen({source().value(schema::Body::DateMeasured), Value(recordId())});
+    const qint32 other = check.isEof() ? 0 : check.integer(schema::Body::BodyID);
     check.close();
     return other;
 }
@@ -129,10 +124,4 @@ std::vector<Step> frmBody::storeSteps()
             session().data().run(commands::BodyDelete, {Value(m_replaced)});
         });
     return steps;
-}
-
-void frmBody::recordStored()
-{
-    m_storedId = source().integer("BodyID"_L1);
-    RecordEditor::recordStored();
 }

@@ -16,8 +16,6 @@ public:
     frmBody(Session &session, Messages &messages, QWidget *parent = nullptr);
 
     bool OkPressed() const { return isStored(); }
-    /// BodyID of the stored row, 0 before.
-    qint32 storedId() const { return m_storedId; }
 
 protected:
     void Populate() override;
@@ -25,7 +23,6 @@ protected:
     bool confirmStore() override;
     std::vector<Step> storeSteps() override;
     bool dependsOnParameters() const override { return true; }
-    void recordStored() override;
 
 private:
     void showUnits();
@@ -40,6 +37,5 @@ private:
     QLineEdit *txtWaist;
     QLineEdit *txtHips;
     QLabel *lblGirthUnit;
-    qint32 m_storedId = 0;
     qint32 m_replaced = 0; ///< BodyID of the measurement that the user agreed to replace
 };

@@ -1,7 +1,6 @@
 #include "journal/frmExercisePerform.h"
 
 #include "catalogue/frmExercise.h"
-#include "data/identifiers.h"
 #include "journal/performancefigures.h"
 #include "journal/quantitysteps.h"
 #include "session/session.h"
@@ -15,12 +14,10 @@
 #include <QPushButton>
 #include <QTimeEdit>
 
-using namespace Qt::Literals;
-
 frmExercisePerform::frmExercisePerform(Session &session, Messages &messages, QWidget *parent)
     : JournalEntryEditor(session, messages, session.data().rsExercisePerform,
-                         {"ExercisePerformID"_L1, "PerformDate"_L1, NewExercisePerformID},
-                         QStringLiteral("frmExercisePerform"), tr("Activity Performed"), parent)
+                         schema::ExercisePerform::PerformDate, QStringLiteral("frmExercisePerform"),
+                         tr("Activity Performed"), parent)
 {
     makeControls();
     setForm(makeForm());
@@ -67,8 +64,8 @@ void frmExercisePerform::makeChecks()
 {
     addCheck(dcbExercise, tr("The Exercise is not specified or specified incorrect"),
              [this] { return dcbExercise->boundValue().has_value(); });
-    checkTyped(dtpBeginTime, tr("The Begin Time field contains illegal data"));
-    checkTyped(dtpEndTime, tr("The End Time field contains illegal data"));
+    checkTyped(dtpBeginTime, tr("Begin Time"));
+    checkTyped(dtpEndTime, tr("End Time"));
     addCheck(dtpEndTime, tr("The End Time value should be more than the Begin Time value"),
              [this] { return dtpBeginTime->time() < dtpEndTime->time(); });
     checkQuantity();
@@ -82,7 +79,7 @@ Recordset &frmExercisePerform::activities() const
 void frmExercisePerform::loadActivities()
 {
     activities().reopenReadable();
-    dcbExercise->setRows(activities(), "ExerciseID"_L1, "Name"_L1);
+    dcbExercise->setRows(activities(), schema::Exercise::ExerciseID, schema::Exercise::Name);
 }
 
 void frmExercisePerform::Populate()
@@ -92,17 +89,17 @@ void frmExercisePerform::Populate()
     dtpEndTime->setTime(session().currentTime());
     if (appendsRecord() || source().isEof())
         return;
-    dcbExercise->setBoundValue(source().integer("ExerciseID"_L1));
-    dtpBeginTime->setTime(source().time("timeBeg"_L1));
-    dtpEndTime->setTime(source().time("timeEnd"_L1));
-    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
+    dcbExercise->setBoundValue(source().integer(schema::ExercisePerform::ExerciseID));
+    dtpBeginTime->setTime(source().time(schema::ExercisePerform::timeBeg));
+    dtpEndTime->setTime(source().time(schema::ExercisePerform::timeEnd));
+    txtQty->setText(session().text().toText(source().value(schema::ExercisePerform::Qty)));
 }
 
 void frmExercisePerform::activityChanged()
 {
     const std::optional<qint32> activity = dcbExercise->boundValue();
-    const bool chosen =
-        activity && activities().isOpen() && activities().moveTo("ExerciseID"_L1, *activity);
+    const bool chosen = activity && activities().isOpen() &&
+                        activities().moveTo(schema::Exercise::ExerciseID, *activity);
     showChoice(chosen ? &activities() : nullptr);
 }
 
@@ -122,7 +119,8 @@ void frmExercisePerform::recalculate()
     if (!performed || !dcbExercise->boundValue() || !activities().isOpen() || activities().isEof())
         return;
     try {
-        const Currency perUnit = Currency::fromDouble(activities().number("CaloriesConsume"_L1));
+        const Currency perUnit =
+            Currency::fromDouble(activities().number(schema::Exercise::CaloriesConsume));
         lblCalories->setText(QString::number(performanceFigure(*performed, perUnit)));
     } catch (const OverflowError &) {
         // A figure too large to be any person's activity stays blank.
@@ -139,9 +137,9 @@ QString frmExercisePerform::steppedQuantity(bool up) const
 void frmExercisePerform::Gather()
 {
     JournalEntryEditor::Gather();
-    source().set("ExerciseID"_L1, Value(*dcbExercise->boundValue()));
-    source().set("timeBeg"_L1, Value(dtpBeginTime->time()));
-    source().set("timeEnd"_L1, Value(dtpEndTime->time()));
+    source().set(schema::ExercisePerform::ExerciseID, Value(*dcbExercise->boundValue()));
+    source().set(schema::ExercisePerform::timeBeg, Value(dtpBeginTime->time()));
+    source().set(schema::ExercisePerform::timeEnd, Value(dtpEndTime->time()));
 }
 
 QTime frmExercisePerform::entryTime() const

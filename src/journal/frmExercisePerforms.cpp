@@ -3,10 +3,6 @@
 #include "journal/frmExercisePerform.h"
 #include "session/session.h"
 
-#include <QScopeGuard>
-
-using namespace Qt::Literals;
-
 frmExercisePerforms::frmExercisePerforms(Session &session, Messages &messages, QWidget *parent)
     : DayList(session, messages,
               {QStringLiteral("frmExercisePerforms"), tr("Activities Performed List"),
@@ -17,8 +13,8 @@ frmExercisePerforms::frmExercisePerforms(Session &session, Messages &messages, Q
                 {tr("Qty"), tr("Quantity"), true},
                 {tr("Calories"), tr("Calories consumed"), true}},
                2,
-               {{4, "sCalories"_L1}}},
-              parent)
+               {{4, commands::sCalories}}},
+              session.data().rsExercisePerform, nullptr, parent)
 {
 }
 
@@ -30,24 +26,16 @@ Recordset &frmExercisePerforms::rows() const
 ListRow frmExercisePerforms::currentRow() const
 {
     const LocaleText &text = session().text();
-    return {rows().integer("ExercisePerformID"_L1),
-            {text.listTime(rows().time("timeBeg"_L1)), text.listTime(rows().time("timeEnd"_L1)),
-             rows().text("Name"_L1), text.toText(rows().value("Qty"_L1)),
-             rows().text("sCalories"_L1)}};
+    return {rows().integer(schema::ExercisePerform::ExercisePerformID),
+            {text.listTime(rows().time(schema::ExercisePerform::timeBeg)),
+             text.listTime(rows().time(schema::ExercisePerform::timeEnd)),
+             rows().text(schema::Exercise::Name),
+             text.toText(rows().value(schema::ExercisePerform::Qty)),
+             rows().text(commands::sCalories)}};
 }
 
-qint32 frmExercisePerforms::editRecord(qint32 id)
+std::optional<Reselection> frmExercisePerforms::editRecord(qint32 id)
 {
     frmExercisePerform editor(session(), messages(), this);
-    editor.run(id);
-    return editor.storedId();
-}
-
-void frmExercisePerforms::removeRecord(qint32 id)
-{
-    Recordset &row = session().data().rsExercisePerform;
-    const auto close = qScopeGuard([&row] { row.close(); });
-    row.reopen({Value(id)});
-    if (!row.isEof())
-        row.remove();
+    return editor.run(id) ? std::optional(editor.reselection()) : std::nullopt;
 }

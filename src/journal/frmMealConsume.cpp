@@ -1,12 +1,13 @@
 #include "journal/frmMealConsume.h"
 
 #include "catalogue/frmMeal.h"
-#include "data/identifiers.h"
+#include "catalogue/mealcategorychooser.h"
 #include "journal/consumptionfigures.h"
 #include "journal/quantitysteps.h"
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/datacombo.h"
+#include "ui/fieldmessages.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -14,8 +15,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimeEdit>
-
-using namespace Qt::Literals;
 
 namespace {
 
@@ -34,8 +33,8 @@ Currency incrementOf(const Value &stored)
 
 frmMealConsume::frmMealConsume(Session &session, Messages &messages, QWidget *parent)
     : JournalEntryEditor(session, messages, session.data().rsMealConsume,
-                         {"MealConsumeID"_L1, "ConsumeDate"_L1, NewMealConsumeID},
-                         QStringLiteral("frmMealConsume"), tr("Meal Consumed"), parent)
+                         schema::MealConsume::ConsumeDate, QStringLiteral("frmMealConsume"),
+                         tr("Meal Consumed"), parent)
 {
     makeControls();
     setForm(makeForm());
@@ -43,12 +42,12 @@ frmMealConsume::frmMealConsume(Session &session, Messages &messages, QWidget *pa
     connect(dcbMealCategory, &DataCombo::boundValueChanged, this,
             attempting(this, messages, &frmMealConsume::categoryChanged));
     connect(dcbMeal, &DataCombo::boundValueChanged, this, &frmMealConsume::mealChanged);
-    loadCategories();
+    dcbMealCategory->load();
 }
 
 void frmMealConsume::makeControls()
 {
-    dcbMealCategory = makeChooser(QStringLiteral("dcbMealCategory"), tr("Meal Category"));
+    dcbMealCategory = new MealCategoryChooser(session(), this);
     dcbMeal = makeChooser(QStringLiteral("dcbMeal"), tr("Meal"));
     btnNewMeal = makeNewButton(QStringLiteral("btnNewMeal"), tr("&New Meal"));
     connect(btnNewMeal, &QPushButton::clicked, this,
@@ -80,9 +79,9 @@ QGroupBox *frmMealConsume::makeFigures()
 {
     auto *box = new QGroupBox(tr("Calories"), this);
     auto *grid = new QGridLayout(box);
-    lblFat = addFigure(grid, tr("Fat Cal."), QStringLiteral("lblFat"));
-    lblCarboHydrate = addFigure(grid, tr("Carboh. Cal."), QStringLiteral("lblCarboHydrate"));
-    lblProtein = addFigure(grid, tr("Protein Cal."), QStringLiteral("lblProtein"));
+    m_figures = {addFigure(grid, tr("Fat Cal."), QStringLiteral("lblFat")),
+                 addFigure(grid, tr("Carboh. Cal."), QStringLiteral("lblCarboHydrate")),
+                 addFigure(grid, tr("Protein Cal."), QStringLiteral("lblProtein"))};
     lblCalories = addFigure(grid, tr("Calories Total"), QStringLiteral("lblCalories"));
     return box;
 }
@@ -91,23 +90,15 @@ void frmMealConsume::makeChecks()
 {
     addCheck(dcbMealCategory, tr("The Meal Category is not specified or specified incorrect"),
              [this] { return dcbMealCategory->boundValue().has_value(); });
-    addCheck(dcbMeal, tr("The Meal should be specified"),
+    addCheck(dcbMeal, shouldBeSpecified(tr("Meal")),
              [this] { return dcbMeal->boundValue().has_value(); });
-    checkTyped(dtpTime, tr("The Time field contains illegal data"));
+    checkTyped(dtpTime, tr("Time"));
     checkQuantity();
 }
 
 Recordset &frmMealConsume::meals() const
 {
     return session().data().rsMealForCategory;
-}
-
-void frmMealConsume::loadCategories()
-{
-    Recordset &categories = session().data().rsMealCategorySorted;
-    categories.reopenReadable();
-    dcbMealCategory->setRows(categories, "MealCategoryID"_L1, "Name"_L1);
-    categories.close();
 }
 
 void frmMealConsume::Populate()
@@ -117,10 +108,10 @@ void frmMealConsume::Populate()
     if (appendsRecord() || source().isEof())
         return;
     // The category brings its meals; only then can the meal be chosen among them.
-    dcbMealCategory->setBoundValue(source().integer("MealCategoryID"_L1));
-    dcbMeal->setBoundValue(source().integer("MealID"_L1));
-    dtpTime->setTime(source().time("ConsumeTime"_L1));
-    txtQty->setText(session().text().toText(source().value("Qty"_L1)));
+    dcbMealCategory->setBoundValue(source().integer(schema::Meal::MealCategoryID));
+    dcbMeal->setBoundValue(source().integer(schema::MealConsume::MealID));
+    dtpTime->setTime(source().time(schema::MealConsume::ConsumeTime));
+    txtQty->setText(session().text().toText(source().value(schema::MealConsume::Qty)));
 }
 
 void frmMealConsume::categoryChanged()
@@ -129,19 +120,19 @@ void frmMealConsume::categoryChanged()
     if (!category)
         return;
     meals().reopenReadable({Value(*category)});
-    dcbMeal->setRows(meals(), "MealID"_L1, "Name"_L1);
+    dcbMeal->setRows(meals(), schema::Meal::MealID, schema::Meal::Name);
     meals().moveFirst();
     if (meals().isEof())
         mealChanged();
     else
-        dcbMeal->setBoundValue(meals().integer("MealID"_L1));
+        dcbMeal->setBoundValue(meals().integer(schema::Meal::MealID));
 }
 
 void frmMealConsume::mealChanged()
 {
     const std::optional<qint32> meal = dcbMeal->boundValue();
-    const bool chosen = meal && meals().isOpen() && meals().moveTo("MealID"_L1, *meal);
-    m_increment = chosen ? incrementOf(meals().value("Increment"_L1)) : usualIncrement;
+    const bool chosen = meal && meals().isOpen() && meals().moveTo(schema::Meal::MealID, *meal);
+    m_increment = chosen ? incrementOf(meals().value(schema::Meal::Increment)) : usualIncrement;
     showChoice(chosen ? &meals() : nullptr);
 }
 
@@ -151,7 +142,7 @@ void frmMealConsume::createMeal()
     editor.setCategoryId(dcbMealCategory->boundValue().value_or(0));
     editor.run(0);
     if (editor.categoriesChanged()) {
-        loadCategories();
+        dcbMealCategory->load();
         dcbMealCategory->setDisplayedText(editor.newCategoryName());
     }
     if (!editor.isStored())
@@ -166,19 +157,19 @@ void frmMealConsume::createMeal()
 
 void frmMealConsume::recalculate()
 {
-    for (QLabel *label : {lblFat, lblCarboHydrate, lblProtein, lblCalories})
-        label->clear();
+    for (QLabel *figure : m_figures)
+        figure->clear();
+    lblCalories->clear();
     const std::optional<Currency> consumed = quantity();
     if (!consumed || !dcbMeal->boundValue() || !meals().isOpen() || meals().isEof())
         return;
     try {
-        const ConsumptionFigures figures =
-            consumptionFigures(*consumed, meals().number("FatBC"_L1),
-                               meals().number("CarbohydrateBC"_L1), meals().number("ProteinBC"_L1));
-        lblFat->setText(QString::number(figures.fat));
-        lblCarboHydrate->setText(QString::number(figures.carbohydrate));
-        lblProtein->setText(QString::number(figures.protein));
-        lblCalories->setText(QString::number(figures.total()));
+        const auto perUnit =
+            schema::Meal::shares.map([this](auto column) { return meals().number(column); });
+        const Nutrients<qint64> figures = consumptionFigures(*consumed, perUnit);
+        for (const Nutrient n : allNutrients)
+            m_figures[n]->setText(QString::number(figures[n]));
+        lblCalories->setText(QString::number(figures.sum()));
     } catch (const OverflowError &) {
         // Figures too large to be any person's meal stay blank; nothing is stored by showing them.
     }
@@ -196,8 +187,8 @@ QString frmMealConsume::steppedQuantity(bool up) const
 void frmMealConsume::Gather()
 {
     JournalEntryEditor::Gather();
-    source().set("MealID"_L1, Value(*dcbMeal->boundValue()));
-    source().set("ConsumeTime"_L1, Value(dtpTime->time()));
+    source().set(schema::MealConsume::MealID, Value(*dcbMeal->boundValue()));
+    source().set(schema::MealConsume::ConsumeTime, Value(dtpTime->time()));
 }
 
 QTime frmMealConsume::entryTime() const

@@ -1,8 +1,10 @@
 // Records that a meal was eaten, or changes such a record.
 #pragma once
 
+#include "data/nutrients.h"
 #include "journal/journalentryeditor.h"
 
+class MealCategoryChooser;
 class QGroupBox;
 
 /// The meal consumption editor.
@@ -28,18 +30,15 @@ private:
     QGroupBox *makeFigures();
     void makeChecks();
     Recordset &meals() const;
-    void loadCategories();
     void categoryChanged();
     void mealChanged();
     void createMeal();
 
-    DataCombo *dcbMealCategory;
+    MealCategoryChooser *dcbMealCategory;
     DataCombo *dcbMeal;
     QPushButton *btnNewMeal;
     QTimeEdit *dtpTime;
-    QLabel *lblFat;
-    QLabel *lblCarboHydrate;
-    QLabel *lblProtein;
+    Nutrients<QLabel *> m_figures; ///< lblFat, lblCarboHydrate, lblProtein
     QLabel *lblCalories;
 
     Currency m_increment = Currency::fromInteger(1);

@@ -1,9 +1,8 @@
 #include "journal/frmMealConsumes.h"
 
+#include "data/nutrients.h"
 #include "journal/frmMealConsume.h"
 #include "session/session.h"
-
-using namespace Qt::Literals;
 
 frmMealConsumes::frmMealConsumes(Session &session, Messages &messages, QWidget *parent)
     : DayList(session, messages,
@@ -17,8 +16,11 @@ frmMealConsumes::frmMealConsumes(Session &session, Messages &messages, QWidget *
                 {tr("Protein"), tr("Calories from protein"), true},
                 {tr("Calor."), tr("Calories in all"), true}},
                1,
-               {{3, "sFat"_L1}, {4, "sCarbohydrate"_L1}, {5, "sProtein"_L1}, {6, "sCalories"_L1}}},
-              parent)
+               {{3, commands::sFat},
+                {4, commands::sCarbohydrate},
+                {5, commands::sProtein},
+                {6, commands::sCalories}}},
+              session.data().rsMealConsume, &commands::MealConsumeDelete, parent)
 {
 }
 
@@ -30,21 +32,18 @@ Recordset &frmMealConsumes::rows() const
 ListRow frmMealConsumes::currentRow() const
 {
     const LocaleText &text = session().text();
-    return {rows().integer("MealConsumeID"_L1),
-            {text.listTime(rows().time("ConsumeTime"_L1)), rows().text("Name"_L1),
-             text.toText(rows().value("Qty"_L1)), rows().text("sFat"_L1),
-             rows().text("sCarbohydrate"_L1), rows().text("sProtein"_L1),
-             rows().text("sCalories"_L1)}};
+    ListRow row{rows().integer(schema::MealConsume::MealConsumeID),
+                {text.listTime(rows().time(schema::MealConsume::ConsumeTime)),
+                 rows().text(schema::Meal::Name),
+                 text.toText(rows().value(schema::MealConsume::Qty))}};
+    for (const auto column : commands::consumed)
+        row.texts << rows().text(column);
+    row.texts << rows().text(commands::sCalories);
+    return row;
 }
 
-qint32 frmMealConsumes::editRecord(qint32 id)
+std::optional<Reselection> frmMealConsumes::editRecord(qint32 id)
 {
     frmMealConsume editor(session(), messages(), this);
-    editor.run(id);
-    return editor.storedId();
-}
-
-void frmMealConsumes::removeRecord(qint32 id)
-{
-    session().data().run(commands::MealConsumeDelete, {Value(id)});
+    return editor.run(id) ? std::optional(editor.reselection()) : std::nullopt;
 }

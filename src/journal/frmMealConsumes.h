@@ -13,6 +13,5 @@ public:
 protected:
     Recordset &rows() const override;
     ListRow currentRow() const override;
-    qint32 editRecord(qint32 id) override;
-    void removeRecord(qint32 id) override;
+    std::optional<Reselection> editRecord(qint32 id) override;
 };

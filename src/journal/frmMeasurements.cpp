@@ -5,6 +5,7 @@
 #include "session/session.h"
 #include "settings/units.h"
 #include "ui/attempt.h"
+#include "ui/fieldmessages.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 #include "ui/recordlist.h"
@@ -12,7 +13,6 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScopeGuard>
 #include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -37,14 +37,6 @@ QString dateText(const LocaleText &text, const Value &value)
 {
     const QDate date = value.toDate();
     return date.isValid() ? text.shortDate(date) : text.toText(value);
-}
-
-void removeRecord(Recordset &source, qint32 id)
-{
-    const auto close = qScopeGuard([&source] { source.close(); });
-    source.reopen({Value(id)});
-    if (!source.isEof())
-        source.remove();
 }
 
 } // namespace
@@ -85,23 +77,24 @@ frmMeasurements::~frmMeasurements()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
+template<typename Editor>
+std::optional<Reselection> frmMeasurements::edit(qint32 id)
+{
+    Editor editor(m_session, m_messages, this);
+    return editor.run(id) ? std::optional(editor.reselection()) : std::nullopt;
+}
+
 RecordList *frmMeasurements::makeMeasurementList()
 {
-    RecordList::Actions actions;
-    actions.load = [this] { return measurements(); };
-    actions.edit = [this](qint32 id) -> std::optional<Reselection> {
-        frmBody editor(m_session, m_messages, this);
-        if (!editor.run(id))
-            return std::nullopt;
-        return Reselection{.id = editor.storedId()};
-    };
-    actions.remove = [this](qint32 id) { removeRecord(m_session.data().rsBody, id); };
+    RecordList::Actions actions{[this] { return measurements(); },
+                                [this](qint32 id) { return edit<frmBody>(id); },
+                                m_session.data().rsBody};
     auto *list = new RecordList({{tr("Date")},
                                  {.header = tr("Weight"), .isNumber = true},
                                  {.header = tr("Breast"), .isNumber = true},
                                  {.header = tr("Waist"), .isNumber = true},
                                  {.header = tr("Hips"), .isNumber = true}},
-                                ListFamily::Journal, m_messages, std::move(actions),
+                                ListFamily::Journal, m_session, m_messages, std::move(actions),
                                 tr("Body Measurement"), this);
     list->setNames({QStringLiteral("lvwMeasurementList"), QStringLiteral("btnMeasurementNew"),
                     QStringLiteral("btnMeasurementEdit"), QStringLiteral("btnMeasurementDelete")});
@@ -110,18 +103,12 @@ RecordList *frmMeasurements::makeMeasurementList()
 
 RecordList *frmMeasurements::makeNoteList()
 {
-    RecordList::Actions actions;
-    actions.load = [this] { return notes(); };
-    actions.edit = [this](qint32 id) -> std::optional<Reselection> {
-        frmUserNote editor(m_session, m_messages, this);
-        if (!editor.run(id))
-            return std::nullopt;
-        return Reselection{.id = editor.storedId()};
-    };
-    actions.remove = [this](qint32 id) { removeRecord(m_session.data().rsUserNote, id); };
+    RecordList::Actions actions{[this] { return notes(); },
+                                [this](qint32 id) { return edit<frmUserNote>(id); },
+                                m_session.data().rsUserNote};
     auto *list = new RecordList(
         {{tr("From")}, {tr("To")}, {.header = tr("Note"), .isLongText = true}}, ListFamily::Journal,
-        m_messages, std::move(actions), tr("Personal Notes"), this);
+        m_session, m_messages, std::move(actions), tr("Personal Notes"), this);
     list->setNames({QStringLiteral("lvwNoteList"), QStringLiteral("btnNotetNew"),
                     QStringLiteral("btnNotetEdit"), QStringLiteral("btnNotetDelete")});
     list->addHelpButton(); // of the window, in its corner
@@ -187,9 +174,7 @@ void frmMeasurements::makeConnections()
 {
     connect(dtpDate, &QDateEdit::dateChanged, this,
             attempting(this, m_messages, &frmMeasurements::refresh));
-    whenRefused(*dtpDate, [this] {
-        m_messages.error(this, tr("The Date From field contains illegal data"));
-    });
+    whenRefused(*dtpDate, [this] { m_messages.error(this, containsIllegalData(tr("Date From"))); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { directAccessKeys(now); });
 }
@@ -221,11 +206,12 @@ ListRows frmMeasurements::measurements() const
     Recordset &source = m_session.data().rsBodySorted;
     std::vector<ListRow> rows;
     for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext())
-        rows.push_back(
-            {source.integer("BodyID"_L1),
-             {dateText(text, source.value("DateMeasured"_L1)),
-              text.toText(source.value("Weight"_L1)), text.toText(source.value("Breast"_L1)),
-              text.toText(source.value("Waist"_L1)), text.toText(source.value("Hips"_L1))}});
+        rows.push_back({source.integer(schema::Body::BodyID),
+                        {dateText(text, source.value(schema::Body::DateMeasured)),
+                         text.toText(source.value(schema::Body::Weight)),
+                         text.toText(source.value(schema::Body::Breast)),
+                         text.toText(source.value(schema::Body::Waist)),
+                         text.toText(source.value(schema::Body::Hips))}});
     source.close();
     return {std::move(rows), source.leftOut(), source.isCutShort()};
 }
@@ -236,10 +222,10 @@ ListRows frmMeasurements::notes() const
     Recordset &source = m_session.data().rsUserNoteSorted;
     std::vector<ListRow> rows;
     for (source.reopenReadable({Value(dtpDate->date())}); !source.isEof(); source.moveNext()) {
-        const QString note = source.text("NoteText"_L1);
-        rows.push_back({source.integer("UserNoteID"_L1),
-                        {dateText(text, source.value("DateFrom"_L1)),
-                         dateText(text, source.value("DateTo"_L1)), onOneLine(note)},
+        const QString note = source.text(schema::UserNote::NoteText);
+        rows.push_back({source.integer(schema::UserNote::UserNoteID),
+                        {dateText(text, source.value(schema::UserNote::DateFrom)),
+                         dateText(text, source.value(schema::UserNote::DateTo)), onOneLine(note)},
                         note});
     }
     source.close();

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "ui/listmodel.h"
+#include "ui/reselection.h"
 
 #include <QDialog>
+
+#include <optional>
 
 class Messages;
 class QDateEdit;
@@ -25,6 +28,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    template<typename Editor>
+    std::optional<Reselection> edit(qint32 id);
     RecordList *makeMeasurementList();
     RecordList *makeNoteList();
     QLayout *makeDateRow();

@@ -1,7 +1,7 @@
 #include "journal/frmUserNote.h"
 
-#include "data/identifiers.h"
 #include "session/session.h"
+#include "ui/fieldmessages.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 #include "ui/plaintextbox.h"
@@ -10,8 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-
-using namespace Qt::Literals;
 
 frmUserNote::frmUserNote(Session &session, Messages &messages, QWidget *parent)
     : RecordEditor(session, messages, session.data().rsUserNote, QStringLiteral("frmUserNote"),
@@ -55,11 +53,11 @@ QLayout *frmUserNote::makeForm()
 
 void frmUserNote::makeChecks()
 {
-    checkTyped(dtpDateFrom, tr("The Date From field contains illegal data"));
-    checkTyped(dtpDateTo, tr("The Date To field contains illegal data"));
+    checkTyped(dtpDateFrom, tr("Date From"));
+    checkTyped(dtpDateTo, tr("Date To"));
     addCheck(dtpDateTo, tr("The Date To is less than Date From"),
              [this] { return dtpDateTo->date() >= dtpDateFrom->date(); });
-    addCheck(txtNote, tr("The Note text should be specified"),
+    addCheck(txtNote, shouldBeSpecified(tr("Note text")),
              [this] { return !note().trimmed().isEmpty(); });
 }
 
@@ -78,26 +76,25 @@ void frmUserNote::Populate()
     dtpDateTo->setDate(session().currentDate());
     if (source().isEof())
         return;
-    dtpDateFrom->setDate(source().date("DateFrom"_L1));
-    dtpDateTo->setDate(source().date("DateTo"_L1));
-    txtNote->setText(source().text("NoteText"_L1));
+    dtpDateFrom->setDate(source().date(schema::UserNote::DateFrom));
+    dtpDateTo->setDate(source().date(schema::UserNote::DateTo));
+    txtNote->setText(source().text(schema::UserNote::NoteText));
 }
 
 void frmUserNote::Gather()
 {
-    if (recordId() == 0)
-        source().set("UserNoteID"_L1, Value(int(NewUserNoteID(session().data()))));
-    source().set("DateFrom"_L1, Value(dtpDateFrom->date()));
-    source().set("DateTo"_L1, Value(dtpDateTo->date()));
-    source().set("NoteText"_L1, Value(note()));
+    source().set(schema::UserNote::DateFrom, Value(dtpDateFrom->date()));
+    source().set(schema::UserNote::DateTo, Value(dtpDateTo->date()));
+    source().set(schema::UserNote::NoteText, Value(note()));
 }
 
 bool frmUserNote::confirmStore()
 {
     Recordset &check = session().data().rsUserNoteCheck;
-    check.reopen({source().value("DateFrom"_L1), source().value("DateTo"_L1), Value(recordId())});
+    check.reopen({source().value(schema::UserNote::DateFrom),
+                  source().value(schema::UserNote::DateTo), Value(recordId())});
     const bool overlaps = !check.isEof();
-    const QString otherNote = overlaps ? check.text("NoteText"_L1) : QString();
+    const QString otherNote = overlaps ? check.text(schema::UserNote::NoteText) : QString();
     check.close();
     if (!overlaps)
         return true;
@@ -108,10 +105,4 @@ bool frmUserNote::confirmStore()
                         lineBreak + lineBreak +
                         tr("Tip: You can split notes with big time periods to smaller pieces"));
     return false;
-}
-
-void frmUserNote::recordStored()
-{
-    m_storedId = source().integer("UserNoteID"_L1);
-    RecordEditor::recordStored();
 }

@@ -15,14 +15,10 @@ class frmUserNote : public RecordEditor
 public:
     frmUserNote(Session &session, Messages &messages, QWidget *parent = nullptr);
 
-    /// UserNoteID of the stored row, 0 before.
-    qint32 storedId() const { return m_storedId; }
-
 protected:
     void Populate() override;
     void Gather() override;
     bool confirmStore() override;
-    void recordStored() override;
 
 private:
     void makeControls();
@@ -33,5 +29,4 @@ private:
     QDateEdit *dtpDateFrom;
     QDateEdit *dtpDateTo;
     PlainTextBox *txtNote;
-    qint32 m_storedId = 0;
 };

@@ -13,13 +13,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-using namespace Qt::Literals;
-
 JournalEntryEditor::JournalEntryEditor(Session &session, Messages &messages, Recordset &source,
-                                       const Journal &journal, const QString &name,
+                                       const schema::Column &dateColumn, const QString &name,
                                        const QString &caption, QWidget *parent)
     : RecordEditor(session, messages, source, name, caption, parent)
-    , m_journal(journal)
+    , m_dateColumn(dateColumn)
 {
 }
 
@@ -43,15 +41,6 @@ DataCombo *JournalEntryEditor::makeChooser(const QString &name, const QString &a
     return chooser;
 }
 
-QPushButton *JournalEntryEditor::makeNewButton(const QString &name, const QString &caption)
-{
-    auto *button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setToolTip(tr("New record"));
-    button->setAutoDefault(false);
-    return button;
-}
-
 QTimeEdit *JournalEntryEditor::makeTime(const QString &name, const QString &accessibleName)
 {
     QTimeEdit *picker = makeTimePicker(session(), name, this);
@@ -66,7 +55,7 @@ void JournalEntryEditor::makeQuantity()
     updSpin->setObjectName(QStringLiteral("updSpin"));
     lblUnit = new ElidedLabel(this);
     lblUnit->setObjectName(QStringLiteral("lblUnit"));
-    connect(txtQty, &QLineEdit::textChanged, this, [this] { recalculate(); });
+    connect(txtQty, &QLineEdit::textChanged, this, [this] { readQuantity(); });
     connect(updSpin, &UpDownSpinner::upPressed, this, [this] { stepQuantity(true); });
     connect(updSpin, &UpDownSpinner::downPressed, this, [this] { stepQuantity(false); });
 }
@@ -114,25 +103,26 @@ QLabel *JournalEntryEditor::addFigure(QGridLayout *grid, const QString &caption,
 
 void JournalEntryEditor::checkQuantity()
 {
-    checkSpecified(txtQty, tr("The Quantity should be specified"));
-    checkNumeric(txtQty, tr("The Quantity field contains illegal data"));
+    checkSpecified(txtQty, tr("Quantity"));
+    checkNumeric(txtQty, tr("Quantity"));
 }
 
 void JournalEntryEditor::showChoice(const Recordset *row)
 {
-    lblUnit->setText(row ? row->text("Unit"_L1) : QString());
+    lblUnit->setText(row ? row->text(schema::Meal::Unit) : QString());
     if (!row)
         txtQty->clear();
     else if (!isLoading())
-        txtQty->setText(row->isNull("DefaultQty"_L1)
+        txtQty->setText(row->isNull(schema::Meal::DefaultQty)
                             ? QStringLiteral("1")
-                            : session().text().toText(row->value("DefaultQty"_L1)));
+                            : session().text().toText(row->value(schema::Meal::DefaultQty)));
     recalculate();
 }
 
-std::optional<Currency> JournalEntryEditor::quantity() const
+void JournalEntryEditor::readQuantity()
 {
-    return session().text().toCurrency(txtQty->text());
+    m_quantity = session().text().toCurrency(txtQty->text());
+    recalculate();
 }
 
 void JournalEntryEditor::stepQuantity(bool up)
@@ -149,22 +139,19 @@ void JournalEntryEditor::stepQuantity(bool up)
 void JournalEntryEditor::Populate()
 {
     const bool isNew = appendsRecord() || source().isEof();
-    const QDate day = isNew ? session().currentDate() : source().date(m_journal.dateColumn);
+    const QDate day = isNew ? session().currentDate() : source().date(m_dateColumn);
     lblDay->setText(tr("Day: %1").arg(session().text().mediumDate(day)));
 }
 
 void JournalEntryEditor::Gather()
 {
-    if (recordId() == 0) {
-        source().set(m_journal.idColumn, Value(int(m_journal.newId(session().data()))));
-        source().set(m_journal.dateColumn, Value(session().currentDate()));
-    }
-    source().set("Qty"_L1, Value(*quantity()));
+    if (recordId() == 0)
+        source().set(m_dateColumn, Value(session().currentDate()));
+    source().set(schema::MealConsume::Qty, Value(*quantity()));
 }
 
 void JournalEntryEditor::recordStored()
 {
-    m_storedId = source().integer(m_journal.idColumn);
     session().setCurrentTime(entryTime());
     if (!m_addMode) {
         RecordEditor::recordStored();
@@ -175,7 +162,6 @@ void JournalEntryEditor::recordStored()
     txtQty->clear();
     lblUnit->clear();
     focusFirstField();
-    session().announceJournalChange();
 }
 
 // The form is cleared for the next row: this is what is left to see of the last one.

@@ -7,12 +7,10 @@ class DataCombo;
 class QGridLayout;
 class QTimeEdit;
 class UpDownSpinner;
-class deData;
 
 /// An editor of something eaten or done on a day: a catalogue record, a time and a quantity. A new
-/// row takes its identifier from the journal's counter and goes to the session's current date; the
-/// time stored is proposed for the next entry. In add mode the dialog stays open after each stored
-/// row, cleared for the next one, and has the chart behind it follow.
+/// row goes to the session's current date; the time stored is proposed for the next entry. In add
+/// mode the dialog stays open after each stored row, cleared for the next one.
 class JournalEntryEditor : public RecordEditor
 {
     Q_OBJECT
@@ -20,21 +18,11 @@ class JournalEntryEditor : public RecordEditor
 public:
     /// To be called before the dialog is shown; goes with a new record only.
     void setAddMode(bool on);
-    /// The identifier of the row stored last, 0 before.
-    qint32 storedId() const { return m_storedId; }
 
 protected:
-    /// Where the rows of the window's table get their key and their day from.
-    struct Journal
-    {
-        QLatin1StringView idColumn;
-        QLatin1StringView dateColumn;
-        qint16 (*newId)(deData &);
-    };
-
     JournalEntryEditor(Session &session, Messages &messages, Recordset &source,
-                       const Journal &journal, const QString &name, const QString &caption,
-                       QWidget *parent);
+                       const schema::Column &dateColumn, const QString &name,
+                       const QString &caption, QWidget *parent);
 
     /// Proposed for the next entry once this one is stored.
     virtual QTime entryTime() const = 0;
@@ -55,7 +43,6 @@ protected:
     bool appendsRecord() const override { return m_addMode || RecordEditor::appendsRecord(); }
 
     DataCombo *makeChooser(const QString &name, const QString &accessibleName);
-    QPushButton *makeNewButton(const QString &name, const QString &caption);
     QTimeEdit *makeTime(const QString &name, const QString &accessibleName);
     /// Makes the box, its spinner and the unit beside it.
     void makeQuantity();
@@ -71,19 +58,21 @@ protected:
     /// The chosen catalogue row's unit and, unless the record is being loaded, its usual quantity;
     /// null where nothing is chosen.
     void showChoice(const Recordset *row);
-    std::optional<Currency> quantity() const;
+    /// What the box holds, null for what is no number.
+    std::optional<Currency> quantity() const { return m_quantity; }
 
     QLineEdit *txtQty = nullptr;
     UpDownSpinner *updSpin = nullptr;
     QLabel *lblUnit = nullptr;
 
 private:
+    void readQuantity();
     void stepQuantity(bool up);
     void tellAdded();
 
     QLabel *lblDay = nullptr;
     QLabel *lblAdded = nullptr;
-    Journal m_journal;
+    schema::Column m_dateColumn;
     bool m_addMode = false;
-    qint32 m_storedId = 0;
+    std::optional<Currency> m_quantity;
 };

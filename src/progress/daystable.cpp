@@ -47,7 +47,7 @@ private:
     const DaySeries &m_series;
 };
 
-ListModel *makeModel(const DaySeries &series, const Table &table, QObject *parent)
+ListModel *makeModel(const DaySeries &series, const DaysText &table, QObject *parent)
 {
     std::vector<ListColumn> columns;
     for (const QString &header : table.header)
@@ -69,7 +69,7 @@ ListModel *makeModel(const DaySeries &series, const Table &table, QObject *paren
 
 } // namespace
 
-DaysTable::DaysTable(const DaySeries &series, const Table &table, QWidget *parent)
+DaysTable::DaysTable(const DaySeries &series, const DaysText &table, QWidget *parent)
     : QWidget(parent)
     , lvwDays(new QTreeView(this))
 {

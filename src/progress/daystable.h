@@ -14,7 +14,7 @@ class DaysTable : public QWidget
 
 public:
     /// The series must outlive the table.
-    DaysTable(const progress::DaySeries &series, const progress::Table &table,
+    DaysTable(const progress::DaySeries &series, const progress::DaysText &table,
               QWidget *parent = nullptr);
 
     QTreeView *list() const { return lvwDays; }

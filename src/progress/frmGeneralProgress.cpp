@@ -1,12 +1,12 @@
 #include "progress/frmGeneralProgress.h"
 
-#include "progress/ProgressChart.h"
+#include "plot/paper.h"
 #include "progress/daystable.h"
+#include "progress/progresschart.h"
 #include "progress/savepicture.h"
 #include "session/session.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
-#include "ui/paper.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -198,9 +198,10 @@ void frmGeneralProgress::print()
         QFont paperFont = font();
         paperFont.setPointSizeF(paperPoints);
         const PageContents contents = {m_series, m_texts, windowTitle(), paperFont};
-        printed = printLandscape(windowTitle(), [&](QPainter &painter, QPagedPaintDevice &paper) {
-            paintPages(painter, paper, contents);
-        });
+        printed =
+            plot::printLandscape(windowTitle(), [&](QPainter &painter, QPagedPaintDevice &paper) {
+                paintPages(painter, paper, contents);
+            });
     }
     if (!printed)
         m_messages.error(

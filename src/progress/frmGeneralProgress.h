@@ -41,7 +41,7 @@ private:
     Messages &m_messages;
     progress::DaySeries m_series;
     progress::ProgressTexts m_texts;
-    progress::Table m_table;
+    progress::DaysText m_table;
 
     QTabWidget *tabPages;
     ProgressChart *m_chart;

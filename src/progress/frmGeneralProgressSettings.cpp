@@ -25,7 +25,7 @@ frmGeneralProgressSettings::frmGeneralProgressSettings(Session &session, Message
     dtpDate->setDate(session.currentDate().addMonths(-1));
     opt1Month->setChecked(true); // from a month ago, more would be half empty
     setForm(makeForm());
-    checkTyped(dtpDate, tr("The Date From field contains illegal data"));
+    checkTyped(dtpDate, tr("Date From"));
     focusFirstField();
 }
 

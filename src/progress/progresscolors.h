@@ -1,17 +1,16 @@
 // The colours of the progress chart in a light and in a dark palette.
 #pragma once
 
-#include "chart/chartcolors.h"
-#include "progress/progressgeometry.h"
+#include "plot/colors.h"
+#include "progress/progressseries.h"
 
 namespace progress {
 
-/// Ground, ink and grid are those of the daily chart. Lines differ in lightness and hue so that
+/// Lines differ in lightness and hue so that
 /// every kind of colour vision tells them apart; their marks differ in shape, and columns in
 /// direction, for where there is no colour at all.
-struct ProgressColors
+struct ProgressColors : plot::BaseColors
 {
-    daychart::ChartColors base;
     QColor weight;
     QColor breast;
     QColor waist;
@@ -23,7 +22,7 @@ struct ProgressColors
     QColor noteEdge;
     QColor noteReach; ///< through the lanes
 
-    static ProgressColors of(const QPalette &palette);
+    explicit ProgressColors(const QPalette &palette);
 
     const QColor &line(Series series) const;
 };

@@ -17,7 +17,7 @@ constexpr double leastBalanceStep = 1;
 
 } // namespace
 
-double Layout::figuresWidth(const std::vector<Figure> &figures, TextRole role) const
+double ProgressLayout::figuresWidth(const std::vector<Figure> &figures, TextRole role) const
 {
     double sum = 0;
     for (const Figure &figure : figures)
@@ -26,7 +26,7 @@ double Layout::figuresWidth(const std::vector<Figure> &figures, TextRole role) c
 }
 
 /// The line of figures, each below its name; in a narrow area it takes several lines.
-void Layout::placeFigures()
+void ProgressLayout::placeFigures()
 {
     const std::vector<Figure> figures = m_texts.figures(m_summary);
     const double left = g.area.left() + em(margin);
@@ -54,7 +54,7 @@ void Layout::placeFigures()
     m_top = y + g.unit + valueHeight + em(0.5);
 }
 
-void Layout::layRows()
+void ProgressLayout::layRows()
 {
     // Many notes take turns in two rows, so that their letters have room.
     const double letters = width(QStringLiteral("W")) * double(m_series.notes.size());
@@ -66,7 +66,7 @@ void Layout::layRows()
     const double spent = 3 * em(headerHeight) + 2 * em(laneGap);
     const double left = std::max(3.0, m_footTop - g.lanesTop - spent);
     double y = g.lanesTop;
-    const auto lay = [&](Lane &lane, double share) {
+    const auto lay = [&](ProgressLane &lane, double share) {
         lane.area = QRectF(0, y + em(headerHeight), 0, share * left);
         y = lane.area.bottom() + em(laneGap);
     };
@@ -74,7 +74,7 @@ void Layout::layRows()
     lay(g.girths, 0.37);
     lay(g.balance, 0.36);
     // Above the highest value there is room for the marks of values beyond the scale.
-    const auto scale = [](Lane &lane, const Range &range, double leastStep, double room) {
+    const auto scale = [](ProgressLane &lane, const Range &range, double leastStep, double room) {
         if (!range.isEmpty())
             lane.scale = scaleOf(range, scaleSteps, leastStep,
                                  lane.area.top() + std::min(room, lane.area.height() / 4),
@@ -85,7 +85,7 @@ void Layout::layRows()
     scale(g.balance, m_series.calories, leastBalanceStep, 0);
 }
 
-QString Layout::lineLabel(Series series) const
+QString ProgressLayout::lineLabel(Series series) const
 {
     for (qint16 day = m_series.nDays(); day >= 1; --day) {
         const Day &record = m_series.at(day);
@@ -99,10 +99,10 @@ QString Layout::lineLabel(Series series) const
 }
 
 /// The widths of what stands left and right of the plot, and the plot between.
-void Layout::layColumns()
+void ProgressLayout::layColumns()
 {
     double leftLabels = m_series.notes.empty() ? 0 : width(ProgressTexts::tr("Notes"));
-    for (const Lane *lane : {&g.weight, &g.girths, &g.balance}) {
+    for (const ProgressLane *lane : {&g.weight, &g.girths, &g.balance}) {
         for (const double value : lane->scale.ticks(em(ticksApart)))
             leftLabels = std::max(leftLabels, width(m_texts.tick(value, lane->scale.step)));
     }
@@ -125,7 +125,7 @@ void Layout::layColumns()
     g.plot = QRectF(QPointF(left, m_top), QPointF(g.days.right(), m_footTop));
 }
 
-void Layout::placeMonth(const MonthPart &part)
+void ProgressLayout::placeMonth(const MonthPart &part)
 {
     const double left = g.days.x(part.firstDay);
     const QRectF rect(left, m_footTop + em(1.2), g.days.x(part.lastDay) + g.days.dayWidth - left,
@@ -143,7 +143,7 @@ void Layout::placeMonth(const MonthPart &part)
     }
 }
 
-void Layout::placeDates()
+void ProgressLayout::placeDates()
 {
     for (const MonthPart &part : monthsOf(m_series.period())) {
         if (part.firstDay > 1)
@@ -166,7 +166,7 @@ void Layout::placeDates()
 }
 
 /// Below its day, but not below the labels of the scales.
-void Layout::placeDayNumber(qint16 day, double labelWidth)
+void ProgressLayout::placeDayNumber(qint16 day, double labelWidth)
 {
     const double left = std::max(g.days.center(day) - labelWidth / 2, g.days.left - em(0.3));
     text(QRectF(left, m_footTop + em(0.2), labelWidth, g.unit),
@@ -179,7 +179,7 @@ qint16 DayScale::dayAt(double x) const
     return qint16(std::clamp(std::floor((x - left) / dayWidth) + 1, 1.0, double(days)));
 }
 
-std::optional<size_t> ChartGeometry::noteAt(QPointF place) const
+std::optional<size_t> ProgressGeometry::noteAt(QPointF place) const
 {
     // From the last: where two bars touch, the later one is painted on top.
     for (size_t i = notes.size(); i > 0; --i) {
@@ -189,10 +189,10 @@ std::optional<size_t> ChartGeometry::noteAt(QPointF place) const
     return std::nullopt;
 }
 
-ChartGeometry progressGeometry(const DaySeries &series, const QRectF &area,
-                               const TextMetrics &metrics, const ProgressTexts &texts)
+ProgressGeometry progressGeometry(const DaySeries &series, const QRectF &area,
+                                  const TextMetrics &metrics, const ProgressTexts &texts)
 {
-    return Layout(series, area, metrics, texts).build();
+    return ProgressLayout(series, area, metrics, texts).build();
 }
 
 } // namespace progress

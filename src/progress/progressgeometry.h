@@ -2,18 +2,17 @@
 // by the painting and by what follows the pointer.
 #pragma once
 
-#include "chart/chartgeometry.h"
+#include "plot/placedtext.h"
 #include "progress/progressscale.h"
-#include "progress/progresstexts.h"
 
 #include <QLineF>
 
 namespace progress {
 
-using daychart::PlacedText;
-using daychart::TextMetrics;
-using daychart::TextRole;
-using daychart::Tone;
+using plot::PlacedText;
+using plot::TextMetrics;
+using plot::TextRole;
+using plot::Tone;
 
 /// Days side by side, counted from 1.
 struct DayScale
@@ -62,10 +61,10 @@ struct BalanceColumn
 };
 
 /// A scale with its title and legend, the plot below them.
-struct Lane
+struct ProgressLane
 {
     QRectF area;
-    ValueScale scale;
+    SteppedScale scale;
     std::vector<double> grid; ///< heights of the labelled values
 };
 
@@ -99,7 +98,7 @@ struct NoteSpan
     bool hasRoom = false; ///< for the letter, which stands in the middle of the bar
 };
 
-struct ChartGeometry
+struct ProgressGeometry
 {
     QRectF area;
     double unit = 16; ///< height of a line of text, from which lines and gaps are sized
@@ -108,9 +107,9 @@ struct ChartGeometry
     double lanesTop = 0; ///< of the plot without the strip
     bool isEmpty = false;
 
-    Lane weight;
-    Lane girths;
-    Lane balance;
+    ProgressLane weight;
+    ProgressLane girths;
+    ProgressLane balance;
     std::vector<SeriesLine> lines;
     std::vector<BalanceColumn> columns;
     std::vector<QRectF> notRecorded; ///< strips on the zero line where calories are missing
@@ -124,14 +123,12 @@ struct ChartGeometry
     std::vector<LegendEntry> legend;
     std::vector<PlacedText> texts;
 
-    const Lane &laneOf(Series series) const { return series == Series::Weight ? weight : girths; }
+    const ProgressLane &laneOf(Series series) const
+    {
+        return series == Series::Weight ? weight : girths;
+    }
     /// The note whose bar is there.
     std::optional<size_t> noteAt(QPointF place) const;
 };
-
-/// Lays a period out in an area; what finds no room in a small one is left out. Throws
-/// OverflowError where the values are beyond what a scale can hold.
-ChartGeometry progressGeometry(const DaySeries &series, const QRectF &area,
-                               const TextMetrics &metrics, const ProgressTexts &texts);
 
 } // namespace progress

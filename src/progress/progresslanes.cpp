@@ -7,7 +7,7 @@
 
 namespace progress {
 
-void Layout::placeNotes()
+void ProgressLayout::placeNotes()
 {
     if (m_series.notes.empty())
         return;
@@ -20,7 +20,7 @@ void Layout::placeNotes()
          ProgressTexts::tr("Notes"), Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void Layout::placeLines()
+void ProgressLayout::placeLines()
 {
     if (!m_series.hasBody()) {
         const QString words = ProgressTexts::tr("No measurements in this period");
@@ -36,7 +36,7 @@ void Layout::placeLines()
 
 /// What a line is stands right of the plot, at the height of its last value. Labels that would
 /// touch are moved apart; one for which the lane is too low is left out.
-void Layout::placeLineLabels(const Lane &lane)
+void ProgressLayout::placeLineLabels(const ProgressLane &lane)
 {
     std::vector<SeriesLine *> lines;
     for (SeriesLine &line : g.lines) {
@@ -61,7 +61,7 @@ void Layout::placeLineLabels(const Lane &lane)
     }
 }
 
-void Layout::placeBalance()
+void ProgressLayout::placeBalance()
 {
     if (!m_series.hasCalories()) {
         sayAcross(g.balance.area.adjusted(0, 0, 0, -g.balance.area.height() / 2),
@@ -78,9 +78,9 @@ void Layout::placeBalance()
          m_texts.change(std::round(*m_summary.averageBalance)), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-void Layout::placeTicks()
+void ProgressLayout::placeTicks()
 {
-    for (Lane *lane : {&g.weight, &g.girths, &g.balance}) {
+    for (ProgressLane *lane : {&g.weight, &g.girths, &g.balance}) {
         for (const double value : lane->scale.ticks(em(ticksApart))) {
             const double y = lane->scale.y(value);
             lane->grid.push_back(y);
@@ -92,7 +92,7 @@ void Layout::placeTicks()
     }
 }
 
-double Layout::placeTitle(const Lane &lane, const QString &title)
+double ProgressLayout::placeTitle(const ProgressLane &lane, const QString &title)
 {
     const double titleWidth = width(title, TextRole::Caption);
     text(QRectF(lane.area.left(), lane.area.top() - em(1.15), titleWidth, g.unit), title,
@@ -101,8 +101,8 @@ double Layout::placeTitle(const Lane &lane, const QString &title)
 }
 
 /// A sample with its name; left out, together with those after it, where there is no room.
-double Layout::placeSample(const Lane &lane, double x, LegendKind kind, const QString &name,
-                           Series series)
+double ProgressLayout::placeSample(const ProgressLane &lane, double x, LegendKind kind,
+                                   const QString &name, Series series)
 {
     const bool isLine = kind == LegendKind::Line || kind == LegendKind::FilledIn ||
                         kind == LegendKind::BeyondScale || kind == LegendKind::Average;
@@ -117,7 +117,7 @@ double Layout::placeSample(const Lane &lane, double x, LegendKind kind, const QS
     return end + em(1.1);
 }
 
-void Layout::placeTitles()
+void ProgressLayout::placeTitles()
 {
     double x = placeTitle(g.weight, m_texts.nameWithUnit(Series::Weight));
     const auto has = [this](auto... kinds) {

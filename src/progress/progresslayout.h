@@ -1,10 +1,16 @@
-// How the geometry of the progress chart is built, step by step.
+// How the geometry of the progress chart is built.
 #pragma once
 
 #include "progress/progressgeometry.h"
+#include "progress/progresstexts.h"
 #include "progress/timemarks.h"
 
 namespace progress {
+
+/// Lays a period out in an area; what finds no room in a small one is left out. Throws
+/// OverflowError where the values are beyond what a scale can hold.
+ProgressGeometry progressGeometry(const DaySeries &series, const QRectF &area,
+                                  const TextMetrics &metrics, const ProgressTexts &texts);
 
 // In heights of a line of text.
 inline constexpr double margin = 0.6;
@@ -12,11 +18,11 @@ inline constexpr double ticksApart = 1.25;
 
 /// Builds the geometry step by step: the heights first, which fix the scales and with them the
 /// widths of what stands beside the plot, then everything between.
-class Layout
+class ProgressLayout
 {
 public:
-    Layout(const DaySeries &series, const QRectF &area, const TextMetrics &metrics,
-           const ProgressTexts &texts)
+    ProgressLayout(const DaySeries &series, const QRectF &area, const TextMetrics &metrics,
+                   const ProgressTexts &texts)
         : m_series(series)
         , m_metrics(metrics)
         , m_texts(texts)
@@ -27,7 +33,7 @@ public:
         g.isEmpty = series.isEmpty();
     }
 
-    ChartGeometry build()
+    ProgressGeometry build()
     {
         placeFigures();
         layRows();
@@ -71,7 +77,7 @@ private:
     void placeMonth(const MonthPart &part);
     void placeNotes();
     void placeLines();
-    void placeLineLabels(const Lane &lane);
+    void placeLineLabels(const ProgressLane &lane);
     /// A line of text in the margin that the plot leaves at its right.
     QRectF besidePlot(double top) const
     {
@@ -81,12 +87,12 @@ private:
     void placeBalance();
     void placeTicks();
     void placeTitles();
-    double placeTitle(const Lane &lane, const QString &title);
-    double placeSample(const Lane &lane, double x, LegendKind kind, const QString &name,
+    double placeTitle(const ProgressLane &lane, const QString &title);
+    double placeSample(const ProgressLane &lane, double x, LegendKind kind, const QString &name,
                        Series series = Series::Weight);
     QString lineLabel(Series series) const;
 
-    ChartGeometry g;
+    ProgressGeometry g;
     const DaySeries &m_series;
     const TextMetrics &m_metrics;
     const ProgressTexts &m_texts;

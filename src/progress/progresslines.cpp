@@ -1,5 +1,7 @@
 #include "progress/progresslines.h"
 
+#include "progress/progresstexts.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,8 @@ namespace progress {
 
 namespace {
 
-Mark markOf(const Day &day, qint16 number, Series series, const Lane &lane, const DayScale &scale)
+Mark markOf(const Day &day, qint16 number, Series series, const ProgressLane &lane,
+            const DayScale &scale)
 {
     const auto value = double(day.value(series));
     const QPointF at(scale.center(number), lane.scale.y(value));
@@ -31,7 +34,8 @@ bool allFilledIn(const DaySeries &days, qint16 after, qint16 before)
 
 } // namespace
 
-SeriesLine seriesLine(const DaySeries &days, Series series, const Lane &lane, const DayScale &scale)
+SeriesLine seriesLine(const DaySeries &days, Series series, const ProgressLane &lane,
+                      const DayScale &scale)
 {
     SeriesLine line = {series, {}, {}, {}, {}};
     const Mark *before = nullptr; // the measured day before
@@ -51,7 +55,7 @@ SeriesLine seriesLine(const DaySeries &days, Series series, const Lane &lane, co
     return line;
 }
 
-std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const Lane &lane,
+std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const ProgressLane &lane,
                                           const DayScale &scale, double widest)
 {
     std::vector<BalanceColumn> columns;
@@ -70,7 +74,7 @@ std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const Lane &lan
     return columns;
 }
 
-std::vector<QRectF> notRecordedStrips(const DaySeries &days, const Lane &lane,
+std::vector<QRectF> notRecordedStrips(const DaySeries &days, const ProgressLane &lane,
                                       const DayScale &scale, double height)
 {
     std::vector<QRectF> strips;

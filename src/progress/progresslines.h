@@ -6,14 +6,14 @@
 namespace progress {
 
 /// One line in a lane whose scale is known.
-SeriesLine seriesLine(const DaySeries &days, Series series, const Lane &lane,
+SeriesLine seriesLine(const DaySeries &days, Series series, const ProgressLane &lane,
                       const DayScale &scale);
 
-std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const Lane &lane,
+std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const ProgressLane &lane,
                                           const DayScale &scale, double widest);
 
 /// Strips of that height around the zero line, one for each run of days without calories.
-std::vector<QRectF> notRecordedStrips(const DaySeries &days, const Lane &lane,
+std::vector<QRectF> notRecordedStrips(const DaySeries &days, const ProgressLane &lane,
                                       const DayScale &scale, double height);
 
 /// The strip of the notes and what goes into it.

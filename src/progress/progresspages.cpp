@@ -1,7 +1,8 @@
 #include "progress/progresspages.h"
 
+#include "plot/paper.h"
 #include "progress/noteflow.h"
-#include "ui/paper.h"
+#include "progress/progresslayout.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -40,7 +41,7 @@ void paintHeading(QPainter &painter, const PageContents &contents, const QRectF 
                       QSizeF(page.width(), lineHeight(contents.font, painter.device())));
     QFont bold = contents.font;
     bold.setBold(true);
-    painter.setPen(paperPalette().color(QPalette::Text));
+    painter.setPen(plot::paperPalette().color(QPalette::Text));
     painter.setFont(bold);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, contents.heading);
     painter.setFont(contents.font);
@@ -55,11 +56,11 @@ void paintHeading(QPainter &painter, const PageContents &contents, const QRectF 
 void paintChart(QPainter &painter, const PageContents &contents, const QRectF &area)
 {
     QPaintDevice *device = painter.device();
-    const daychart::ChartFonts fonts(contents.font, device->logicalDpiY(), device);
+    const plot::Fonts fonts(contents.font, device->logicalDpiY(), device);
     paintProgressChart(
         painter,
-        progressGeometry(contents.series, area, daychart::metricsOf(fonts, device), contents.texts),
-        ProgressColors::of(paperPalette()), fonts);
+        progressGeometry(contents.series, area, plot::metricsOf(fonts, device), contents.texts),
+        ProgressColors(plot::paperPalette()), fonts);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "progress/progresspainter.h"
+#include "progress/progresstexts.h"
 
 #include <QImage>
 

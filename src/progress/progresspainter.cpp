@@ -1,5 +1,7 @@
 #include "progress/progresspainter.h"
 
+#include "plot/drawing.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -10,16 +12,14 @@ namespace progress {
 
 namespace {
 
-class ProgressPainter
+class ProgressPainter : plot::Drawing
 {
 public:
-    ProgressPainter(QPainter &painter, const ChartGeometry &geometry, const ProgressColors &colors,
-                    const daychart::ChartFonts &fonts)
-        : p(painter)
+    ProgressPainter(QPainter &painter, const ProgressGeometry &geometry,
+                    const ProgressColors &colors, const plot::Fonts &fonts)
+        : Drawing(painter, geometry.unit, colors, fonts)
         , g(geometry)
         , c(colors)
-        , m_fonts(fonts)
-        , m_hairline(std::max(1.0, em(0.055)))
     {
     }
 
@@ -28,12 +28,14 @@ public:
     void paintNote(const NoteSpan &note, const QColor &fill, const QColor &edge, const QColor &ink);
 
 private:
-    double em(double count) const { return count * g.unit; }
+    // Round at the joints of its lines.
     QPen pen(const QColor &color, double lines = 1, Qt::PenStyle style = Qt::SolidLine) const
     {
-        return {color, lines * m_hairline, style, Qt::FlatCap, Qt::RoundJoin};
+        QPen round = Drawing::pen(color, lines, style);
+        round.setJoinStyle(Qt::RoundJoin);
+        return round;
     }
-    QPen averagePen() const { return pen(c.base.ink, 1, Qt::DashLine); }
+    QPen averagePen() const { return pen(c.ink, 1, Qt::DashLine); }
     QPen bridgePen(Series series) const
     {
         QPen bridge = pen(c.line(series), 1.4);
@@ -44,18 +46,15 @@ private:
     double markRadius() const { return std::clamp(0.42 * g.days.dayWidth, em(0.11), em(0.26)); }
 
     void paintFrame();
-    void paintLane(const Lane &lane);
+    void paintLane(const ProgressLane &lane);
     void paintColumns();
     void paintLine(const SeriesLine &line);
     void paintBeyond(const Mark &mark, double radius);
     void paintSample(const LegendEntry &entry);
-    void hatch(const QRectF &rect);
+    void paintStrip(const QRectF &rect);
 
-    QPainter &p;
-    const ChartGeometry &g;
+    const ProgressGeometry &g;
     const ProgressColors &c;
-    const daychart::ChartFonts &m_fonts;
-    double m_hairline;
 };
 
 /// A shape of its own for each line.
@@ -82,31 +81,31 @@ QPainterPath shapeOf(Series series, QPointF at, double radius)
 
 void ProgressPainter::paint()
 {
-    p.fillRect(g.area, c.base.ground);
+    p.fillRect(g.area, c.ground);
     p.setRenderHint(QPainter::Antialiasing, false);
     for (const NoteSpan &note : g.notes)
         p.fillRect(note.reach, c.noteReach);
     paintFrame();
     if (!g.isEmpty) {
-        for (const Lane *lane : {&g.weight, &g.girths, &g.balance})
+        for (const ProgressLane *lane : {&g.weight, &g.girths, &g.balance})
             paintLane(*lane);
         paintColumns();
     }
     for (const SeriesLine &line : g.lines)
         paintLine(line);
     for (const NoteSpan &note : g.notes)
-        paintNote(note, c.note, c.noteEdge, c.base.ink);
+        paintNote(note, c.note, c.noteEdge, c.ink);
     for (const LegendEntry &entry : g.legend)
         paintSample(entry);
-    for (const PlacedText &text : g.texts)
-        paintPlacedText(p, text, c.base, m_fonts);
+    for (const PlacedText &placed : g.texts)
+        text(placed);
     for (const SeriesLine &line : g.lines)
-        paintPlacedText(p, line.label, c.base, m_fonts);
+        text(line.label);
 }
 
 void ProgressPainter::paintFrame()
 {
-    p.setPen(pen(c.base.axis));
+    p.setPen(pen(c.axis));
     horizontal(g.plot.bottom());
     for (const double x : g.weekLines)
         p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(0.25)));
@@ -115,13 +114,13 @@ void ProgressPainter::paintFrame()
         p.drawLine(QPointF(x, g.plot.bottom() + em(1.25)), QPointF(x, g.plot.bottom() + em(2.2)));
 }
 
-void ProgressPainter::paintLane(const Lane &lane)
+void ProgressPainter::paintLane(const ProgressLane &lane)
 {
     const auto verticals = [&](const std::vector<double> &places) {
         for (const double x : places)
             p.drawLine(QPointF(x, lane.area.top()), QPointF(x, lane.area.bottom()));
     };
-    p.setPen(pen(c.base.grid));
+    p.setPen(pen(c.grid));
     verticals(g.weekLines);
     for (const double y : lane.grid)
         horizontal(y);
@@ -132,14 +131,14 @@ void ProgressPainter::paintLane(const Lane &lane)
 void ProgressPainter::paintColumns()
 {
     for (const QRectF &strip : g.notRecorded)
-        hatch(strip);
+        paintStrip(strip);
     for (const BalanceColumn &column : g.columns) {
         // Narrow columns keep their distance by their exact edges, not by whole pixels.
         p.setRenderHint(QPainter::Antialiasing, true);
         p.fillRect(column.rect, column.isSurplus ? c.surplus : c.deficit);
     }
     p.setRenderHint(QPainter::Antialiasing, false);
-    p.setPen(pen(c.base.axis));
+    p.setPen(pen(c.axis));
     horizontal(g.balance.scale.y(0));
     if (g.hasAverage) {
         p.setPen(averagePen());
@@ -147,19 +146,11 @@ void ProgressPainter::paintColumns()
     }
 }
 
-/// Days without figures: lines drawn one by one, because a brush's pattern would keep the size of
-/// a screen's pixels on paper.
-void ProgressPainter::hatch(const QRectF &rect)
+/// Days without figures.
+void ProgressPainter::paintStrip(const QRectF &rect)
 {
-    p.fillRect(rect, c.base.ground);
-    p.setRenderHint(QPainter::Antialiasing, true);
-    p.setPen(pen(c.base.muted));
-    QList<QLineF> lines;
-    const double slope = rect.height();
-    for (double x = rect.left(); x + slope <= rect.right(); x += em(0.36))
-        lines.append(QLineF(x, rect.bottom(), x + slope, rect.top()));
-    p.drawLines(lines);
-    p.setRenderHint(QPainter::Antialiasing, false);
+    p.fillRect(rect, c.ground);
+    hatch(rect, pen(c.muted));
 }
 
 void ProgressPainter::paintLine(const SeriesLine &line)
@@ -183,7 +174,7 @@ void ProgressPainter::paintMark(const Mark &mark, Series series, double larger)
     }
     const bool isMeasured = mark.kind == Mark::Kind::Measured;
     p.setPen(pen(c.line(series), 1.4));
-    p.setBrush(isMeasured ? c.line(series) : c.base.ground);
+    p.setBrush(isMeasured ? c.line(series) : c.ground);
     p.drawPath(shapeOf(series, mark.at, radius));
     p.setBrush(Qt::NoBrush);
 }
@@ -193,7 +184,7 @@ void ProgressPainter::paintBeyond(const Mark &mark, double radius)
 {
     radius = std::max(radius, em(0.17));
     const double down = mark.kind == Mark::Kind::AboveScale ? 1 : -1;
-    p.setPen(pen(c.base.muted, 1.4));
+    p.setPen(pen(c.muted, 1.4));
     p.drawPolyline(QPolygonF({mark.at + QPointF(-radius, down * 1.6 * radius),
                               mark.at + QPointF(0, down * 0.4 * radius),
                               mark.at + QPointF(radius, down * 1.6 * radius)}));
@@ -203,15 +194,15 @@ void ProgressPainter::paintNote(const NoteSpan &note, const QColor &fill, const 
                                 const QColor &ink)
 {
     // A line of the ground parts two notes that touch.
-    const QRectF bar = note.bar.width() > 4 * m_hairline
-                           ? note.bar.adjusted(m_hairline / 2, 0, -m_hairline / 2, 0)
+    const QRectF bar = note.bar.width() > 4 * hairline()
+                           ? note.bar.adjusted(hairline() / 2, 0, -hairline() / 2, 0)
                            : note.bar;
     p.fillRect(bar, fill);
-    p.fillRect(QRectF(bar.left(), bar.bottom() - 1.5 * m_hairline, bar.width(), 1.5 * m_hairline),
+    p.fillRect(QRectF(bar.left(), bar.bottom() - 1.5 * hairline(), bar.width(), 1.5 * hairline()),
                edge);
     if (!note.hasRoom)
         return;
-    p.setFont(m_fonts.caption);
+    p.setFont(fonts().caption);
     p.setPen(ink);
     p.drawText(bar, Qt::AlignCenter | Qt::TextDontClip, note.letter);
 }
@@ -253,7 +244,7 @@ void ProgressPainter::paintSample(const LegendEntry &entry)
         p.fillRect(rect, entry.kind == LegendKind::Surplus ? c.surplus : c.deficit);
         break;
     case LegendKind::NotRecorded:
-        hatch(QRectF(rect.left() - em(0.15), rect.center().y() - em(0.18), em(1.1), em(0.36)));
+        paintStrip(QRectF(rect.left() - em(0.15), rect.center().y() - em(0.18), em(1.1), em(0.36)));
         break;
     }
     p.setRenderHint(QPainter::Antialiasing, false);
@@ -261,8 +252,8 @@ void ProgressPainter::paintSample(const LegendEntry &entry)
 
 } // namespace
 
-void paintProgressChart(QPainter &painter, const ChartGeometry &geometry,
-                        const ProgressColors &colors, const daychart::ChartFonts &fonts)
+void paintProgressChart(QPainter &painter, const ProgressGeometry &geometry,
+                        const ProgressColors &colors, const plot::Fonts &fonts)
 {
     painter.save();
     painter.setBrush(Qt::NoBrush);
@@ -270,24 +261,23 @@ void paintProgressChart(QPainter &painter, const ChartGeometry &geometry,
     painter.restore();
 }
 
-void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ProgressColors &colors,
-                   const daychart::ChartFonts &fonts, const Emphasis &emphasis)
+void paintEmphasis(QPainter &painter, const ProgressGeometry &geometry,
+                   const ProgressColors &colors, const plot::Fonts &fonts, const Emphasis &emphasis)
 {
     painter.save();
     ProgressPainter chart(painter, geometry, colors, fonts);
     if (emphasis.note && *emphasis.note < geometry.notes.size()) {
         NoteSpan note = geometry.notes[*emphasis.note];
         note.hasRoom = true;
-        QColor tint = colors.base.highlight;
+        QColor tint = colors.highlight;
         tint.setAlphaF(0.16F);
         painter.fillRect(note.reach, tint);
-        chart.paintNote(note, colors.base.highlight, colors.base.highlight,
-                        colors.base.onHighlight);
+        chart.paintNote(note, colors.highlight, colors.highlight, colors.onHighlight);
     }
     if (emphasis.day) {
         const double x = geometry.days.center(*emphasis.day);
         painter.setRenderHint(QPainter::Antialiasing, true);
-        painter.setPen(QPen(colors.base.highlight, std::max(1.0, 0.09 * geometry.unit)));
+        painter.setPen(QPen(colors.highlight, std::max(1.0, 0.09 * geometry.unit)));
         painter.drawLine(QPointF(x, geometry.lanesTop),
                          QPointF(x, geometry.plot.bottom() + 0.25 * geometry.unit));
         for (const SeriesLine &line : geometry.lines) {

@@ -1,13 +1,16 @@
 // Paints the progress chart on whatever a painter stands for: screen, printer or picture.
 #pragma once
 
-#include "chart/chartpainter.h"
+#include "plot/fonts.h"
 #include "progress/progresscolors.h"
+#include "progress/progressgeometry.h"
+
+class QPainter;
 
 namespace progress {
 
-void paintProgressChart(QPainter &painter, const ChartGeometry &geometry,
-                        const ProgressColors &colors, const daychart::ChartFonts &fonts);
+void paintProgressChart(QPainter &painter, const ProgressGeometry &geometry,
+                        const ProgressColors &colors, const plot::Fonts &fonts);
 
 /// What is pointed at, on top of the chart: a note's reach, a day and its values.
 struct Emphasis
@@ -16,7 +19,8 @@ struct Emphasis
     std::optional<qint16> day;
 };
 
-void paintEmphasis(QPainter &painter, const ChartGeometry &geometry, const ProgressColors &colors,
-                   const daychart::ChartFonts &fonts, const Emphasis &emphasis);
+void paintEmphasis(QPainter &painter, const ProgressGeometry &geometry,
+                   const ProgressColors &colors, const plot::Fonts &fonts,
+                   const Emphasis &emphasis);
 
 } // namespace progress

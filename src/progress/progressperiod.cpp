@@ -1,7 +1,5 @@
 #include "progress/progressperiod.h"
 
-using namespace Qt::Literals;
-
 namespace progress {
 
 namespace {
@@ -21,9 +19,9 @@ Coverage checkCoverage(deData &data, const Period &period)
     Coverage coverage;
     Recordset &dates = data.rschkMinMaxdate;
     dates.reopen({Value(period.dateFrom), Value(period.dateTo)});
-    if (!dates.isEof() && !dates.isNull("minDt"_L1) && !dates.isNull("maxDt"_L1)) {
-        coverage.minDt = dates.date("minDt"_L1);
-        coverage.maxDt = dates.date("maxDt"_L1);
+    if (!dates.isEof() && !dates.isNull(commands::minDt) && !dates.isNull(commands::maxDt)) {
+        coverage.minDt = dates.date(commands::minDt);
+        coverage.maxDt = dates.date(commands::maxDt);
         const auto covered = double(coverage.minDt.daysTo(coverage.maxDt));
         coverage.isEnough =
             covered >= double(period.dateFrom.daysTo(period.dateTo)) * leastCoverage;
@@ -39,8 +37,8 @@ bool checkContiguity(deData &data, const Coverage &coverage)
 
     Recordset &count = data.rschkCaloriesDays;
     count.reopen({Value(coverage.minDt), Value(coverage.maxDt)});
-    const bool isCounted = !count.isEof() && !count.isNull("days"_L1);
-    const qint64 days = isCounted ? count.integer("days"_L1) : 0;
+    const bool isCounted = !count.isEof() && !count.isNull(commands::days);
+    const qint64 days = isCounted ? count.integer(commands::days) : 0;
     count.close();
     if (!isCounted || days < coverage.minDt.daysTo(coverage.maxDt) + 1)
         return false;

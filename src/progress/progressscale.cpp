@@ -1,29 +1,24 @@
 #include "progress/progressscale.h"
 
-#include "chart/scales.h"
 #include "data/valuehelpers.h"
+#include "plot/scales.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace progress {
 
-std::vector<double> ValueScale::ticks(double apart) const
+std::vector<double> SteppedScale::ticks(double apart) const
 {
     if (height() <= 0)
         return {}; // of a lane without values, or without room
     const double distance = height() * step / (high - low);
     const double every =
-        distance >= apart ? step : step * std::ceil(daychart::roundStep(apart / distance));
-    std::vector<double> values;
-    const double tolerance = 1e-6;
-    const auto last = static_cast<qint64>(std::floor(high / every + tolerance));
-    for (auto i = static_cast<qint64>(std::ceil(low / every - tolerance)); i <= last; ++i)
-        values.push_back(double(i) * every);
-    return values;
+        distance >= apart ? step : step * std::ceil(plot::roundStep(apart / distance));
+    return plot::multiplesBetween(low, high, every);
 }
 
-ValueScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY)
+SteppedScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY)
 {
     const auto minimum = double(range.minimum);
     const auto maximum = double(range.maximum);
@@ -34,8 +29,8 @@ ValueScale scaleOf(const Range &range, int steps, double leastStep, double topY,
     if (minimum == maximum)
         leastStep = std::max(leastStep, 1.0); // a single value tells of no finer one
     const Currency step =
-        Currency::fromDouble(std::max({leastStep, daychart::roundStep((maximum - minimum) / steps),
-                                       daychart::roundStep(magnitude / mostSteps)}));
+        Currency::fromDouble(std::max({leastStep, plot::roundStep((maximum - minimum) / steps),
+                                       plot::roundStep(magnitude / mostSteps)}));
     Currency low = SnapToStep(range.minimum, true, step);
     Currency high = SnapToStep(range.maximum, false, step);
     if (low == high) {

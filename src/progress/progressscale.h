@@ -7,7 +7,7 @@
 namespace progress {
 
 /// A scale of values from one multiple of its step to another, drawn between two heights.
-struct ValueScale
+struct SteppedScale
 {
     double low = 0;
     double high = 1;
@@ -24,6 +24,6 @@ struct ValueScale
 
 /// The scale of a range, which must not be empty, in about so many steps of 1, 2 or 5 times a
 /// power of ten, none below leastStep. Throws OverflowError for values beyond a decimal's range.
-ValueScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY);
+SteppedScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY);
 
 } // namespace progress

@@ -7,8 +7,6 @@
 #include <cmath>
 #include <stdexcept>
 
-using namespace Qt::Literals;
-
 namespace progress {
 
 namespace {
@@ -25,7 +23,8 @@ float toSingle(double value)
 
 /// Stores a row's values on the day that a column names; a fault tells the day.
 template<typename Store>
-void storeOnDay(DaySeries &series, const Recordset &rows, QLatin1StringView dateColumn, Store store)
+void storeOnDay(DaySeries &series, const Recordset &rows, const schema::Column &dateColumn,
+                Store store)
 {
     const QDate date = rows.date(dateColumn);
     try {
@@ -40,11 +39,11 @@ void loadBody(deData &data, DaySeries &series)
     Recordset &rows = data.rsGPBody;
     rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
     for (; !rows.isEof(); rows.moveNext()) {
-        storeOnDay(series, rows, "DateMeasured"_L1, [&](Day &day) {
-            day.waist = toSingle(rows.number("Waist"_L1));
-            day.breast = toSingle(rows.number("Breast"_L1));
-            day.hips = toSingle(rows.number("Hips"_L1));
-            day.weight = toSingle(rows.number("Weight"_L1));
+        storeOnDay(series, rows, schema::Body::DateMeasured, [&](Day &day) {
+            day.waist = toSingle(rows.number(schema::Body::Waist));
+            day.breast = toSingle(rows.number(schema::Body::Breast));
+            day.hips = toSingle(rows.number(schema::Body::Hips));
+            day.weight = toSingle(rows.number(schema::Body::Weight));
             day.source = BodySource::Measured;
             for (const float girth : {day.waist, day.breast, day.hips})
                 series.girths.widen(girth);
@@ -59,8 +58,9 @@ void loadCalories(deData &data, DaySeries &series, double metabolicRate)
     Recordset &rows = data.rsGPCalories;
     rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
     for (; !rows.isEof(); rows.moveNext()) {
-        storeOnDay(series, rows, "curDate"_L1, [&](Day &day) {
-            day.calories = roundToInt16(rows.number("calories"_L1) - metabolicRate * hoursPerDay);
+        storeOnDay(series, rows, commands::curDate, [&](Day &day) {
+            day.calories =
+                roundToInt16(rows.number(commands::calories) - metabolicRate * hoursPerDay);
             day.hasCalories = true;
             series.calories.widen(day.calories);
         });
@@ -74,8 +74,9 @@ void loadNotes(deData &data, DaySeries &series)
     rows.reopen({Value(series.period().dateFrom), Value(series.period().dateTo)});
     series.notes.reserve(rows.rowCount());
     for (; !rows.isEof(); rows.moveNext())
-        series.notes.push_back(
-            {rows.text("NoteText"_L1), rows.date("DateFrom"_L1), rows.date("DateTo"_L1)});
+        series.notes.push_back({rows.text(schema::UserNote::NoteText),
+                                rows.date(schema::UserNote::DateFrom),
+                                rows.date(schema::UserNote::DateTo)});
     rows.close();
 }
 

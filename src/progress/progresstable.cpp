@@ -38,7 +38,7 @@ QString lineOf(const QStringList &cells)
 
 } // namespace
 
-QString Table::toTabSeparated() const
+QString DaysText::toTabSeparated() const
 {
     QString text = lineOf(header);
     for (const QStringList &row : rows)
@@ -46,9 +46,9 @@ QString Table::toTabSeparated() const
     return text;
 }
 
-Table tableOf(const DaySeries &series, const ProgressTexts &texts)
+DaysText tableOf(const DaySeries &series, const ProgressTexts &texts)
 {
-    Table table;
+    DaysText table;
     table.header = {ProgressTexts::tr("Date")};
     for (const Series which : allSeries)
         table.header += texts.nameWithUnit(which);

@@ -7,7 +7,7 @@
 
 namespace progress {
 
-struct Table
+struct DaysText
 {
     QStringList header;
     std::vector<QStringList> rows; ///< a row for each day; what is not known is empty
@@ -17,6 +17,6 @@ struct Table
 };
 
 /// Numbers have the locale's decimals and no group separators, so that they can be computed with.
-Table tableOf(const DaySeries &series, const ProgressTexts &texts);
+DaysText tableOf(const DaySeries &series, const ProgressTexts &texts);
 
 } // namespace progress

@@ -4,29 +4,28 @@
 
 #include <QDir>
 
-#include <optional>
 #include <stdexcept>
 
 namespace {
 
 const QString firstStartKey = QStringLiteral("FirstStartDone");
 const QString yes = QStringLiteral("true");
+const QString no = QStringLiteral("false");
 constexpr char unwritable[] = "Corvana.ini can't be written in the program folder; please make "
                               "sure that there is room and that you may write there";
-const QString no = QStringLiteral("false");
 
 IniFile settingsIn(const QString &folder)
 {
     return IniFile(QDir(folder).filePath(QStringLiteral("Corvana.ini")));
 }
 
-// None where the file is there but doesn't tell.
-std::optional<bool> firstStartDone(IniFile &settings)
+Installation::FirstStart firstStartIn(IniFile &settings)
 {
+    using enum Installation::FirstStart;
     if (!settings.exists())
-        return false;
+        return Pending;
     const QString mark = settings.read() ? settings.value(firstStartKey) : QString();
-    return mark == yes ? std::optional(true) : mark == no ? std::optional(false) : std::nullopt;
+    return mark == yes ? Done : mark == no ? Pending : Untold;
 }
 
 } // namespace
@@ -46,16 +45,10 @@ QString Installation::helpPath() const
     return QDir(m_folder).filePath(QStringLiteral("Corvana.hlp"));
 }
 
-bool Installation::isFirstStartDone() const
+Installation::FirstStart Installation::firstStart() const
 {
     IniFile settings = settingsIn(m_folder);
-    return firstStartDone(settings).value_or(true);
-}
-
-bool Installation::isDamaged() const
-{
-    IniFile settings = settingsIn(m_folder);
-    return !firstStartDone(settings);
+    return firstStartIn(settings);
 }
 
 void Installation::requireWritable() const
@@ -83,8 +76,8 @@ QString Installation::value(const QString &key) const
 void Installation::setValue(const QString &key, const QString &value)
 {
     IniFile settings = settingsIn(m_folder);
-    const bool isDone = firstStartDone(settings).value_or(true);
+    const bool isPending = firstStartIn(settings) == FirstStart::Pending;
     settings.setValue(key, value);
-    settings.setValue(firstStartKey, isDone ? yes : no);
+    settings.setValue(firstStartKey, isPending ? no : yes);
     settings.write();
 }

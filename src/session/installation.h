@@ -14,12 +14,15 @@ public:
     QString databasePath() const;
     QString helpPath() const;
 
-    /// True as well where the file is there but doesn't tell: to begin the first start anew would
-    /// move the user's own measurements.
-    bool isFirstStartDone() const;
-    /// Whether the file is there but can't be read, or doesn't tell whether the first start is
-    /// done.
-    bool isDamaged() const;
+    enum class FirstStart
+    {
+        Pending,
+        Done,
+        Untold ///< the file is there but can't be read, or doesn't tell
+    };
+    /// What is untold counts as done: to begin the first start anew would move the user's own
+    /// measurements.
+    FirstStart firstStart() const;
     /// Throws std::runtime_error where setFirstStartDone() would; changes nothing.
     void requireWritable() const;
     /// Written to the disk when it returns; throws std::runtime_error where it can't be.

@@ -4,13 +4,11 @@
 #include "data/steps.h"
 #include "data/valuehelpers.h"
 
-using namespace Qt::Literals;
-
 void moveSampleJournal(deData &data, QDate today)
 {
     Recordset &common = data.rsCommon;
     common.reopen();
-    const qint16 nDays = toInt16(common.date("installDate"_L1).daysTo(today));
+    const qint16 nDays = toInt16(common.date(schema::Common::installDate).daysTo(today));
     const qint16 x = toInt16(MinOf(50 - nDays, 50));
 
     const auto move = [&data](const Command &command, int days) -> Step {
@@ -22,7 +20,7 @@ void moveSampleJournal(deData &data, QDate today)
               move(commands::RecalcExerciseDates, nDays), move(commands::RecalcMealDates, nDays),
               move(commands::RecalcUserNoteDates, nDays),
               [&] {
-                  common.set("installDate"_L1, Value(today));
+                  common.set(schema::Common::installDate, Value(today));
                   common.update();
               }},
              Refusal::KeepsEarlierSteps);

@@ -2,13 +2,12 @@
 
 #include "data/numbers.h"
 
-using namespace Qt::Literals;
-
 CommonParameters commonParametersOf(const Recordset &common)
 {
-    common.currency("metabolicRate"_L1); // raised here, a chart need not count with infinities
-    return {roundToInt16(common.number("weight"_L1)), common.text("Measurement"_L1),
-            common.number("metabolicRate"_L1)};
+    common.currency(
+        schema::Common::metabolicRate); // raised here, a chart need not count with infinities
+    return {roundToInt16(common.number(schema::Common::weight)),
+            common.text(schema::Common::Measurement), common.number(schema::Common::metabolicRate)};
 }
 
 Session::Session(deData &data, const Clock &clock, const QLocale &locale)

@@ -7,6 +7,9 @@
 
 #include <QObject>
 
+#include <algorithm>
+#include <vector>
+
 /// The facts about the user that the system computes with.
 struct CommonParameters
 {
@@ -24,6 +27,25 @@ struct CommonParameters
 /// The parameters in the current row of command Common; the weight is rounded half to even.
 /// Throws OverflowError for a weight beyond 16 bits and a rate beyond the decimal's range.
 CommonParameters commonParametersOf(const Recordset &common);
+
+/// What was done to records, told to whoever shows them.
+struct StoredChange
+{
+    enum class Kind
+    {
+        Added,
+        Changed,
+        Removed
+    };
+
+    std::vector<const schema::Table *> tables;
+    Kind kind;
+
+    bool touches(const schema::Table &table) const
+    {
+        return std::find(tables.begin(), tables.end(), &table) != tables.end();
+    }
+};
 
 /// Made by start-up and handed to each window by reference; there are no globals.
 class Session : public QObject
@@ -65,12 +87,13 @@ public:
     /// Between the lines of a message.
     static QString lineBreak() { return QStringLiteral("\r\n"); }
 
-    /// To be called by whoever has changed journal data or common parameters.
-    void announceJournalChange() { Q_EMIT journalChanged(); }
+    /// To be called by whoever has changed the journal, the catalogues or the common parameters,
+    /// once for each action, after it has been stored.
+    void announce(const StoredChange &change) { Q_EMIT recordsChanged(change); }
 
 Q_SIGNALS:
     void dayChanged();
-    void journalChanged();
+    void recordsChanged(const StoredChange &change);
     void parametersChanged();
 
 private:

@@ -39,9 +39,9 @@ frmCommon::frmCommon(Session &session, Messages &messages, QWidget *parent)
     guardFromWheel(*cbxMeasurement);
     setForm(makeForm());
 
-    checkNumeric(txtWeight, tr("The Weight is not specified or specified incorrect"));
-    checkNumeric(txtMetabolicRate,
-                 tr("The Background Calories Consume is not specified or specified incorrect"));
+    checkNumber(txtWeight, tr("The Weight is not specified or specified incorrect"));
+    checkNumber(txtMetabolicRate,
+                tr("The Background Calories Consume is not specified or specified incorrect"));
 
     connect(txtWeight, &QLineEdit::textChanged, this, &frmCommon::UpdateBackgroundCalories);
     connect(cbxMeasurement, &QComboBox::currentIndexChanged, this, &frmCommon::unitPicked);
@@ -86,11 +86,11 @@ void frmCommon::Populate()
 {
     const LocaleText &text = session().text();
     // Each of the first two recomputes the background calories; the stored value, last, wins.
-    txtWeight->setText(text.toText(source().value("weight"_L1)));
-    cbxMeasurement->setCurrentIndex(source().text("Measurement"_L1) == "M"_L1 ? metricItem
-                                                                              : imperialItem);
+    txtWeight->setText(text.toText(source().value(schema::Common::weight)));
+    cbxMeasurement->setCurrentIndex(
+        source().text(schema::Common::Measurement) == "M"_L1 ? metricItem : imperialItem);
     ShowWeightUnit();
-    txtMetabolicRate->setText(text.toText(source().value("metabolicRate"_L1)));
+    txtMetabolicRate->setText(text.toText(source().value(schema::Common::metabolicRate)));
 }
 
 bool frmCommon::isMetricChosen() const
@@ -121,9 +121,10 @@ void frmCommon::Gather()
     const Currency weight = *session().text().toCurrency(txtWeight->text());
     // The program holds the weight in 16 bits: a larger one is refused before it is stored.
     roundToInt16(weight.toDouble());
-    source().set("weight"_L1, Value(weight));
-    source().set("Measurement"_L1, Value(units::codeOf(isMetricChosen())));
-    source().set("metabolicRate"_L1, Value(*session().text().toCurrency(txtMetabolicRate->text())));
+    source().set(schema::Common::weight, Value(weight));
+    source().set(schema::Common::Measurement, Value(units::codeOf(isMetricChosen())));
+    source().set(schema::Common::metabolicRate,
+                 Value(*session().text().toCurrency(txtMetabolicRate->text())));
 }
 
 std::vector<Step> frmCommon::storeSteps()

@@ -128,7 +128,8 @@ void DataCombo::takeMatch(bool forward)
     focusNextPrevChild(forward);
 }
 
-void DataCombo::setRows(Recordset &rows, QLatin1StringView idColumn, QLatin1StringView nameColumn)
+void DataCombo::setRows(Recordset &rows, const schema::Column &idColumn,
+                        const schema::Column &nameColumn)
 {
     const QSignalBlocker blocker(this);
     clear();

@@ -31,7 +31,7 @@ public:
 
     /// Takes the rows of an open result set as the list; no row is chosen, the text is empty and
     /// no change is announced.
-    void setRows(Recordset &rows, QLatin1StringView idColumn, QLatin1StringView nameColumn);
+    void setRows(Recordset &rows, const schema::Column &idColumn, const schema::Column &nameColumn);
 
     /// The identifier of the chosen row; none while the text names no row.
     std::optional<qint32> boundValue() const { return m_boundValue; }

@@ -2,6 +2,7 @@
 
 #include "session/session.h"
 #include "ui/attempt.h"
+#include "ui/fieldmessages.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
@@ -102,26 +103,31 @@ void FormDialog::addCheck(QWidget *field, const QString &message, std::function<
     m_checks.push_back({field, message, std::move(passes)});
 }
 
-void FormDialog::checkSpecified(QLineEdit *box, const QString &message)
-{
-    addCheck(box, message, [box] { return !box->text().trimmed().isEmpty(); });
-}
-
-void FormDialog::checkNumeric(QLineEdit *box, const QString &message)
+void FormDialog::checkNumber(QLineEdit *box, const QString &message)
 {
     addCheck(box, message, [this, box] { return m_session.text().isNumeric(box->text()); });
 }
 
-void FormDialog::checkNumericOrEmpty(QLineEdit *box, const QString &message)
+void FormDialog::checkSpecified(QLineEdit *box, const QString &field)
 {
-    addCheck(box, message, [this, box] {
+    addCheck(box, shouldBeSpecified(field), [box] { return !box->text().trimmed().isEmpty(); });
+}
+
+void FormDialog::checkNumeric(QLineEdit *box, const QString &field)
+{
+    checkNumber(box, containsIllegalData(field));
+}
+
+void FormDialog::checkNumericOrEmpty(QLineEdit *box, const QString &field)
+{
+    addCheck(box, containsIllegalData(field), [this, box] {
         return box->text().isEmpty() || m_session.text().isNumeric(box->text());
     });
 }
 
-void FormDialog::checkTyped(QDateTimeEdit *picker, const QString &message)
+void FormDialog::checkTyped(QDateTimeEdit *picker, const QString &field)
 {
-    addCheck(picker, message, [picker] { return takeTyped(*picker); });
+    addCheck(picker, containsIllegalData(field), [picker] { return takeTyped(*picker); });
 }
 
 QLineEdit *FormDialog::makeBox(const QString &name, const QString &accessibleName)
@@ -130,6 +136,15 @@ QLineEdit *FormDialog::makeBox(const QString &name, const QString &accessibleNam
     box->setObjectName(name);
     box->setAccessibleName(accessibleName);
     return box;
+}
+
+QPushButton *FormDialog::makeNewButton(const QString &name, const QString &caption)
+{
+    auto *button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setToolTip(tr("New record"));
+    button->setAutoDefault(false);
+    return button;
 }
 
 QLabel *FormDialog::makeLabel(const QString &caption, QWidget *field)

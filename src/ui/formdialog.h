@@ -34,19 +34,24 @@ protected:
     virtual bool Validate();
 
     void addCheck(QWidget *field, const QString &message, std::function<bool()> passes);
-    /// Fails for blanks alone.
-    void checkSpecified(QLineEdit *box, const QString &message);
     /// Fails for what is no number in the user's locale.
-    void checkNumeric(QLineEdit *box, const QString &message);
+    void checkNumber(QLineEdit *box, const QString &message);
+    // Of these the usual message is composed from the field's name.
+    /// Fails for blanks alone.
+    void checkSpecified(QLineEdit *box, const QString &field);
+    /// Fails for what is no number in the user's locale.
+    void checkNumeric(QLineEdit *box, const QString &field);
     /// The same, but an empty box passes.
-    void checkNumericOrEmpty(QLineEdit *box, const QString &message);
+    void checkNumericOrEmpty(QLineEdit *box, const QString &field);
     /// Fails for a half-typed date or time and takes a whole one.
-    void checkTyped(QDateTimeEdit *picker, const QString &message);
+    void checkTyped(QDateTimeEdit *picker, const QString &field);
     /// Says what is wrong with a field and moves the focus there.
     void refuse(QWidget *field, const QString &message);
 
     /// A text box for a number or a short text, named for tests and screen readers.
     QLineEdit *makeBox(const QString &name, const QString &accessibleName);
+    /// Beside a chooser: makes a record of the kind that it offers.
+    QPushButton *makeNewButton(const QString &name, const QString &caption);
     /// A field's label with its access key.
     QLabel *makeLabel(const QString &caption, QWidget *field);
     /// Puts the form and, below it, the OK, Cancel and Help buttons into the dialog. The Tab key

@@ -1,5 +1,6 @@
 #include "ui/recordeditor.h"
 
+#include "data/identifiers.h"
 #include "data/storeerror.h"
 #include "session/session.h"
 #include "ui/attempt.h"
@@ -31,8 +32,10 @@ void RecordEditor::load()
     if (appendsRecord())
         setWindowTitle(tr("%1 - New").arg(windowTitle()));
     openSource();
-    if (!appendsRecord() && m_source.isEof())
+    if (!appendsRecord() && m_source.isEof()) {
+        session().announce({{&table()}, StoredChange::Kind::Removed});
         throw StoreError(StoreError::Kind::Gone, "the record has been deleted");
+    }
     m_loading = true;
     Populate();
     // Of a text too long for its box, the beginning tells more than the end.
@@ -48,18 +51,25 @@ void RecordEditor::openSource()
 
 void RecordEditor::accept()
 {
+    using enum StoredChange::Kind;
+    const auto change = appendsRecord() ? Added : Changed;
     if (!Validate() || !store())
         return;
     m_stored = true;
+    m_storedId = m_source.integer(table().key());
     recordStored();
+    session().announce({{&table()}, change});
 }
 
 bool RecordEditor::store()
 {
     const Recordset::Rows before = m_source.rows();
     try {
-        if (appendsRecord())
+        if (appendsRecord()) {
             m_source.addNew();
+            if (const auto id = newIdentifier(session().data(), table()))
+                m_source.set(table().key(), Value(int(*id)));
+        }
         Gather();
         if (!confirmStore()) {
             m_source.cancelUpdate();
@@ -93,7 +103,7 @@ void RecordEditor::refuseStore(const std::exception &error)
     if (refusal && refusal->kind() == StoreError::Kind::ParametersChanged)
         attempt(this, messages(), [this] {
             session().readCommonParameters();
-            session().announceJournalChange();
+            session().announce({{&schema::Common::table}, StoredChange::Kind::Changed});
         });
     if (refusal && refusal->kind() == StoreError::Kind::Changed)
         attempt(this, messages(), [this] { openSource(); });

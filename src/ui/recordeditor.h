@@ -4,6 +4,7 @@
 #include "data/recordset.h"
 #include "data/steps.h"
 #include "ui/formdialog.h"
+#include "ui/reselection.h"
 
 /// A modal dialog that edits one record through the result set of its single-record command.
 /// A window states its form, its checks in the order in which they are tried, and the three
@@ -19,6 +20,10 @@ public:
     bool run(qint32 recordId);
 
     qint32 recordId() const { return m_recordId; }
+    /// The identifier of the record stored last, 0 before.
+    qint32 storedId() const { return m_storedId; }
+    /// What a list that opened the editor selects afterwards.
+    virtual Reselection reselection() const { return {.id = m_storedId}; }
     /// Whether the record was written during this opening.
     bool isStored() const { return m_stored; }
 
@@ -28,7 +33,7 @@ protected:
 
     /// Copies the record into the fields. The base calls it with the loading flag set.
     virtual void Populate() = 0;
-    /// Copies the fields into the pending record.
+    /// Copies the fields into the pending record, which has its identifier already.
     virtual void Gather() = 0;
     /// A last look at the gathered record before it is written; false discards the change and
     /// leaves the dialog open (the window has said why).
@@ -59,10 +64,12 @@ private:
     void accept() override;
     void load();
     bool store();
+    const schema::Table &table() const { return *m_source.command().table; }
     void refuseStore(const std::exception &error);
 
     Recordset &m_source;
     qint32 m_recordId = 0;
+    qint32 m_storedId = 0;
     bool m_stored = false;
     bool m_loading = false;
 };

@@ -1,6 +1,6 @@
 #include "ui/recordlist.h"
 
-#include "data/storeerror.h"
+#include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
@@ -12,6 +12,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QToolTip>
@@ -101,9 +102,11 @@ private:
 
 } // namespace
 
-RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
-                       Actions actions, const QString &accessibleName, QWidget *parent)
+RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Session &session,
+                       Messages &messages, Actions actions, const QString &accessibleName,
+                       QWidget *parent)
     : QWidget(parent)
+    , m_session(session)
     , m_messages(messages)
     , m_family(family)
     , m_actions(std::move(actions))
@@ -272,7 +275,7 @@ void RecordList::removeSelected()
 {
     const int row = selectedRow();
     try {
-        m_actions.remove(selectedTag());
+        remove(selectedTag());
     } catch (const std::exception &error) {
         m_messages.error(window(),
                          m_family == ListFamily::Catalogue
@@ -282,8 +285,22 @@ void RecordList::removeSelected()
                          causeOf(error));
         return;
     }
+    m_session.announce({{m_actions.records.command().table}, StoredChange::Kind::Removed});
     refreshOrTell({});
     select(qMin(row, m_model->rowCount() - 1));
+}
+
+void RecordList::remove(qint32 id)
+{
+    if (m_actions.removal) {
+        m_session.data().run(*m_actions.removal, {Value(id)});
+        return;
+    }
+    Recordset &records = m_actions.records;
+    const auto close = qScopeGuard([&records] { records.close(); });
+    records.reopen({Value(id)});
+    if (!records.isEof())
+        records.remove();
 }
 
 // What was stored or deleted before is so, whether the rows can be read afterwards or not.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/listmodel.h"
+#include "ui/reselection.h"
 
 #include <QWidget>
 
@@ -9,6 +10,9 @@
 #include <optional>
 
 class Messages;
+class Recordset;
+class Session;
+struct Command;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -21,16 +25,8 @@ enum class ListFamily
     Journal    ///< "No record selected"
 };
 
-/// What becomes the selected row after a refresh: by name in the catalogues, by identifier in the
-/// journal, nothing by default.
-struct Reselection
-{
-    QString name = {};
-    qint32 id = 0;
-};
-
-/// The list in report view and its buttons. The window hands in how rows are read, edited and
-/// deleted; the flow, the messages, the focus and the reselection are here. Insert, Enter and
+/// The list in report view and its buttons. The window hands in how rows are read and edited; the
+/// deletion, the flow, the messages, the focus and the reselection are here. Insert, Enter and
 /// Delete in the list press the buttons.
 class RecordList : public QWidget
 {
@@ -43,8 +39,10 @@ public:
         std::function<ListRows()> load;
         /// Opens the editor, 0 for a new record; what to reselect where it stored something.
         std::function<std::optional<Reselection>(qint32 id)> edit;
-        /// Deletes the record; throws StoreError where the database refuses.
-        std::function<void(qint32 id)> remove;
+        /// Of the command for a single record, through which one is deleted.
+        Recordset &records;
+        /// Deletes it instead, where there is one; the identifier is its parameter.
+        const Command *removal = nullptr;
     };
     /// Object names of the controls; the defaults are those of a window with one list.
     struct Names
@@ -55,8 +53,9 @@ public:
         QString deleteButton = QStringLiteral("btnDelete");
     };
 
-    RecordList(std::vector<ListColumn> columns, ListFamily family, Messages &messages,
-               Actions actions, const QString &accessibleName, QWidget *parent = nullptr);
+    RecordList(std::vector<ListColumn> columns, ListFamily family, Session &session,
+               Messages &messages, Actions actions, const QString &accessibleName,
+               QWidget *parent = nullptr);
     void setNames(const Names &names);
     /// Puts the window's help button beside the others.
     void addHelpButton();
@@ -77,6 +76,7 @@ private:
     void editSelected();
     void deleteSelected();
     void removeSelected();
+    void remove(qint32 id);
     void edit(qint32 id);
     void refreshOrTell(const Reselection &reselection);
     void select(int row);
@@ -87,6 +87,7 @@ private:
     void sizeColumns();
     void tellMissing(const ListRows &loaded);
 
+    Session &m_session;
     Messages &m_messages;
     ListFamily m_family;
     Actions m_actions;

@@ -7,15 +7,19 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
-const QStringList keptWindows = {
-    QStringLiteral("frmMain"),         QStringLiteral("frmMealCategories"),
-    QStringLiteral("frmMeals"),        QStringLiteral("frmExercises"),
-    QStringLiteral("frmMealConsumes"), QStringLiteral("frmExercisePerforms"),
-    QStringLiteral("frmMeasurements"), QStringLiteral("frmGeneralProgress")};
+bool isKept(const QString &window)
+{
+    constexpr const char *kept[] = {"frmMain",         "frmMealCategories", "frmMeals",
+                                    "frmExercises",    "frmMealConsumes",   "frmExercisePerforms",
+                                    "frmMeasurements", "frmGeneralProgress"};
+    return std::any_of(std::begin(kept), std::end(kept),
+                       [&](const char *name) { return window == QLatin1String(name); });
+}
 
 /// Without the frame, whose size is not known before a window is shown; what it goes back to where
 /// it fills the screen. In the file it is "120 80 1020 720 maximized".
@@ -80,7 +84,7 @@ bool WindowPlaces::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isShown = event->type() == QEvent::Show;
     if ((!isShown && event->type() != QEvent::Hide) || event->spontaneous() ||
-        !keptWindows.contains(watched->objectName()))
+        !isKept(watched->objectName()))
         return false;
     auto *window = static_cast<QWidget *>(watched);
     Installation installation(m_programFolder);

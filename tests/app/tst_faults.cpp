@@ -22,10 +22,10 @@ void storeNotes(const QString &path)
         rows.reopen({0});
         rows.addNew();
         const int id = NewUserNoteID(data);
-        rows.set("UserNoteID"_L1, id);
-        rows.set("DateFrom"_L1, 46000);
-        rows.set("DateTo"_L1, 46000);
-        rows.set("NoteText"_L1, QString::number(id));
+        rows.set(schema::UserNote::UserNoteID, id);
+        rows.set(schema::UserNote::DateFrom, 46000);
+        rows.set(schema::UserNote::DateTo, 46000);
+        rows.set(schema::UserNote::NoteText, QString::number(id));
         rows.update(); // raises where the other program was given the same number
         std::printf("%d\n", id);
         std::fflush(stdout);

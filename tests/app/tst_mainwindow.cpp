@@ -1,7 +1,7 @@
 // The main window: its menus, the way through the days, and its layout.
-#include "../journal/dayjournal.h"
 #include "app/dayviewlayout.h"
 #include "app/frmMain.h"
+#include "dayjournal.h"
 
 #include <QAccessible>
 #include <QDateEdit>
@@ -9,7 +9,37 @@
 #include <QMenuBar>
 #include <QPrinterInfo>
 
+#include <sqlite3.h>
+
 using namespace Qt::Literals;
+
+namespace {
+
+// How often the day's activities have been read since it was made: by the chart each time that it
+// is redrawn, and by their list.
+class Redraws
+{
+public:
+    explicit Redraws(DayJournal &journal)
+        : m_handle(journal.data->Con.database().getHandle())
+    {
+        const auto trace = [](unsigned, void *self, void *, void *sql) {
+            if (QByteArrayView(static_cast<const char *>(sql)) ==
+                commands::ExercisePerformSorted.sql)
+                ++static_cast<Redraws *>(self)->m_count;
+            return 0;
+        };
+        sqlite3_trace_v2(m_handle, SQLITE_TRACE_STMT, trace, this);
+    }
+    ~Redraws() { sqlite3_trace_v2(m_handle, 0, nullptr, nullptr); }
+    int count() const { return m_count; }
+
+private:
+    sqlite3 *m_handle;
+    int m_count = 0;
+};
+
+} // namespace
 
 class tst_mainwindow : public QObject
 {
@@ -19,7 +49,8 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void accessKeysAreUnique();
-    void rebuildsAfterDialogs();
+    void followsOtherPrograms();
+    void redrawsOncePerChange();
     void deletesTrialDataAfterAYes();
     void failedPrintingIsSaid();
     void keepsTheDayThatCantBeLeft();
@@ -72,30 +103,115 @@ void tst_mainwindow::accessKeysAreUnique()
     }
 }
 
-// The chart is built anew even for a date that was not changed, but not for parameters that were
-// not stored.
-void tst_mainwindow::rebuildsAfterDialogs()
+// What another program stored is seen once the user is back, from a dialog that was cancelled, too.
+void tst_mainwindow::followsOtherPrograms()
 {
-    m_journal->exec("update MealConsume set Qty = 5");
-    const auto closed = [&](const char *dialog, const char *menuEntry, const char *button) {
+    Connection other(m_journal->path());
+    const auto afterCancelledDate = [&] {
         inDialog(
-            dialog, [&] { entry(menuEntry).trigger(); },
-            [&](QWidget &window) {
-                if (auto *picker = window.findChild<QDateEdit *>(u"dtpDate"_qs)) {
-                    QCOMPARE(picker->date(), QDate(2026, 7, 22));
-                    picker->setDate(QDate(2026, 7, 23));
-                }
-                press(window, button);
-            });
+            "frmDate", [&] { entry("mnuSetDate").trigger(); },
+            [&](QWidget &window) { press(window, "btnCancel"); });
+        activate(*m_window);
         return shown();
     };
-    QCOMPARE(closed("frmCommon", "mnuCommon", "btnCancel"), "22 Jul 2026: 300");
-    QCOMPARE(closed("frmCommon", "mnuCommon", "btnOK"), "22 Jul 2026: 1500");
-    m_journal->exec("update MealConsume set Qty = 6");
-    QCOMPARE(closed("frmDate", "mnuSetDate", "btnCancel"), "22 Jul 2026: 1800");
-    QCOMPARE(closed("frmDate", "mnuSetDate", "btnOK"), "23 Jul 2026: 1800");
-    press(*m_window, "btnNext");
-    QCOMPARE(shown(), "24 Jul 2026: 0");
+    other.exec("update MealConsume set Qty = 5");
+    QCOMPARE(afterCancelledDate(), "22 Jul 2026: 1500");
+    const Redraws redraws(*m_journal);
+    QCOMPARE(afterCancelledDate(), "22 Jul 2026: 1500");
+    QCOMPARE(redraws.count(), 0);
+}
+
+// Once for each change, and not at all for one that the chart doesn't show.
+void tst_mainwindow::redrawsOncePerChange()
+{
+    activate(*m_window);
+    m_journal->exec("update Common set NextMealConsumeID = 100;"
+                    "insert into Body values (5, 46225, 80, 100, 90, 95, 'M')");
+    const auto inWindow = [&](const char *menuEntry, const char *dialog, const auto &steps) {
+        inDialog(
+            dialog, [&] { entry(menuEntry).trigger(); }, steps);
+    };
+    const auto ok = [](QWidget &window) { press(window, "btnOK"); };
+    const auto named = [&](QWidget &window) {
+        type(window, "txtName", "Typed");
+        ok(window);
+    };
+    const auto inEditor = [&](const char *button, const char *editor, const auto &steps) {
+        return [=](QWidget &list) {
+            selectRow(list, 0);
+            press(list, button, editor, steps);
+        };
+    };
+    const auto newMeal = [&](QWidget &window) {
+        choose(window, "dcbMealCategory", "Fruit");
+        for (const char *box :
+             {"txtUnit", "txtFat", "txtCarboHydrate", "txtProtein", "txtCalories"})
+            type(window, box, "1");
+        named(window);
+    };
+    const auto eaten = [&](QWidget &window) {
+        choose(window, "dcbMealCategory", "Fruit");
+        ok(window);
+    };
+    const std::tuple<const char *, int, std::function<void()>> changes[] = {
+        {"two meals added", 2,
+         [&] {
+             inWindow("mnuAddMeal", "frmMealConsume", [&](QWidget &window) {
+                 eaten(window);
+                 QCOMPARE(shown(), "22 Jul 2026: 345"); // behind the window, at once
+                 eaten(window);
+             });
+         }},
+        {"a meal of the day changed", 1,
+         [&] {
+             inWindow("mnuMealConsume", "frmMealConsumes",
+                      inEditor("btnEdit", "frmMealConsume", ok));
+         }},
+        {"a meal of the day deleted", 1,
+         [&] {
+             inWindow("mnuMealConsume", "frmMealConsumes", [&](QWidget &list) {
+                 m_journal->messages.answers = {true};
+                 selectRow(list, 0);
+                 press(list, "btnDelete");
+             });
+         }},
+        {"a list looked at", 0,
+         [&] { inWindow("mnuMealConsume", "frmMealConsumes", [](QWidget &) {}); }},
+        {"a measurement", 0,
+         [&] {
+             m_journal->messages.answers = {true};
+             inWindow("mnuAddMeasurement", "frmBody", [&](QWidget &window) {
+                 for (const char *box : {"txtWeight", "txtBreast", "txtWaist", "txtHips"})
+                     type(window, box, "70");
+                 ok(window);
+             });
+         }},
+        {"a new category", 0,
+         [&] {
+             inWindow("mnuMealCategories", "frmMealCategories",
+                      inEditor("btnNew", "frmMealCategory", named));
+         }},
+        {"a new meal of the catalogue", 0,
+         [&] { inWindow("mnuMeal", "frmMeals", inEditor("btnNew", "frmMeal", newMeal)); }},
+        {"a meal of the catalogue changed", 1,
+         [&] { inWindow("mnuMeal", "frmMeals", inEditor("btnEdit", "frmMeal", ok)); }},
+        {"parameters", 1, [&] { inWindow("mnuCommon", "frmCommon", ok); }},
+        {"parameters not stored", 0,
+         [&] {
+             inWindow("mnuCommon", "frmCommon",
+                      [](QWidget &window) { press(window, "btnCancel"); });
+         }},
+        {"another day", 1, [&] { press(*m_window, "btnNext"); }},
+        {"the trial data deleted", 1, [&] {
+             m_journal->messages.answers = {true};
+             entry("mnuDeleteTrialData").trigger();
+         }}};
+    for (const auto &[change, count, make] : changes) {
+        const Redraws redraws(*m_journal);
+        make();
+        activate(*m_window);
+        QVERIFY2(redraws.count() == count, change);
+    }
 }
 
 void tst_mainwindow::deletesTrialDataAfterAYes()

@@ -1,10 +1,10 @@
 // Rows that no window of this program wrote, and damaged pages: each harms itself alone. What
 // another program changes and deletes meanwhile is noticed.
-#include "../journal/dayjournal.h"
 #include "app/frmMain.h"
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
+#include "dayjournal.h"
 #include "journal/frmBody.h"
 #include "journal/frmExercisePerform.h"
 #include "journal/frmExercisePerforms.h"

@@ -1,8 +1,8 @@
 // The whole program, from its start to the row in the file and the item on the chart.
-#include "../journal/dayjournal.h"
 #include "app/frmMain.h"
 #include "app/startup.h"
 #include "chart/TrellumGraph.h"
+#include "dayjournal.h"
 #include "session/installation.h"
 #include "ui/datacombo.h"
 
@@ -12,7 +12,7 @@
 
 using namespace Qt::Literals;
 
-class tst_RecordADay : public QObject
+class tst_recordaday : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     std::unique_ptr<StartUp> program;
 };
 
-void tst_RecordADay::init()
+void tst_recordaday::init()
 {
     program.reset();
     journal = std::make_unique<DayJournal>();
@@ -57,7 +57,7 @@ void tst_RecordADay::init()
     QCOMPARE(onChart(u"Meal at"_qs), QStringList());
 }
 
-void tst_RecordADay::addsMeals()
+void tst_recordaday::addsMeals()
 {
     inDialog(
         "frmMealConsume", [&] { choose("mnuAddMeal"); },
@@ -85,7 +85,7 @@ void tst_RecordADay::addsMeals()
     QCOMPARE(program->session()->currentTime(), QTime(19, 15));
 }
 
-void tst_RecordADay::addsActivity()
+void tst_recordaday::addsActivity()
 {
     inDialog(
         "frmExercisePerform", [&] { choose("mnuAddExercise"); },
@@ -103,7 +103,7 @@ void tst_RecordADay::addsActivity()
     QVERIFY(onChart(u"Activity"_qs).value(0).contains(u"105 kcal"_qs));
 }
 
-void tst_RecordADay::answersTheChart()
+void tst_recordaday::answersTheChart()
 {
     using Time = const QTime &;
     const struct
@@ -117,10 +117,10 @@ void tst_RecordADay::answersTheChart()
         {[&](Time t) { Q_EMIT graph().freeActivityPlaceChosen(t); }, "frmExercisePerform"},
     };
     QTime time(14, 30);
-    for (const auto &[choose, window] : answers) {
+    for (const auto &answer : answers) {
         time = time.addSecs(60);
         inDialog(
-            window, [&] { choose(time); },
+            answer.window, [&] { answer.choose(time); },
             [&](QWidget &dialog) {
                 for (const QTimeEdit *picker : dialog.findChildren<QTimeEdit *>())
                     QCOMPARE(picker->time(), time);
@@ -135,7 +135,7 @@ void tst_RecordADay::answersTheChart()
     QCOMPARE(program->session()->currentTime(), time); // a caption has none to offer
 }
 
-void tst_RecordADay::editsFromTheChart()
+void tst_recordaday::editsFromTheChart()
 {
     journal->exec("insert into MealConsume values (7, 2, 46225, 0.5, 1);"
                   "insert into ExercisePerform values (7, 1, 46225, 0.25, 0.5, 2)");
@@ -156,5 +156,5 @@ void tst_RecordADay::editsFromTheChart()
     QCOMPARE(journal->activities(), QStringList{u"7|1|46225|360|720|3"_qs});
 }
 
-QTEST_MAIN(tst_RecordADay)
+QTEST_MAIN(tst_recordaday)
 #include "tst_recordaday.moc"

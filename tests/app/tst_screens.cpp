@@ -1,7 +1,7 @@
 // Every window on the screen that it opens on: run once more for each of several screens.
-#include "../journal/dayjournal.h"
 #include "app/frmMain.h"
 #include "catalogue/frmMeal.h"
+#include "dayjournal.h"
 #include "help/helpviewer.h"
 #include "progress/frmGeneralProgress.h"
 #include "session/installation.h"
@@ -98,6 +98,7 @@ void tst_screens::everythingIsWithinReach()
 {
     verifyWithinReach(*mainWindow);
     for (const QString path :
+         // NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
          {"mnuMealConsume frmMealConsumes btnEdit frmMealConsume btnNewMeal frmMeal btnNewCategory "
           "frmMealCategory",
           "mnuAddMeal frmMealConsume",

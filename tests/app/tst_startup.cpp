@@ -27,7 +27,10 @@ struct TestProgram
         const QLocale british(QLocale::English, QLocale::UnitedKingdom);
         return std::make_unique<StartUp>(StartUpSettings{folder.path(), clock, british, messages});
     }
-    bool isFirstStartDone() const { return Installation(folder.path()).isFirstStartDone(); }
+    bool isFirstStartDone() const
+    {
+        return Installation(folder.path()).firstStart() == Installation::FirstStart::Done;
+    }
 
     QTemporaryDir folder;
     QString database = folder.filePath(u"Corvana.mdb"_qs);

@@ -1,5 +1,5 @@
 // Describing an activity, and the weight adjustment calculator behind "For Me".
-#include "../journal/dayjournal.h"
+#include "dayjournal.h"
 
 #include "catalogue/frmExercise.h"
 #include "catalogue/frmWeightAdjustment.h"
@@ -100,7 +100,7 @@ void tst_activities::changedCaloriesAloneChangeTheBase()
 {
     // A base that does not follow from these calories and this user's weight.
     journal->exec("insert into Exercise values (1, 'Rowing', 'hour', 2, 299.999947, 123, 1)");
-    journal->edit<frmExercise>(1, [this](QWidget &window) {
+    journal->edit<frmExercise>(1, [](QWidget &window) {
         QCOMPARE(textOf(window, "txtCaloriesConsume"), "299,9999");
         type(window, "txtDefaultQty", "");
         press(window, "btnOK");

@@ -1,5 +1,5 @@
 // The lists of the catalogues: what they show, what is selected after every action.
-#include "../journal/dayjournal.h"
+#include "dayjournal.h"
 
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMealCategories.h"

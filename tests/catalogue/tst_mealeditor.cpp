@@ -1,5 +1,5 @@
 // Describing a meal: the split while typing and the order of the checks.
-#include "../journal/dayjournal.h"
+#include "dayjournal.h"
 
 #include "catalogue/frmMeal.h"
 

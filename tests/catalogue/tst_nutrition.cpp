@@ -36,10 +36,11 @@ void tst_nutrition::splits()
             in << Currency::fromText(text).value();
         QString result;
         try {
-            const auto split = caloriesByNutrient(in[3], in[0], in[1], in[2]);
-            result = split ? split->fat.toText() + ' ' + split->carbohydrate.toText() + ' ' +
-                                 split->protein.toText()
-                           : "none";
+            const auto split = caloriesByNutrient(in[3], {in[0], in[1], in[2]});
+            QStringList texts;
+            for (const Currency part : split.value_or(Nutrients<Currency>()))
+                texts << part.toText();
+            result = split ? texts.join(' ') : "none";
         } catch (const OverflowError &) {
             result = "overflow";
         }

@@ -10,9 +10,9 @@ namespace samples {
 inline daychart::DayData typicalDay()
 {
     return {1.25,
-            {{11, QTime(7, 30), 260, 110, 60},
-             {12, QTime(12, 45), 340, 260, 180},
-             {13, QTime(19, 15), 310, 270, 170}},
+            {{11, QTime(7, 30), {110, 260, 60}},
+             {12, QTime(12, 45), {260, 340, 180}},
+             {13, QTime(19, 15), {270, 310, 170}}},
             {{21, QTime(8, 0), QTime(8, 30), 120}, {22, QTime(17, 30), QTime(18, 30), 480}}};
 }
 
@@ -31,8 +31,9 @@ inline daychart::DayData anyDay(quint32 seed)
     const int span = std::array{1440 - first, 60, 1}[seed % 3];
     daychart::DayData day = {random.bounded(2.0), {}, {}};
     for (int id = random.bounded(26); id > 0; --id)
-        day.add(daychart::MealItem{id, timeOf(first + random.bounded(span)), calories(300),
-                                   calories(200), calories(100)});
+        day.add(daychart::MealItem{id,
+                                   timeOf(first + random.bounded(span)),
+                                   {calories(300), calories(200), calories(100)}});
     for (int id = random.bounded(16); id > 0; --id) {
         const int begin = first + random.bounded(span);
         day.add(daychart::ActivityItem{id, timeOf(begin), timeOf(begin + random.bounded(90)),

@@ -1,6 +1,7 @@
 // The balance of a day, where things stand on the daily chart, and that what is seen is what is
 // hit.
 #include "chart/charttexts.h"
+#include "chart/daylayout.h"
 #include "chart/hittest.h"
 #include "samples.h"
 
@@ -12,25 +13,25 @@ using Kind = Target::Kind;
 namespace {
 
 /// In text 16 high of which every character is 8 wide, more in larger roles.
-ChartGeometry geometryOf(const DayData &day, const QRectF &area = {0, 0, 600, 400},
-                         bool clock24 = true, double scale = 1)
+DayGeometry geometryOf(const DayData &day, const QRectF &area = {0, 0, 600, 400},
+                       bool clock24 = true, double scale = 1)
 {
     const auto width = [scale](const QString &text, TextRole role) {
         return scale * (role == TextRole::Figure ? 11 : 8) * double(text.size());
     };
-    return chartGeometry(day, area, {16 * scale, 22 * scale, width},
-                         ChartTexts(QLocale::c(), clock24));
+    return dayGeometry(day, area, {16 * scale, 22 * scale, width},
+                       ChartTexts(QLocale::c(), clock24));
 }
 
 DayData dayWithOutliers()
 {
     DayData day = samples::typicalDay();
-    day.meals.push_back({14, QTime(20, 0), 15000, 10000, 5000});
+    day.meals.push_back({14, QTime(20, 0), {10000, 15000, 5000}});
     day.activities.push_back({23, QTime(21, 0), QTime(21, 1), 30000});
     return day;
 }
 
-std::vector<QRectF> textRects(const ChartGeometry &g)
+std::vector<QRectF> textRects(const DayGeometry &g)
 {
     std::vector<QRectF> rects = {g.balanceEnd.rect};
     for (const auto &texts : {g.texts, g.hints}) {
@@ -61,7 +62,7 @@ bool fit(const std::vector<QRectF> &rects, const QRectF &area)
 
 } // namespace
 
-class TestChartGeometry : public QObject
+class tst_chartgeometry : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +85,7 @@ private slots:
         const ActivityItem backwards = {1, QTime(23, 59, 30), QTime(1, 0), most};
         QCOMPARE(backwards.beginMinute(), 1439.0);
         QCOMPARE(backwards.endMinute(), 1440.0);
-        const DayData day = {0, {{1, QTime(12, 0), most, most, most}}, {atOnce, backwards}};
+        const DayData day = {0, {{1, QTime(12, 0), {most, most, most}}}, {atOnce, backwards}};
         QCOMPARE(dayFigures(day).balance(), qint64(most));
     }
     void everythingFitsAndIsHit_data()
@@ -102,8 +103,8 @@ private slots:
         QVERIFY(curve.front().minute == 0 && curve.back().minute == 1440);
         QVERIFY(std::abs(curve.back().calories - double(dayFigures(day).balance())) <= 0.5);
         const QRectF small(30, 20, 600, 400), large(30, 20, 3840, 2160);
-        for (const ChartGeometry &g : {geometryOf(day, small), geometryOf(day, large, true, 2.5),
-                                       geometryOf(day, {0, 0, 1000, 650}, false)}) {
+        for (const DayGeometry &g : {geometryOf(day, small), geometryOf(day, large, true, 2.5),
+                                     geometryOf(day, {0, 0, 1000, 650}, false)}) {
             QVERIFY(fit(textRects(g), g.area));
             QCOMPARE(g.columns.size(), day.meals.size());
             QCOMPARE(g.blocks.size(), day.activities.size());
@@ -138,16 +139,18 @@ private slots:
     void itemsStandToScaleAtTheirTimes()
     {
         DayData day = samples::typicalDay();
-        day.meals.insert(day.meals.end(), {{14, QTime(12, 45), 100, 0, 0},
-                                           {15, QTime(2, 0), 0, 0, 0},
-                                           {16, QTime(4, 30), -100, -40, -30},
-                                           {17, QTime(22, 0), 100, -60, 30}});
+        day.meals.insert(day.meals.end(), {{14, QTime(12, 45), {0, 100, 0}},
+                                           {15, QTime(2, 0), {}},
+                                           {16, QTime(4, 30), {-40, -100, -30}},
+                                           {17, QTime(22, 0), {-60, 100, 30}}});
         day.activities.push_back({23, QTime(15, 0), QTime(16, 0), -120});
-        const ChartGeometry g = geometryOf(day);
+        const DayGeometry g = geometryOf(day);
         const double zero = g.meals.scale.zeroY;
         const auto &parts = g.columns[1].parts;
         double bottom = zero;
-        for (const auto &[part, calories] : {std::pair(0U, 340), {1U, 260}, {2U, 180}}) {
+        for (const auto &[part, calories] : {std::pair(Nutrient::Carbohydrate, 340),
+                                             {Nutrient::Fat, 260},
+                                             {Nutrient::Protein, 180}}) {
             QCOMPARE(parts[part].bottom(), bottom);
             QCOMPARE(parts[part].height(), calories * g.columns[0].rect.height() / 430);
             bottom = parts[part].top();
@@ -160,16 +163,17 @@ private slots:
         QCOMPARE(g.columns[4].rect.bottom(), zero); // no calories: a stub
         QCOMPARE(g.columns[5].rect.top(), zero);
         // A meal of both signs stands on both sides of zero.
-        QCOMPARE(g.columns[6].parts[0].bottom(), zero);
-        QCOMPARE(g.columns[6].parts[1].top(), zero);
-        QCOMPARE(g.columns[6].parts[2].bottom(), g.columns[6].parts[0].top());
+        QCOMPARE(g.columns[6].parts[Nutrient::Carbohydrate].bottom(), zero);
+        QCOMPARE(g.columns[6].parts[Nutrient::Fat].top(), zero);
+        QCOMPARE(g.columns[6].parts[Nutrient::Protein].bottom(),
+                 g.columns[6].parts[Nutrient::Carbohydrate].top());
         // Below zero calories per minute is what a negative activity takes from the background.
         QCOMPARE(g.blocks[2].bounds.top(), g.activities.scale.y(1.25));
         QVERIFY(g.blocks[2].bounds.bottom() > g.activities.scale.zeroY && g.blocks[2].negative);
     }
     void outlierLeavesOthersVisible()
     {
-        const ChartGeometry g = geometryOf(dayWithOutliers());
+        const DayGeometry g = geometryOf(dayWithOutliers());
         QVERIFY(g.columns[3].cut && g.blocks[2].cut && !g.columns[1].cut && !g.blocks[1].cut);
         QVERIFY(g.columns[1].rect.height() > g.meals.area.height() / 3);
         QVERIFY(g.blocks[1].bounds.height() > g.activities.area.height() / 3);
@@ -179,7 +183,7 @@ private slots:
     }
     void activitiesStackWhereTheyOverlap()
     {
-        const ChartGeometry g = geometryOf(
+        const DayGeometry g = geometryOf(
             {1, {}, {{1, QTime(9, 0), QTime(11, 0), 240}, {2, QTime(10, 0), QTime(12, 0), 480}}});
         const auto box = [&](int begin, int end, double low, double high) {
             const ValueScale &scale = g.activities.scale;
@@ -192,5 +196,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestChartGeometry)
+QTEST_APPLESS_MAIN(tst_chartgeometry)
 #include "tst_chartgeometry.moc"

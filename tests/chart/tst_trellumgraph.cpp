@@ -1,5 +1,6 @@
 // The daily chart under mouse, keyboard and assistive technology.
 #include "chart/TrellumGraph.h"
+#include "chart/daylayout.h"
 #include "chart/hittest.h"
 #include "guitest.h"
 #include "samples.h"
@@ -12,7 +13,7 @@
 using namespace daychart;
 using namespace Qt::Literals;
 
-class TestTrellumGraph : public QObject
+class tst_trellumgraph : public QObject
 {
     Q_OBJECT
 
@@ -25,25 +26,24 @@ class TestTrellumGraph : public QObject
     {
         m_graph->clear();
         m_graph->setBackgroundRate(day.backgroundRate);
-        day.forEachMeal([this](const MealItem &m) {
-            m_graph->addMeal(m.id, m.time, m.carbohydrate, m.fat, m.protein);
-        });
+        day.forEachMeal(
+            [this](const MealItem &m) { m_graph->addMeal(m.id, m.time, m.byNutrient); });
         day.forEachActivity([this](const ActivityItem &a) {
             m_graph->addActivity(a.id, a.begin, a.end, a.calories);
         });
         m_graph->repaintChart();
     }
     /// The geometry that the control must have for a day, computed anew.
-    ChartGeometry geometry(const DayData &day = samples::typicalDay()) const
+    DayGeometry geometry(const DayData &day = samples::typicalDay()) const
     {
-        const ChartFonts fonts(m_graph->font(), m_graph->logicalDpiY(), m_graph.get());
-        return chartGeometry(day, m_graph->rect(), metricsOf(fonts, m_graph.get()),
-                             ChartTexts(QLocale::c(), true));
+        const plot::Fonts fonts(m_graph->font(), m_graph->logicalDpiY(), m_graph.get());
+        return dayGeometry(day, m_graph->rect(), plot::metricsOf(fonts, m_graph.get()),
+                           ChartTexts(QLocale::c(), true));
     }
     QPoint columnOf(size_t item) const { return geometry().columns[item].rect.center().toPoint(); }
     QPoint place(Lane lane, int minute) const
     {
-        const ChartGeometry g = geometry();
+        const DayGeometry g = geometry();
         const QRectF &area = lane == Lane::Meals ? g.meals.area : g.band;
         return {qRound(g.time.x(minute)), qRound(area.center().y())};
     }
@@ -84,7 +84,7 @@ private slots:
 
     void clicks()
     {
-        const ChartGeometry g = geometry();
+        const DayGeometry g = geometry();
         const std::vector<std::pair<QPoint, QString>> clicks = {
             {g.meals.header.center().toPoint(), u"meal 0 0"_s}, // a caption has no time
             {columnOf(2), u"meal 13 1 19:15"_s},
@@ -170,10 +170,10 @@ private slots:
     }
     void nothingHidesTheBalance()
     {
-        const DayData day = {0.1, {{11, QTime(12, 0), 300, 100, 100}}}; // its label at the peak
+        const DayData day = {0.1, {{11, QTime(12, 0), {100, 300, 100}}}}; // its label at the peak
         fill(day);
         const QImage image = m_graph->grab().toImage();
-        const QColor line = ChartColors::of(m_graph->palette()).balance;
+        const QColor line = DayColors(m_graph->palette()).balance;
         for (const QPointF corner : geometry(day).balance) {
             bool isSeen = false;
             for (int i = 0; i < 25; ++i)
@@ -185,7 +185,7 @@ private slots:
     {
         DayData day = {1, {}, {}};
         for (int i = 0; i < 20000; ++i) // without a bound, minutes
-            day.add(MealItem{i, timeOf(i % 1440), 1, 2, 3});
+            day.add(MealItem{i, timeOf(i % 1440), {2, 1, 3}});
         for (int i = 0; i < 501; ++i)
             day.add(ActivityItem{i, timeOf(i), timeOf(i + i % 40), 2});
         fill(day);
@@ -230,5 +230,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestTrellumGraph)
+QTEST_MAIN(tst_trellumgraph)
 #include "tst_trellumgraph.moc"

@@ -14,7 +14,8 @@ QDate july(int day)
 }
 
 /// The values of a column, in the rows' order.
-QString selected(Recordset &rows, QLatin1StringView column, std::initializer_list<Value> parameters)
+QString selected(Recordset &rows, const schema::Column &column,
+                 std::initializer_list<Value> parameters)
 {
     QStringList found;
     for (rows.reopen(parameters); !rows.isEof(); rows.moveNext())
@@ -56,10 +57,13 @@ private slots:
     void figuresOfADay()
     {
         // Half to even: 24.5.
-        QCOMPARE(selected(data().rsExercisePerformSorted, "sCalories"_L1, {july(22)}), u"50 24"_qs);
+        QCOMPARE(selected(data().rsExercisePerformSorted, commands::sCalories, {july(22)}),
+                 u"50 24"_qs);
         // A consumption whose meal is missing, as a damaged journal may have it, is not shown.
         m_journal->exec("PRAGMA foreign_keys = OFF; delete from Meal where MealID = 1");
-        QCOMPARE(selected(data().rsMealConsumeSorted, "MealConsumeID"_L1, {july(22)}), u"1"_qs);
+        QCOMPARE(
+            selected(data().rsMealConsumeSorted, schema::MealConsume::MealConsumeID, {july(22)}),
+            u"1"_qs);
     }
 
     // The list and the chart show what the editor showed, for whatever was typed.
@@ -67,33 +71,35 @@ private slots:
     {
         Recordset &meals = data().rsMealConsumeSorted;
         WriteTransaction transaction(data().Con);
-        for (int i = 0; i < 3000; ++i) {
+        for (qint64 i = 0; i < 3000; ++i) {
             // Steps of a quarter and of a half meet exact halves often.
             const auto exact = Currency::fromTenThousandths;
             const Currency quantity = exact(2500 * (i % 41));
-            const Currency parts[] = {exact(5000 * (i % 97)), exact(777 * i),
-                                      exact(-12345 * (i % 89))};
-            m_journal->exec(
-                u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3;"
-                " update MealConsume set Qty = %4"_qs
-                    .arg(parts[0].toText(), parts[1].toText(), parts[2].toText(), quantity.toText())
-                    .toLatin1());
-            const ConsumptionFigures figures = consumptionFigures(
-                quantity, parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble());
+            const Nutrients<Currency> parts{exact(5000 * (i % 97)), exact(777 * i),
+                                            exact(-12345 * (i % 89))};
+            m_journal->exec(u"update Meal set FatBC = %1, CarbohydrateBC = %2, ProteinBC = %3;"
+                            " update MealConsume set Qty = %4"_qs
+                                .arg(parts[Nutrient::Fat].toText(),
+                                     parts[Nutrient::Carbohydrate].toText(),
+                                     parts[Nutrient::Protein].toText(), quantity.toText())
+                                .toLatin1());
+            const auto figures = consumptionFigures(
+                quantity, parts.map([](Currency part) { return part.toDouble(); }));
             meals.reopen({july(23)});
-            QCOMPARE(meals.integer("sFat"_L1), figures.fat);
-            QCOMPARE(meals.integer("sCalories"_L1), figures.total());
+            QCOMPARE(meals.integer(commands::sFat), figures[Nutrient::Fat]);
+            QCOMPARE(meals.integer(commands::sCalories), figures.sum());
         }
     }
 
     void selectsByDate()
     {
         // The ends count, and the body itself does not stand in its own way.
-        QCOMPARE(selected(data().rsGPBody, "BodyID"_L1, {july(17), july(22)}), u"-1 1 2"_qs);
-        QCOMPARE(selected(data().rsBodyCheck, "BodyID"_L1, {july(22), 1}), u"2"_qs);
+        QCOMPARE(selected(data().rsGPBody, schema::Body::BodyID, {july(17), july(22)}),
+                 u"-1 1 2"_qs);
+        QCOMPARE(selected(data().rsBodyCheck, schema::Body::BodyID, {july(22), 1}), u"2"_qs);
 
         const auto notes = [&](Recordset &rows, std::initializer_list<Value> parameters) {
-            return selected(rows, "UserNoteID"_L1, parameters);
+            return selected(rows, schema::UserNote::UserNoteID, parameters);
         };
         // The note 1 goes from the 17th to the 22nd.
         const std::tuple<int, int, const char16_t *> periods[] = {
@@ -114,7 +120,7 @@ private slots:
              {std::pair(46221, u"1 2 3"_qs), {9999, u"-1 1 2 3"_qs}, {100000, QString()}}) {
             for (const Value &from :
                  {Value(dateOfDayNumber(day)), Value(double(day)), Value(QString::number(day))})
-                QCOMPARE(selected(data().rsBodySorted, "BodyID"_L1, {from}), expected);
+                QCOMPARE(selected(data().rsBodySorted, schema::Body::BodyID, {from}), expected);
         }
     }
 
@@ -123,7 +129,7 @@ private slots:
         // The meals' own calories, not the sum of the three nutrients, and nothing is rounded:
         // 20 July -200; 21 July 180; 22 July 250 + 135 - 24.5 - 50. Equal rows count each.
         m_journal->exec("insert into MealConsume values (4, 3, 46226, 0.25, 2)");
-        QCOMPARE(selected(data().rsGPCalories, "calories"_L1, {july(20), july(23)}),
+        QCOMPARE(selected(data().rsGPCalories, commands::calories, {july(20), july(23)}),
                  u"-200 180 310.5 208"_qs);
     }
 

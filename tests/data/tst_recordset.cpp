@@ -8,6 +8,11 @@
 
 using namespace Qt::Literals;
 
+// A column is one of the catalogue's: a misspelt name does not compile.
+static_assert(!std::is_invocable_v<decltype(&Recordset::value), Recordset, const char *> &&
+              !std::is_invocable_v<decltype(&Recordset::value), Recordset, QLatin1StringView> &&
+              !std::is_invocable_v<decltype(&Recordset::value), Recordset, QString>);
+
 namespace {
 
 // What the store refused, in one word.
@@ -42,7 +47,7 @@ private slots:
     {
         Recordset &meal = data().rsMeal;
         meal.open({1});
-        meal.set("Calories"_L1, Value(260));
+        meal.set(schema::Meal::Calories, Value(260));
         m_journal->exec("update Meal set Unit = 'half' where MealID = 1");
         meal.update();
         meal.update(); // nothing set: nothing written
@@ -52,20 +57,20 @@ private slots:
     void tellsRefusalsApart()
     {
         categories().open({2});
-        categories().set("Name"_L1, Value());
+        categories().set(schema::MealCategory::Name, Value());
         QCOMPARE(refusalOf([&] { categories().update(); }), StoreError::Kind::Other);
 
         categories().reopen({1});
         QCOMPARE(refusalOf([&] { categories().remove(); }), StoreError::Kind::ReferenceRefused);
         Recordset &meal = data().rsMeal;
         meal.open({1});
-        meal.set("MealCategoryID"_L1, Value(9));
+        meal.set(schema::Meal::MealCategoryID, Value(9));
         QCOMPARE(refusalOf([&] { meal.update(); }), StoreError::Kind::ReferenceRefused);
         meal.cancelUpdate();
 
         // Once what refers to it is gone, the category can go.
         meal.remove();
-        categories().set("Name"_L1, Value(u"Rolls"_qs));
+        categories().set(schema::MealCategory::Name, Value(u"Rolls"_qs));
         m_journal->exec("delete from MealCategory where MealCategoryID = 1");
         QCOMPARE(refusalOf([&] { categories().update(); }), StoreError::Kind::Gone);
         QCOMPARE(m_journal->row("select Name from MealCategory"), u"Fruit"_qs);
@@ -125,7 +130,7 @@ private:
     {
         categories().reopen({0});
         categories().addNew();
-        categories().set("Name"_L1, Value(name));
+        categories().set(schema::MealCategory::Name, Value(name));
         categories().update();
     }
 

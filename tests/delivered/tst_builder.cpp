@@ -25,6 +25,7 @@ class tst_builder : public QObject
 private slots:
     void init();
     void refusesBrokenSources();
+    void refusesAnotherSchema();
     void computesWhatTheProgramWould();
 
 private:
@@ -96,6 +97,35 @@ void tst_builder::refusesBrokenSources()
             said = QString::fromUtf8(error.what());
         }
         QVERIFY2(said.startsWith(path(file) + message), qPrintable(row + said));
+    }
+}
+
+void tst_builder::refusesAnotherSchema()
+{
+    const std::tuple<QString, QString, QString> defects[] = {
+        {u"    Protein REAL NOT NULL,\n"_s, u""_s,
+         u"Meal: there is FatBC REAL not null where the program expects Protein REAL not null"_s},
+        {u"Waist REAL"_s, u"Waist TEXT"_s,
+         u"Body: there is Waist TEXT not null where the program expects Waist REAL not null"_s},
+        {u"Increment REAL,"_s, u"Increment REAL NOT NULL,"_s,
+         u"Meal: there is Increment REAL not null where the program expects Increment REAL null"_s},
+        {u"NoteText TEXT NOT NULL"_s, u"NoteText TEXT NOT NULL, Mood TEXT"_s,
+         u"UserNote: there is Mood TEXT null where the program expects nothing"_s},
+        {u"CREATE TABLE Common"_s, u"CREATE TABLE Mood (Name TEXT); CREATE TABLE Common"_s,
+         u"The tables: there is Mood where the program expects Common"_s}};
+    const delivered::Sources sound = delivered::loadSources(m_folder->path());
+    for (const auto &[text, other, message] : defects) {
+        delivered::Sources sources = sound;
+        QVERIFY(sources.schema.contains(text.toUtf8()));
+        sources.schema.replace(text.toUtf8(), other.toUtf8());
+        QString said;
+        try {
+            delivered::writeDatabase(path(u"Corvana.mdb"_s), sources);
+        } catch (const delivered::SourceError &error) {
+            said = QString::fromUtf8(error.what());
+        }
+        QVERIFY2(said.endsWith(message), qPrintable(said));
+        QVERIFY(!QFile::exists(path(u"Corvana.mdb"_s)));
     }
 }
 

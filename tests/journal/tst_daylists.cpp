@@ -7,7 +7,7 @@
 #include <QDateEdit>
 #include <QSignalSpy>
 
-class tst_DayLists : public QObject
+class tst_daylists : public QObject
 {
     Q_OBJECT
 
@@ -30,9 +30,9 @@ private:
     std::unique_ptr<DayJournal> journal;
 };
 
-void tst_DayLists::meals()
+void tst_daylists::meals()
 {
-    const QSignalSpy changed(journal->session.get(), &Session::journalChanged);
+    const QSignalSpy changed(journal->session.get(), &Session::recordsChanged);
     journal->inList<frmMealConsumes>([&](QWidget &window) {
         // The totals add up the rounded figures: 2 and 2 for 2.5 and 2.5.
         QCOMPARE(shown(window), (QStringList{"06:00|Apple|0.25|2|4|1|7", "12:00|Apple|0.25|2|4|1|7",
@@ -59,7 +59,7 @@ void tst_DayLists::meals()
              (QStringList{"1", "3", "4"}));
 }
 
-void tst_DayLists::activities()
+void tst_daylists::activities()
 {
     journal->inList<frmExercisePerforms>([&](QWidget &window) {
         // 17.5 calories are 18 here and 17 in the editor.
@@ -75,7 +75,7 @@ void tst_DayLists::activities()
     QVERIFY(!journal->data->rsExercisePerform.isOpen());
 }
 
-void tst_DayLists::followsTheDate()
+void tst_daylists::followsTheDate()
 {
     const QSignalSpy dayChanged(journal->session.get(), &Session::dayChanged);
     journal->inList<frmMealConsumes>([&](QWidget &window) {
@@ -114,5 +114,5 @@ void tst_DayLists::followsTheDate()
     QCOMPARE(journal->meals().last(), "7|3|46226|750|1");
 }
 
-QTEST_MAIN(tst_DayLists)
+QTEST_MAIN(tst_daylists)
 #include "tst_daylists.moc"

@@ -16,7 +16,7 @@ Currency decimal(const char *text)
 
 } // namespace
 
-class tst_EntryFigures : public QObject
+class tst_entryfigures : public QObject
 {
     Q_OBJECT
 
@@ -26,16 +26,15 @@ private slots:
     void totals();
 };
 
-void tst_EntryFigures::calories()
+void tst_entryfigures::calories()
 {
     // Each part of a meal is rounded half to even before they are added: 2.5, 3.75, 1.25.
-    const ConsumptionFigures quarter = consumptionFigures(decimal("0.25"), 10, 15, 5);
-    QCOMPARE(quarter.fat, 2);
-    QCOMPARE(quarter.carbohydrate, 4);
-    QCOMPARE(quarter.protein, 1);
-    QCOMPARE(quarter.total(), 7);
-    QCOMPARE(consumptionFigures(decimal("-1"), 3.5, 2.5, 1).total(), -7);
-    QVERIFY_THROWS_EXCEPTION(OverflowError, consumptionFigures(decimal("1000000000"), 9, 1, 1));
+    const auto quarter = consumptionFigures(decimal("0.25"), {10.0, 15.0, 5.0});
+    QVERIFY((quarter == Nutrients<qint64>{2, 4, 1}));
+    QCOMPARE(quarter.sum(), 7);
+    QCOMPARE(consumptionFigures(decimal("-1"), {3.5, 2.5, 1.0}).sum(), -7);
+    QVERIFY_THROWS_EXCEPTION(OverflowError,
+                             consumptionFigures(decimal("1000000000"), {9.0, 1.0, 1.0}));
     // Those of an activity are cut off downwards.
     QCOMPARE(performanceFigure(decimal("2.5"), decimal("7")), 17);
     QCOMPARE(performanceFigure(decimal("-2.5"), decimal("7")), -18);
@@ -45,7 +44,7 @@ void tst_EntryFigures::calories()
     QVERIFY_THROWS_EXCEPTION(OverflowError, performanceFigure(decimal("5000000"), decimal("500")));
 }
 
-void tst_EntryFigures::steps()
+void tst_entryfigures::steps()
 {
     QCOMPARE(mealStepUp(decimal("16777216.0001"), decimal("1")), decimal("16777217.0001"));
     // Down loses what single precision can't hold, on the way in and on the way out.
@@ -56,7 +55,7 @@ void tst_EntryFigures::steps()
     QCOMPARE(activityStepDown(33554432.0F), 33554432.0F);
 }
 
-void tst_EntryFigures::totals()
+void tst_entryfigures::totals()
 {
     DayTotals day(2);
     day.addRow({2, 7});
@@ -68,5 +67,5 @@ void tst_EntryFigures::totals()
     QCOMPARE(day.totals().at(1), 6);
 }
 
-QTEST_GUILESS_MAIN(tst_EntryFigures)
+QTEST_GUILESS_MAIN(tst_entryfigures)
 #include "tst_entryfigures.moc"

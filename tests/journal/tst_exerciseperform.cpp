@@ -15,7 +15,7 @@ void typeTimes(QWidget &editor, const QString &begin, const QString &end)
 
 } // namespace
 
-class tst_ExercisePerform : public QObject
+class tst_exerciseperform : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private:
     std::unique_ptr<DayJournal> journal;
 };
 
-void tst_ExercisePerform::checksInOrder()
+void tst_exerciseperform::checksInOrder()
 {
     // Base times factor lies a little beside the four places that it is meant as.
     journal->exec("update Exercise set CaloriesConsume = 3.4999999 where Name = 'Walking'");
@@ -64,5 +64,5 @@ void tst_ExercisePerform::checksInOrder()
     QCOMPARE(journal->session->currentTime(), QTime(23, 0));
 }
 
-QTEST_MAIN(tst_ExercisePerform)
+QTEST_MAIN(tst_exerciseperform)
 #include "tst_exerciseperform.moc"

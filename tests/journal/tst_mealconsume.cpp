@@ -19,7 +19,7 @@ QString entry(QWidget &editor)
 
 } // namespace
 
-class tst_MealConsume : public QObject
+class tst_mealconsume : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     std::unique_ptr<DayJournal> journal;
 };
 
-void tst_MealConsume::choosesAndRecalculates()
+void tst_mealconsume::choosesAndRecalculates()
 {
     journal->edit<frmMealConsume>(0, [](QWidget &editor) {
         choose(editor, "dcbMealCategory", "fruit");
@@ -56,7 +56,7 @@ void tst_MealConsume::choosesAndRecalculates()
     });
 }
 
-void tst_MealConsume::checksInOrder()
+void tst_mealconsume::checksInOrder()
 {
     journal = std::make_unique<DayJournal>(QLocale("de_DE"));
     const auto editor = journal->edit<frmMealConsume>(0, [this](QWidget &window) {
@@ -84,7 +84,7 @@ void tst_MealConsume::checksInOrder()
     QCOMPARE(journal->meals(), QStringList{"2|1|46225|750|-2.5"});
 }
 
-void tst_MealConsume::takesTypedTime_data()
+void tst_mealconsume::takesTypedTime_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("keys");
@@ -105,7 +105,7 @@ void tst_MealConsume::takesTypedTime_data()
 
 // With the picker still focused, by Enter and by a click: neither stores a time that is on no
 // screen.
-void tst_MealConsume::takesTypedTime()
+void tst_mealconsume::takesTypedTime()
 {
     QFETCH(QString, locale);
     QFETCH(QString, keys);
@@ -136,7 +136,7 @@ void tst_MealConsume::takesTypedTime()
     }
 }
 
-void tst_MealConsume::createsMeal()
+void tst_mealconsume::createsMeal()
 {
     journal->edit<frmMealConsume>(0, [](QWidget &editor) {
         choose(editor, "dcbMealCategory", "Vacant");
@@ -157,5 +157,5 @@ void tst_MealConsume::createsMeal()
     QCOMPARE(journal->row("select Name, Qty from MealConsume natural join Meal"), "Cheese|2");
 }
 
-QTEST_MAIN(tst_MealConsume)
+QTEST_MAIN(tst_mealconsume)
 #include "tst_mealconsume.moc"

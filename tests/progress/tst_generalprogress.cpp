@@ -1,9 +1,9 @@
 // The progress windows: the questions asked before the chart, the chart's day and notes, and the
 // picture files.
-#include "../journal/dayjournal.h"
-#include "progress/ProgressChart.h"
+#include "dayjournal.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
+#include "progress/progresschart.h"
 #include "progresssamples.h"
 
 #include <QLabel>
@@ -16,7 +16,7 @@ const progress::Period month = {firstDay, firstDay.addDays(30)};
 
 } // namespace
 
-class TestGeneralProgress : public QObject
+class tst_generalprogress : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ private slots:
                            "data (meal/activity) are not present for every day or Body measurement "
                            "is not present for each 3 days period. The Chart will be ripped. Build "
                            "the Chart anyway?")};
-        const auto ask = [&](QList<bool> answers) {
+        const auto ask = [&](const QList<bool> &answers) {
             frmGeneralProgressSettings dialog(*m_journal->session, m_messages);
             dialog.show();
             m_messages = {};
@@ -166,5 +166,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestGeneralProgress)
+QTEST_MAIN(tst_generalprogress)
 #include "tst_generalprogress.moc"

@@ -1,5 +1,5 @@
 // Where things stand on the progress chart.
-#include "progress/progressgeometry.h"
+#include "progress/progresslayout.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -66,7 +66,7 @@ DaySeries anySeries(quint32 seed)
 }
 
 /// In a fixed-width font.
-ChartGeometry geometryOf(const DaySeries &series, QSizeF size = {1000, 640})
+ProgressGeometry geometryOf(const DaySeries &series, QSizeF size = {1000, 640})
 {
     const auto width = [](const QString &text, TextRole role) {
         return double(text.size()) * (role == TextRole::Figure ? 10 : 7);
@@ -77,7 +77,7 @@ ChartGeometry geometryOf(const DaySeries &series, QSizeF size = {1000, 640})
 
 } // namespace
 
-class TestProgressGeometry : public QObject
+class tst_progressgeometry : public QObject
 {
     Q_OBJECT
 
@@ -89,7 +89,7 @@ private slots:
             {{81.7F, 81.7F}, {81, 82}}, {{80, 80}, {79, 81}}, {{100000, 100001}, {100000, 100005}},
         };
         for (const auto &[range, expected] : scales) {
-            const ValueScale scale = scaleOf(range, 6, 0.1, 10, 110);
+            const SteppedScale scale = scaleOf(range, 6, 0.1, 10, 110);
             QCOMPARE(float(scale.low), expected.minimum);
             QCOMPARE(float(scale.high), expected.maximum);
             QCOMPARE(scale.y(scale.low), 110.0);
@@ -106,8 +106,8 @@ private slots:
     {
         QFETCH(DaySeries, series);
         for (const QSizeF size : {QSizeF(416, 352), QSizeF(545, 420), QSizeF(3600, 2000)}) {
-            const ChartGeometry geometry = geometryOf(series, size);
-            for (const Lane *lane : {&geometry.weight, &geometry.girths, &geometry.balance})
+            const ProgressGeometry geometry = geometryOf(series, size);
+            for (const ProgressLane *lane : {&geometry.weight, &geometry.girths, &geometry.balance})
                 QVERIFY(lane->area.height() > 20 && geometry.plot.contains(lane->area));
             QList<QRectF> rects;
             for (const PlacedText &text : geometry.texts)
@@ -133,7 +133,7 @@ private slots:
         for (const int day : {1, 2, 4, 8, 9})
             measure(series, day, 80 - float(day)); // and more than the scale holds on day 3
         series.Approximate();
-        const ChartGeometry geometry = geometryOf(series);
+        const ProgressGeometry geometry = geometryOf(series);
         const SeriesLine &line = geometry.lines.front();
         QVERIFY(line.marks[2].kind == Mark::Kind::AboveScale);
         QCOMPARE(line.marks[2].at.y(), geometry.weight.area.top());
@@ -147,7 +147,7 @@ private slots:
         DaySeries series = seriesOf(10);
         for (const auto &[day, calories] : {std::pair(1, 1000), {2, -500}, {5, 0}, {6, 0}})
             balance(series, day, qint16(calories));
-        const ChartGeometry geometry = geometryOf(series);
+        const ProgressGeometry geometry = geometryOf(series);
         const auto &columns = geometry.columns;
         QCOMPARE(columns[0].rect.bottom(), geometry.balance.scale.y(0));
         QCOMPARE(columns[1].rect.top(), geometry.balance.scale.y(0));
@@ -158,16 +158,16 @@ private slots:
     {
         DaySeries series = seriesWithNotes(60, 27);
         series.notes.back().DateTo = firstDay.addDays(40000); // beyond what a day number can hold
-        const ChartGeometry geometry = geometryOf(series);
+        const ProgressGeometry geometry = geometryOf(series);
         const auto &notes = geometry.notes;
         QCOMPARE(notes[0].firstDay, qint16(1));
         QCOMPARE(notes[0].letter + notes[25].letter + notes[26].letter, QStringLiteral("AZA"));
         QCOMPARE(notes[26].lastDay, qint16(60));
-        const ChartGeometry crowded = geometryOf(seriesWithNotes(184, 40), {545, 420});
+        const ProgressGeometry crowded = geometryOf(seriesWithNotes(184, 40), {545, 420});
         for (const NoteSpan &note : crowded.notes)
             QVERIFY(note.hasRoom);
     }
 };
 
-QTEST_GUILESS_MAIN(TestProgressGeometry)
+QTEST_GUILESS_MAIN(tst_progressgeometry)
 #include "tst_progressgeometry.moc"

@@ -30,7 +30,7 @@ QString sources(const DaySeries &series)
 
 } // namespace
 
-class TestProgressSeries : public QObject
+class tst_progressseries : public QObject
 {
     Q_OBJECT
 
@@ -162,5 +162,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestProgressSeries)
+QTEST_GUILESS_MAIN(tst_progressseries)
 #include "tst_progressseries.moc"

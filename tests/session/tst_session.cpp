@@ -64,34 +64,34 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"Corvana.ini"_qs);
         Installation installation(folder.path());
-        const auto verify = [&](bool done, bool damaged) {
-            QCOMPARE(installation.isFirstStartDone(), done);
-            QCOMPARE(installation.isDamaged(), damaged);
+        using enum Installation::FirstStart;
+        const auto verify = [&](Installation::FirstStart told) {
+            QCOMPARE(installation.firstStart(), told);
             // A value kept beside the mark leaves it as it was taken.
             const QString place = u" 1,2;50%=\r\nü "_qs;
             installation.setValue(u"Windows/frmMain"_qs, place);
             installation.setValue(u"Windows/frmMeals"_qs, u"3"_qs);
             QCOMPARE(installation.value(u"Windows/frmMain"_qs), place);
-            QCOMPARE(installation.isFirstStartDone(), done);
-            QVERIFY(!installation.isDamaged());
+            QCOMPARE(installation.firstStart(), told == Untold ? Done : told);
             QVERIFY(QFile::remove(path));
         };
-        verify(false, false);
+        verify(Pending);
         installation.setFirstStartDone();
-        verify(true, false);
-        const std::pair<QByteArray, bool> contents[] = {{"[General]\nFirstStartDone=true\n", false},
-                                                        {"; old\r\nFirstStartDone=true\r\n", false},
-                                                        {"", true},
-                                                        {"[General]\nFirstStartDone=t", true},
-                                                        {QByteArray(5000, '\xff'), true}};
-        for (const auto &[bytes, damaged] : contents) {
+        verify(Done);
+        const std::pair<QByteArray, Installation::FirstStart> contents[] = {
+            {"[General]\nFirstStartDone=true\n", Done},
+            {"; old\r\nFirstStartDone=true\r\n", Done},
+            {"", Untold},
+            {"[General]\nFirstStartDone=t", Untold},
+            {QByteArray(5000, '\xff'), Untold}};
+        for (const auto &[bytes, told] : contents) {
             setFileBytes(path, bytes);
-            verify(true, damaged);
+            verify(told);
         }
         // Neither read nor written: known as damaged, and raised where it has to be written.
         QVERIFY(QDir(folder.path()).mkdir(u"Corvana.ini"_qs));
         installation.setValue(u"Windows/frmMain"_qs, u"1"_qs);
-        QVERIFY(installation.isDamaged() && installation.isFirstStartDone());
+        QCOMPARE(installation.firstStart(), Untold);
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, installation.requireWritable());
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, installation.setFirstStartDone());
     }

@@ -1,5 +1,5 @@
 // The common parameters dialog: what it shows, stores and brings into line.
-#include "../journal/dayjournal.h"
+#include "dayjournal.h"
 #include "settings/frmCommon.h"
 #include "settings/recalculation.h"
 

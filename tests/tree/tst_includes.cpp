@@ -1,54 +1,85 @@
 // The folders of src/ include only downwards: reads every #include and fails on an arrow that
-// runs up, or into a folder that the plan below does not know.
+// runs up, or into a folder that the plan below does not know. And no two headers declare types of
+// one name.
 #include <QDirIterator>
 #include <QMap>
 #include <QRegularExpression>
 #include <QTest>
 
-class TestIncludes : public QObject
+class tst_includes : public QObject
 {
     Q_OBJECT
 private slots:
     void everyIncludeRunsDown();
+    void everyTypeHasANameOfItsOwn();
 };
 
-void TestIncludes::everyIncludeRunsDown()
+namespace {
+
+/// Calls with the name, relative to src/, and the text of each file.
+template<typename Call>
+void forEachSource(const QStringList &patterns, Call call)
+{
+    const QDir root(CORVANA_SOURCES);
+    QDirIterator entries(root.path(), patterns, QDir::Files, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        QFile file(entries.next());
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+        call(root.relativeFilePath(file.fileName()), QString::fromUtf8(file.readAll()));
+    }
+}
+
+} // namespace
+
+void tst_includes::everyIncludeRunsDown()
 {
     // What each folder may include besides itself.
     const QMap<QString, QString> plan{
-        {"app", "help progress journal catalogue settings chart ui session data"},
-        {"progress", "chart settings ui session data"},
+        {"app", "help progress journal catalogue settings chart plot ui session data"},
+        {"progress", "plot settings ui session data"},
         {"journal", "catalogue settings ui session data"},
         {"catalogue", "settings ui session data"},
         {"settings", "ui session data"},
         {"ui", "help session data"},
         {"session", "data"},
         {"data", ""},
-        {"chart", ""},
+        {"chart", "plot data"},
+        {"plot", ""},
         {"help", ""},
     };
     const QRegularExpression include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"/]+)/[^"]*")re",
                                      QRegularExpression::MultilineOption);
-    const QDir root(CORVANA_SOURCES);
     QStringList wrong;
     int arrows = 0;
-    QDirIterator entries(root.path(), {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        QFile file(entries.next());
-        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
-        const QString name = root.relativeFilePath(file.fileName());
+    forEachSource({"*.cpp", "*.h"}, [&](const QString &name, const QString &text) {
         const QString folder = name.section('/', 0, 0);
-        for (const auto &match : include.globalMatch(QString::fromUtf8(file.readAll()))) {
+        for (const auto &match : include.globalMatch(text)) {
             const QString to = match.captured(1);
             if (!plan.contains(folder) ||
                 (to != folder && !plan.value(folder).split(' ').contains(to)))
                 wrong << name + " includes from " + to;
             ++arrows;
         }
-    }
+    });
     QVERIFY(arrows > 100);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
 }
 
-QTEST_GUILESS_MAIN(TestIncludes)
+void tst_includes::everyTypeHasANameOfItsOwn()
+{
+    // Those of a class's own begin further right.
+    const QRegularExpression type(R"re(^(?:class|struct|enum class) (\w+)[^;{}]*\{)re",
+                                  QRegularExpression::MultilineOption);
+    QMap<QString, QString> homes;
+    forEachSource({"*.h"}, [&](const QString &name, const QString &text) {
+        for (const auto &match : type.globalMatch(text)) {
+            const QString other = homes.value(match.captured(1));
+            QVERIFY2(other.isEmpty(), qPrintable(match.captured(1) + ": " + other + ", " + name));
+            homes.insert(match.captured(1), name);
+        }
+    });
+    QVERIFY(homes.size() > 50);
+}
+
+QTEST_GUILESS_MAIN(tst_includes)
 #include "tst_includes.moc"

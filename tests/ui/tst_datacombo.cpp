@@ -27,7 +27,7 @@ public:
         layout->addWidget(next);
         layout->addWidget(ok);
         ok->setDefault(true);
-        chooser->setRows(rows, "MealCategoryID"_L1, "Name"_L1);
+        chooser->setRows(rows, schema::MealCategory::MealCategoryID, schema::MealCategory::Name);
         show();
         chooser->setFocus();
     }
@@ -48,7 +48,7 @@ public:
 
 } // namespace
 
-class tst_DataCombo : public QObject
+class tst_datacombo : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private:
 };
 
 // Those that begin with the part come first; accents and case don't matter.
-void tst_DataCombo::offersParts()
+void tst_datacombo::offersParts()
 {
     for (const auto &[typed, names] :
          {std::pair(u"FRU"_qs, u"Fruit|Fruit juice|Dried fruit"_qs),
@@ -90,7 +90,7 @@ void tst_DataCombo::offersParts()
     }
 }
 
-void tst_DataCombo::takesByKey()
+void tst_datacombo::takesByKey()
 {
     const struct
     {
@@ -119,7 +119,7 @@ void tst_DataCombo::takesByKey()
 }
 
 // The choice follows the highlight, so that the dialog shows what it would be.
-void tst_DataCombo::escapesToWhatWasTyped()
+void tst_datacombo::escapesToWhatWasTyped()
 {
     typeKeys(u"fru"_qs);
     pressKey(Qt::Key_Down);
@@ -134,7 +134,7 @@ void tst_DataCombo::escapesToWhatWasTyped()
 }
 
 // Neither the form nor the list grows; box and list show the beginning.
-void tst_DataCombo::cutsLongNamesShort()
+void tst_datacombo::cutsLongNamesShort()
 {
     const int width = form->sizeHint().width();
     form->chooser->addItem(QString(500, u'W'), 9);
@@ -148,7 +148,7 @@ void tst_DataCombo::cutsLongNamesShort()
 }
 
 // Where there is always to be a choice.
-void tst_DataCombo::keepsChoice()
+void tst_datacombo::keepsChoice()
 {
     form->chooser->setKeepsChoice(true);
     form->chooser->setBoundValue(2);
@@ -170,5 +170,5 @@ void tst_DataCombo::keepsChoice()
     QCOMPARE(form->chooser->boundValue(), 2);
 }
 
-QTEST_MAIN(tst_DataCombo)
+QTEST_MAIN(tst_datacombo)
 #include "tst_datacombo.moc"

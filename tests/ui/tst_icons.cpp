@@ -4,14 +4,14 @@
 
 #include <QTest>
 
-class TestIcons : public QObject
+class tst_icons : public QObject
 {
     Q_OBJECT
 private slots:
     void drawnForBothPalettes();
 };
 
-void TestIcons::drawnForBothPalettes()
+void tst_icons::drawnForBothPalettes()
 {
     for (const char *name : {"mnuMealConsume", "mnuAddMeal", "mnuExercisePerformed",
                              "mnuAddExercise", "mnuMeasurement", "mnuAddMeasurement", "mnuAddNote",
@@ -33,5 +33,5 @@ void TestIcons::drawnForBothPalettes()
         QCOMPARE(programIcon().actualSize(QSize(size, size)), QSize(size, size));
 }
 
-QTEST_MAIN(TestIcons)
+QTEST_MAIN(tst_icons)
 #include "tst_icons.moc"

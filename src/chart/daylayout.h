@@ -1,10 +1,16 @@
-// How the geometry of the daily chart is built, step by step.
+// How the geometry of the daily chart is built.
 #pragma once
 
 #include "chart/activityblocks.h"
 #include "chart/charttexts.h"
+#include "chart/daybalance.h"
+#include "chart/daygeometry.h"
 
 namespace daychart {
+
+/// Lays the day out in an area. Never fails: what finds no room in a small area is left out.
+DayGeometry dayGeometry(const DayData &day, const QRectF &area, const TextMetrics &metrics,
+                        const ChartTexts &texts);
 
 inline constexpr double labelGap = 0.4; ///< in heights of a line of text
 
@@ -16,11 +22,11 @@ struct LegendRow
 
 /// Builds the geometry step by step: first all heights, which fix the scales and with them the
 /// widths of the labels beside the plot, then the plot between those labels.
-class Layout
+class DayLayout
 {
 public:
-    Layout(const DayData &day, const QRectF &area, const TextMetrics &metrics,
-           const ChartTexts &texts)
+    DayLayout(const DayData &day, const QRectF &area, const TextMetrics &metrics,
+              const ChartTexts &texts)
         : m_day(day)
         , m_metrics(metrics)
         , m_texts(texts)
@@ -32,7 +38,7 @@ public:
         g.unit = metrics.lineHeight;
     }
 
-    ChartGeometry build()
+    DayGeometry build()
     {
         layRows();
         scaleMeals();
@@ -78,7 +84,7 @@ private:
     void placeHints();
     void placeNotDrawn();
 
-    ChartGeometry g;
+    DayGeometry g;
     const DayData &m_day;
     const TextMetrics &m_metrics;
     const ChartTexts &m_texts;

@@ -2,65 +2,24 @@
 // read by the painting and by the hit-testing.
 #pragma once
 
-#include "chart/daybalance.h"
-#include "chart/scales.h"
+#include "chart/chartparts.h"
+#include "chart/timescale.h"
+#include "plot/placedtext.h"
+#include "plot/scales.h"
 
 #include <QPointF>
 #include <QRectF>
 #include <QString>
 
-#include <array>
-#include <functional>
 #include <vector>
 
 namespace daychart {
 
-class ChartTexts;
-
-enum class Lane
-{
-    Meals,
-    Activities
-};
-enum class Part
-{
-    Carbohydrate,
-    Fat,
-    Protein,
-    Activity,
-    Background,
-    Balance
-};
-enum class TextRole
-{
-    Plain,
-    Caption,
-    Figure
-};
-enum class Tone
-{
-    Ink,
-    Muted,
-    OnActivity,
-    Balance
-};
-
-/// The text sizes that the chart is laid out for, in the units of its area.
-struct TextMetrics
-{
-    double lineHeight = 16; ///< of Plain and Caption
-    double figureHeight = 22;
-    std::function<double(const QString &, TextRole)> width;
-};
-
-struct PlacedText
-{
-    QRectF rect;
-    QString text;
-    Qt::Alignment alignment = Qt::AlignCenter;
-    TextRole role = TextRole::Plain;
-    Tone tone = Tone::Ink;
-};
+using plot::PlacedText;
+using plot::TextMetrics;
+using plot::TextRole;
+using plot::Tone;
+using plot::ValueScale;
 
 /// A sample of a fill or line beside its name.
 struct Swatch
@@ -82,9 +41,9 @@ struct LaneGeometry
 struct MealColumn
 {
     QRectF rect;
-    double timeX = 0;            ///< where its time is; the column itself may stand beside
-    std::array<QRectF, 3> parts; ///< carbohydrate, fat, protein; null where there is none
-    bool cut = false;            ///< higher than drawn
+    double timeX = 0;        ///< where its time is; the column itself may stand beside
+    Nutrients<QRectF> parts; ///< null where there is none
+    bool cut = false;        ///< higher than drawn
 };
 
 /// One activity; the same index as in the day's data. Where it overlaps others it rises and falls
@@ -103,7 +62,7 @@ struct ItemLabel
     PlacedText text;
 };
 
-struct ChartGeometry
+struct DayGeometry
 {
     QRectF area;
     double unit = 16; ///< height of a line of text, from which lines and gaps are sized
@@ -131,9 +90,5 @@ struct ChartGeometry
 
     const LaneGeometry &lane(Lane which) const { return which == Lane::Meals ? meals : activities; }
 };
-
-/// Lays the day out in an area. Never fails: what finds no room in a small area is left out.
-ChartGeometry chartGeometry(const DayData &day, const QRectF &area, const TextMetrics &metrics,
-                            const ChartTexts &texts);
 
 } // namespace daychart

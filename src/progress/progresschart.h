@@ -1,16 +1,15 @@
 // The progress chart, a control of its own.
 #pragma once
 
+#include "plot/chartwidget.h"
 #include "progress/progresspainter.h"
-
-#include <QPixmap>
-#include <QWidget>
+#include "progress/progresstexts.h"
 
 /// Shows a period and says which of its days the pointer or the keyboard stands on.
 ///
 /// Left and Right move by a day, Page Up and Page Down by a week, Home and End to the first and
 /// the last day; a click moves the keyboard's day to the pointer, or chooses a note.
-class ProgressChart : public QWidget
+class ProgressChart : public plot::ChartWidget
 {
     Q_OBJECT
 
@@ -35,30 +34,24 @@ Q_SIGNALS:
     void noteChosen(size_t note);
 
 protected:
-    void changeEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void forgetLayout() override;
+    void paintPicture(QPainter &painter) override;
+    void paintEmphasis(QPainter &painter) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void relayout();
-    const progress::ChartGeometry &geometry();
-    const QPixmap &picture();
+    const progress::ProgressGeometry &geometry();
     void moveTo(int day);
     void point(std::optional<qint16> day);
     std::optional<qint16> dayAt(QPointF place);
 
     const progress::DaySeries &m_series;
     const progress::ProgressTexts &m_texts;
-    std::optional<progress::ChartGeometry> m_geometry; ///< in this size
-    daychart::ChartFonts m_fonts;
+    std::optional<progress::ProgressGeometry> m_geometry; ///< in this size
     progress::ProgressColors m_colors;
-    QPixmap m_picture; ///< the chart without emphasis, so that a moving pointer costs little
     qint16 m_day;
     std::optional<qint16> m_pointed;
     std::optional<size_t> m_note;

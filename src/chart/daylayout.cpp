@@ -1,4 +1,4 @@
-#include "chart/chartlayout.h"
+#include "chart/daylayout.h"
 #include "chart/itemlabels.h"
 #include "chart/mealcolumns.h"
 
@@ -12,7 +12,7 @@ constexpr double margin = 0.75;
 
 } // namespace
 
-void Layout::layRows()
+void DayLayout::layRows()
 {
     m_figureRow = QRectF(g.area.left() + em(margin), g.area.top() + em(margin),
                          std::max(1.0, g.area.width() - em(2 * margin)), m_metrics.figureHeight);
@@ -22,21 +22,21 @@ void Layout::layRows()
     g.balanceZeroY = std::round((m_plotTop + m_plotBottom) / 2);
 }
 
-void Layout::scaleMeals()
+void DayLayout::scaleMeals()
 {
     const double height = g.balanceZeroY - m_plotTop;
     const double labelRoom = std::min(em(1.3), height / 3);
     const bool negative =
         std::any_of(m_day.meals.begin(), m_day.meals.end(), [](const MealItem &meal) {
-            return std::min({meal.carbohydrate, meal.fat, meal.protein}) < 0;
+            return *std::min_element(meal.byNutrient.begin(), meal.byNutrient.end()) < 0;
         });
     g.meals.scale =
         mealScale(m_day, m_plotTop + labelRoom, g.balanceZeroY - (negative ? labelRoom : 0));
-    m_mealStep = std::max(1.0, roundStep(ticksApart() / g.meals.scale.perValue));
-    g.meals.gridLines = ticksBetween(g.meals.scale, m_mealStep, m_plotTop, g.balanceZeroY);
+    m_mealStep = std::max(1.0, plot::roundStep(ticksApart() / g.meals.scale.perValue));
+    g.meals.gridLines = plot::ticksBetween(g.meals.scale, m_mealStep, m_plotTop, g.balanceZeroY);
 }
 
-void Layout::scaleBurn()
+void DayLayout::scaleBurn()
 {
     const double top = g.balanceZeroY + std::min(em(1.3), (m_plotBottom - g.balanceZeroY) / 3);
     // The plot's width is not known yet; what share it has of the area is near enough for the
@@ -47,7 +47,7 @@ void Layout::scaleBurn()
         if (high == 0 && m_stack.low == 0)
             high = 5;
         const double bottom = m_plotBottom - (m_stack.low < 0 ? em(0.4) : 0);
-        return fittedScale(m_stack.low, high, top, bottom);
+        return plot::fittedScale(m_stack.low, high, top, bottom);
     };
     m_stack = stackedBurn(m_day, shortest, 0);
     g.activities.scale = fitted();
@@ -55,12 +55,12 @@ void Layout::scaleBurn()
         m_stack = stackedBurn(m_day, shortest, em(0.25) / g.activities.scale.perValue);
         g.activities.scale = fitted();
     }
-    m_burnStep = roundStep(ticksApart() / g.activities.scale.perValue);
+    m_burnStep = plot::roundStep(ticksApart() / g.activities.scale.perValue);
     g.activities.gridLines =
-        ticksBetween(g.activities.scale, m_burnStep, top - em(0.3), m_plotBottom);
+        plot::ticksBetween(g.activities.scale, m_burnStep, top - em(0.3), m_plotBottom);
 }
 
-void Layout::scaleBalance()
+void DayLayout::scaleBalance()
 {
     double low = 0;
     double high = 0;
@@ -70,15 +70,15 @@ void Layout::scaleBalance()
     }
     const double inset = std::min(em(0.7), (m_plotBottom - m_plotTop) / 8);
     const ValueScale scale =
-        scaleAround(g.balanceZeroY, low, high, m_plotTop + inset, m_plotBottom - inset);
+        plot::scaleAround(g.balanceZeroY, low, high, m_plotTop + inset, m_plotBottom - inset);
     m_balancePerValue = scale.perValue;
     if (scale.perValue > 0)
-        m_balanceStep = std::max(1.0, roundStep(ticksApart() / scale.perValue));
-    g.balanceMarks = ticksBetween(scale, m_balanceStep, scale.y(high), scale.y(low));
+        m_balanceStep = std::max(1.0, plot::roundStep(ticksApart() / scale.perValue));
+    g.balanceMarks = plot::ticksBetween(scale, m_balanceStep, scale.y(high), scale.y(low));
 }
 
 /// The widths of what stands left and right of the plot, and the plot between.
-void Layout::layColumns()
+void DayLayout::layColumns()
 {
     m_legendValues = legendWidth(true) <= 0.22 * g.area.width();
     m_headerWidth = legendWidth(m_legendValues);
@@ -104,7 +104,7 @@ void Layout::layColumns()
     g.timeAxis = strip(m_plotBottom, m_plotBottom + em(1.6));
 }
 
-void Layout::placeItems()
+void DayLayout::placeItems()
 {
     g.columns = mealColumns(m_day, g.time, g.meals.scale, g.unit);
     g.blocks = activityBlocks(m_stack, g.time, g.activities.scale);
@@ -115,7 +115,7 @@ void Layout::placeItems()
     g.activityLabels = activityLabels(m_day, g.blocks, g.activities, m_metrics, m_texts);
 }
 
-void Layout::placeBalance()
+void DayLayout::placeBalance()
 {
     const ValueScale scale = {g.balanceZeroY, m_balancePerValue};
     for (const BalancePoint &point : m_curve)
@@ -126,7 +126,7 @@ void Layout::placeBalance()
     const double endY =
         std::clamp(g.balance.back().y(), m_plotTop + em(0.6), m_plotBottom - em(0.6));
     g.balanceEnd = {QRectF(left, endY - em(0.6), width(end, TextRole::Caption) + em(0.6), em(1.2)),
-                    end, Qt::AlignCenter, TextRole::Caption, Tone::Balance};
+                    end, Qt::AlignCenter, TextRole::Caption, Tone::OnInk};
     for (double &value : g.balanceMarks) {
         const QString text = m_texts.balance(qRound64(value));
         value = std::round(scale.y(value));
@@ -137,10 +137,10 @@ void Layout::placeBalance()
     }
 }
 
-ChartGeometry chartGeometry(const DayData &day, const QRectF &area, const TextMetrics &metrics,
-                            const ChartTexts &texts)
+DayGeometry dayGeometry(const DayData &day, const QRectF &area, const TextMetrics &metrics,
+                        const ChartTexts &texts)
 {
-    return Layout(day, area, metrics, texts).build();
+    return DayLayout(day, area, metrics, texts).build();
 }
 
 } // namespace daychart

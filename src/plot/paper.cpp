@@ -1,8 +1,10 @@
-#include "ui/paper.h"
+#include "plot/paper.h"
 
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
+
+namespace plot {
 
 QPalette paperPalette()
 {
@@ -30,3 +32,5 @@ bool printLandscape(const QString &documentName,
     paint(painter, printer);
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
+
+} // namespace plot

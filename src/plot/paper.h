@@ -9,6 +9,8 @@
 class QPagedPaintDevice;
 class QPainter;
 
+namespace plot {
+
 /// Dark on white, whatever the palette of the screen.
 QPalette paperPalette();
 
@@ -16,3 +18,5 @@ QPalette paperPalette();
 /// there is no default printer or it can't be used.
 bool printLandscape(const QString &documentName,
                     const std::function<void(QPainter &, QPagedPaintDevice &)> &paint);
+
+} // namespace plot

@@ -1,22 +1,9 @@
-// From values and times to positions and back.
+// From values to heights, and the steps of a scale.
 #pragma once
-
-#include "chart/daydata.h"
 
 #include <vector>
 
-namespace daychart {
-
-/// The time axis: midnight at left, midnight at left + width.
-struct TimeScale
-{
-    double left = 0;
-    double width = 1;
-
-    double x(double minute) const { return left + width * minute / minutesPerDay; }
-    double minute(double x) const { return (x - left) * minutesPerDay / width; }
-    double minutesPerUnit() const { return minutesPerDay / width; }
-};
+namespace plot {
 
 /// A scale of values that grows upwards, while y grows downwards.
 struct ValueScale
@@ -37,14 +24,10 @@ ValueScale scaleAround(double zeroY, double low, double high, double topY, doubl
 /// At least 0.01, which is finer than any label needs.
 double roundStep(double atLeast);
 
+/// The multiples of a step, which is more than 0, from one value to another, from the lowest up.
+std::vector<double> multiplesBetween(double low, double high, double step);
+
 /// The multiples of step that lie between two heights of a scale, from the lowest up.
 std::vector<double> ticksBetween(const ValueScale &scale, double step, double topY, double bottomY);
 
-/// Minutes from one labelled hour to the next, so that labels that wide do not touch.
-int hourLabelStep(const TimeScale &scale, double labelWidth);
-
-/// The largest magnitude that may be drawn to scale. A value of more than 25 times the next smaller
-/// one would press all others flat; it is drawn cut off at one and a half times that one.
-double drawnLimit(std::vector<double> magnitudes);
-
-} // namespace daychart
+} // namespace plot

@@ -1,4 +1,6 @@
-#include "progress/ProgressChart.h"
+#include "progress/progresschart.h"
+
+#include "progress/progresslayout.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,19 +26,14 @@ qint16 lastKnownDay(const DaySeries &series)
 } // namespace
 
 ProgressChart::ProgressChart(const DaySeries &series, const ProgressTexts &texts, QWidget *parent)
-    : QWidget(parent)
+    : ChartWidget(parent)
     , m_series(series)
     , m_texts(texts)
-    , m_fonts(font(), logicalDpiY(), this)
-    , m_colors(ProgressColors::of(palette()))
+    , m_colors(ProgressColors(palette()))
     , m_day(lastKnownDay(series))
 {
     setObjectName(QStringLiteral("chart"));
     setAccessibleName(tr("General progress chart. %1").arg(texts.summaryWords(summaryOf(series))));
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     relayout();
     geometry(); // throws here, if it does
 }
@@ -57,70 +54,31 @@ void ProgressChart::showNote(std::optional<size_t> note)
     update();
 }
 
-void ProgressChart::relayout()
+void ProgressChart::forgetLayout()
 {
-    m_fonts = daychart::ChartFonts(font(), logicalDpiY(), this);
-    m_colors = ProgressColors::of(palette());
+    m_colors = ProgressColors(palette());
     m_geometry.reset();
-    m_picture = {};
     setAccessibleDescription(m_texts.dayWords(m_series, m_day));
-    update();
 }
 
-/// Computed when it is first asked for, however many changes came before.
-const ChartGeometry &ProgressChart::geometry()
+const ProgressGeometry &ProgressChart::geometry()
 {
     if (!m_geometry)
-        m_geometry =
-            progressGeometry(m_series, rect(), daychart::metricsOf(m_fonts, this), m_texts);
+        m_geometry = progressGeometry(m_series, rect(), plot::metricsOf(fonts(), this), m_texts);
     return *m_geometry;
 }
 
-void ProgressChart::changeEvent(QEvent *event)
+void ProgressChart::paintPicture(QPainter &painter)
 {
-    switch (event->type()) {
-    case QEvent::FontChange:
-    case QEvent::PaletteChange:
-    case QEvent::StyleChange:
-        relayout();
-        break;
-    default:
-        break;
-    }
-    QWidget::changeEvent(event);
+    paintProgressChart(painter, geometry(), m_colors, fonts());
 }
 
-void ProgressChart::resizeEvent(QResizeEvent *)
+void ProgressChart::paintEmphasis(QPainter &painter)
 {
-    relayout();
-}
-
-const QPixmap &ProgressChart::picture()
-{
-    const qreal ratio = devicePixelRatioF();
-    if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
-        m_picture = QPixmap(size() * ratio);
-        m_picture.setDevicePixelRatio(ratio);
-        QPainter painter(&m_picture);
-        paintProgressChart(painter, geometry(), m_colors, m_fonts);
-    }
-    return m_picture;
-}
-
-void ProgressChart::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, picture());
     Emphasis emphasis = {m_note, m_pointed};
     if (!emphasis.day && hasFocus())
         emphasis.day = m_day;
-    paintEmphasis(painter, geometry(), m_colors, m_fonts, emphasis);
-    if (!hasFocus())
-        return;
-    const double line = 0.12 * geometry().unit;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_colors.base.highlight, line));
-    painter.drawRect(geometry().area.adjusted(line / 2, line / 2, -line / 2, -line / 2));
+    progress::paintEmphasis(painter, geometry(), m_colors, fonts(), emphasis);
 }
 
 std::optional<qint16> ProgressChart::dayAt(QPointF place)
@@ -196,16 +154,4 @@ void ProgressChart::keyPressEvent(QKeyEvent *event)
     default:
         QWidget::keyPressEvent(event);
     }
-}
-
-void ProgressChart::focusInEvent(QFocusEvent *event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void ProgressChart::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }

@@ -1,0 +1,27 @@
+// The colours of the daily chart in a light and in a dark palette.
+#pragma once
+
+#include "chart/chartparts.h"
+#include "plot/colors.h"
+
+namespace daychart {
+
+/// The fills differ along blue to yellow and in lightness, which every kind of colour vision tells
+/// apart; the hatching of fat does without colour altogether.
+struct DayColors : plot::BaseColors
+{
+    Nutrients<QColor> nutrients;
+    QColor fatHatch;
+    QColor stub; ///< a meal without calories
+    QColor activity;
+    QColor activityEdge;
+    QColor band;
+    QColor bandEdge;
+    QColor balance;
+
+    explicit DayColors(const QPalette &palette);
+
+    const QColor &fill(Part part) const;
+};
+
+} // namespace daychart

@@ -1,0 +1,84 @@
+#include "plot/chartwidget.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace plot {
+
+ChartWidget::ChartWidget(QWidget *parent)
+    : QWidget(parent)
+    , m_fonts(font(), logicalDpiY(), this)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartWidget::relayout()
+{
+    m_fonts = Fonts(font(), logicalDpiY(), this);
+    m_picture = {};
+    forgetLayout();
+    update();
+}
+
+void ChartWidget::changeEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+    case QEvent::LocaleChange:
+    case QEvent::LanguageChange:
+        relayout();
+        break;
+    default:
+        break;
+    }
+    QWidget::changeEvent(event);
+}
+
+void ChartWidget::resizeEvent(QResizeEvent *)
+{
+    relayout();
+}
+
+void ChartWidget::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ChartWidget::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+const QPixmap &ChartWidget::picture()
+{
+    const qreal ratio = devicePixelRatioF();
+    if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
+        m_picture = QPixmap(size() * ratio);
+        m_picture.setDevicePixelRatio(ratio);
+        QPainter painter(&m_picture);
+        paintPicture(painter);
+    }
+    return m_picture;
+}
+
+void ChartWidget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, picture());
+    paintEmphasis(painter);
+    if (!showsFocus())
+        return;
+    const double line = 0.12 * metricsOf(m_fonts, this).lineHeight;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), line));
+    painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
+} // namespace plot
