@@ -103,10 +103,7 @@ void compareStore(Table &table, deData &data)
 
 void measureStore(Table &table, const QString &fullJournal)
 {
-    std::vector<double> openings;
-    openings.reserve(20);
-    for (int i = 0; i < 20; ++i)
-        openings.push_back(timed([&] { deData data(fullJournal); }));
+    auto openings = repeated(20, [&] { return timed([&] { deData data(fullJournal); }); });
     table.addTime(u"opening the database file"_qs, median(openings), 5);
 
     deData data(fullJournal);

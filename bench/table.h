@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QStringList>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -12,6 +13,15 @@
 double timed(const std::function<void()> &action);
 /// The middle one; the values are sorted by it.
 double median(std::vector<double> &values);
+
+/// What `measure` gives, time after time.
+template<typename Measure>
+std::vector<double> repeated(int times, Measure measure)
+{
+    std::vector<double> values(static_cast<size_t>(times));
+    std::generate(values.begin(), values.end(), measure);
+    return values;
+}
 
 /// Two ways of doing the same, measured by turns so that a busy machine slows both: the medians.
 struct Compared

@@ -62,27 +62,27 @@ void measureDays(Table &table, Program &program)
     for (const QSize size : {QSize(1280, 900), QSize(3840, 2160)}) {
         program.window->resize(size);
         QCoreApplication::processEvents();
-        std::vector<double> times;
-        for (int i = 0; i < 50; ++i)
-            times.push_back(timed([&] {
+        auto times = repeated(50, [&] {
+            return timed([&] {
                 program.window->RePaintGraph();
                 program.paint();
-            }));
+            });
+        });
         table.addTime(u"a day of 40 items loaded and painted, %1 x %2"_qs.arg(size.width())
                           .arg(size.height()),
-                      median(times), size.width() < 2000 ? std::optional(frame) : std::nullopt);
+                      median(times), frame);
     }
     program.window->resize(1280, 900);
     QCoreApplication::processEvents();
 
-    std::vector<double> times;
     auto &next = control<QPushButton>(*program.window, "btnNext");
     program.session.setCurrentDate(lastDay.addDays(-370));
-    for (int i = 0; i < 365; ++i)
-        times.push_back(timed([&] {
+    auto times = repeated(365, [&] {
+        return timed([&] {
             next.click();
             program.paint();
-        }));
+        });
+    });
     table.addTime(u"the next day, median of a year"_qs, median(times), frame);
     table.addTime(u"the next day, slowest of a year"_qs, times.back());
 }
@@ -132,12 +132,12 @@ void measureProgress(Table &table, Program &program)
     // Before the crowded days, whose balance no chart holds.
     const QDate end = dayOf200Meals.addDays(-1);
     const progress::Period period{end.addMonths(-6), end};
-    std::vector<double> times;
-    for (int i = 0; i < 20; ++i)
-        times.push_back(timeToPicture([&] {
+    auto times = repeated(20, [&] {
+        return timeToPicture([&] {
             frmGeneralProgress(program.session, program.messages, period, program.window.get())
                 .exec();
-        }));
+        });
+    });
     table.addTime(u"six months of progress loaded and painted"_qs, median(times), 2 * frame);
 }
 

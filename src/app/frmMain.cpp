@@ -77,6 +77,12 @@ void frmMain::showPictures()
 {
     for (QAction *entry : m_entries)
         entry->setIcon(icon(entry->objectName(), palette()));
+    // Their files are read while the window system brings up the window.
+    const auto load = [this] {
+        for (const QAction *button : tlbToolBar->actions())
+            button->icon().pixmap(tlbToolBar->iconSize(), devicePixelRatioF());
+    };
+    QMetaObject::invokeMethod(this, load, Qt::QueuedConnection);
 }
 
 void frmMain::makeConnections()

@@ -90,14 +90,16 @@ void frmMain::makeCommands()
     tlbToolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be switched off
     QMenu *menu = nullptr;
     for (const Command &command : commands()) {
-        if (command.handler) {
-            addEntry(*menu, command);
-        } else if (command.caption.isEmpty()) {
-            menu->addSeparator()->setObjectName(command.name);
-        } else {
+        if (!command.handler && !command.caption.isEmpty()) {
             menu = menuBar()->addMenu(command.caption);
             menu->setObjectName(command.name);
+            continue;
         }
+        Q_ASSERT(menu);
+        if (command.handler)
+            addEntry(*menu, command);
+        else
+            menu->addSeparator()->setObjectName(command.name);
     }
     addToolBar(tlbToolBar);
 }

@@ -59,6 +59,7 @@ Q_SIGNALS:
 
 protected:
     void forgetLayout() override;
+    void computeLayout() override { geometry(); }
     void paintPicture(QPainter &painter) override;
     void paintEmphasis(QPainter &painter) override;
     bool showsFocus() const override { return hasFocus() && m_byKeyboard; }

@@ -50,11 +50,8 @@ public:
     }
 
 private:
-    void horizontal(double y) { p.drawLine(QPointF(left(), y), QPointF(right(), y)); }
-    void vertical(double x, double from, double to)
-    {
-        p.drawLine(QPointF(x, from), QPointF(x, to));
-    }
+    using Drawing::horizontal;
+    void horizontal(double y, const QColor &color) { horizontal(y, left(), right(), color); }
     double left() const { return g.time.left; }
     double right() const { return g.time.left + g.time.width; }
 
@@ -75,22 +72,19 @@ private:
 
 void DayPainter::paintGrid()
 {
-    p.setPen(pen(c.grid));
     for (const double x : g.hourLines)
-        vertical(x, g.meals.area.top(), g.activities.area.bottom());
+        vertical(x, g.meals.area.top(), g.activities.area.bottom(), c.grid);
     for (const LaneGeometry *lane : {&g.meals, &g.activities}) {
         for (const double y : lane->gridLines)
-            horizontal(y);
+            horizontal(y, c.grid);
     }
 }
 
 void DayPainter::paintBurn()
 {
     p.fillRect(g.band, c.band);
-    if (g.band.height() > 0) {
-        p.setPen(pen(c.bandEdge));
-        horizontal(g.band.top());
-    }
+    if (g.band.height() > 0)
+        horizontal(g.band.top(), c.bandEdge);
     for (const ActivityBlock &block : g.blocks) {
         QPainterPath outline;
         const auto &segments = block.segments;
@@ -157,24 +151,21 @@ void DayPainter::paintPart(Part part, const QRectF &rect)
         p.drawRect(rect);
     } else if (rect.height() > 3 * hairline()) {
         // The parts of a column are parted by a line of the ground.
-        p.setPen(pen(c.ground));
-        p.drawLine(rect.topLeft(), rect.topRight());
+        horizontal(rect.top(), rect.left(), rect.right(), c.ground);
     }
 }
 
 void DayPainter::paintAxes()
 {
-    p.setPen(pen(c.axis));
-    horizontal(g.meals.scale.zeroY);
-    horizontal(g.balanceZeroY);
-    horizontal(g.activities.scale.zeroY);
-    horizontal(g.activities.area.bottom());
+    for (const double y : {g.meals.scale.zeroY, g.balanceZeroY, g.activities.scale.zeroY,
+                           g.activities.area.bottom()})
+        horizontal(y, c.axis);
     for (const double x : g.hourMarks)
-        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.15));
+        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.15), c.axis);
     for (const double x : g.hourLines)
-        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.3));
+        vertical(x, g.timeAxis.top(), g.timeAxis.top() + em(0.3), c.axis);
     for (const double y : g.balanceMarks)
-        p.drawLine(QPointF(right(), y), QPointF(right() + em(0.2), y));
+        horizontal(y, right(), right() + em(0.2), c.axis);
 }
 
 /// A line with a seam of the ground's colour, so that it stays legible across the items. The jumps
@@ -183,12 +174,13 @@ void DayPainter::paintBalance()
 {
     p.setRenderHint(QPainter::Antialiasing, true);
     const auto stroke = [this](const QColor &color, double jump, double line) {
-        QPen slope = pen(color, line);
-        slope.setCapStyle(Qt::RoundCap);
         for (size_t i = 1; i < g.balance.size(); ++i) {
-            const bool jumps = g.balance[i].x() - g.balance[i - 1].x() < 1e-6;
-            p.setPen(jumps ? pen(color, jump) : slope);
-            p.drawLine(g.balance[i - 1], g.balance[i]);
+            const QPointF &from = g.balance[i - 1];
+            const QPointF &to = g.balance[i];
+            if (to.x() - from.x() < 1e-6)
+                vertical(to.x(), from.y(), to.y(), color, jump);
+            else
+                slope(from, to, color, line);
         }
     };
     QColor seam = c.ground;

@@ -18,6 +18,7 @@ ChartWidget::ChartWidget(QWidget *parent)
 void ChartWidget::relayout()
 {
     m_fonts = Fonts(font(), logicalDpiY(), this);
+    m_isNew = true;
     m_picture = {};
     forgetLayout();
     update();
@@ -44,6 +45,12 @@ void ChartWidget::resizeEvent(QResizeEvent *)
     relayout();
 }
 
+// The window system takes its time to bring a window up, which is used.
+void ChartWidget::showEvent(QShowEvent *)
+{
+    QMetaObject::invokeMethod(this, &ChartWidget::computeLayout, Qt::QueuedConnection);
+}
+
 void ChartWidget::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
@@ -56,22 +63,28 @@ void ChartWidget::focusOutEvent(QFocusEvent *event)
     update();
 }
 
-const QPixmap &ChartWidget::picture()
+void ChartWidget::keepPicture()
 {
     const qreal ratio = devicePixelRatioF();
-    if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
-        m_picture = QPixmap(size() * ratio);
-        m_picture.setDevicePixelRatio(ratio);
-        QPainter painter(&m_picture);
-        paintPicture(painter);
-    }
-    return m_picture;
+    if (!m_picture.isNull() && m_picture.devicePixelRatio() == ratio)
+        return;
+    m_picture = QPixmap(size() * ratio);
+    m_picture.setDevicePixelRatio(ratio);
+    QPainter painter(&m_picture);
+    paintPicture(painter);
 }
 
 void ChartWidget::paintEvent(QPaintEvent *)
 {
+    // Most charts are looked at and not pointed at: the first time no picture is made.
+    if (!m_isNew)
+        keepPicture();
     QPainter painter(this);
-    painter.drawPixmap(0, 0, picture());
+    if (m_isNew)
+        paintPicture(painter);
+    else
+        painter.drawPixmap(0, 0, m_picture);
+    m_isNew = false;
     paintEmphasis(painter);
     if (!showsFocus())
         return;

@@ -8,9 +8,9 @@
 
 namespace plot {
 
-/// Keeps a chart as a picture, so that a pointer that moves over it costs little, and draws it anew
-/// when it has changed and is next seen, however many changes came before. Takes the keyboard's
-/// focus and follows the pointer.
+/// Draws a chart when it has changed and is next seen, however many changes came before. From the
+/// next time on it keeps a picture of it, so that a pointer that moves over it costs little. Takes
+/// the keyboard's focus and follows the pointer.
 class ChartWidget : public QWidget
 {
     Q_OBJECT
@@ -23,6 +23,8 @@ protected:
     void relayout();
     /// Forgets what was computed for the chart as it was.
     virtual void forgetLayout() = 0;
+    /// Computes what paintPicture needs.
+    virtual void computeLayout() = 0;
     /// Draws the whole chart but for what is emphasized.
     virtual void paintPicture(QPainter &painter) = 0;
     /// Draws what the pointer and the keyboard stand on, over the chart.
@@ -35,13 +37,15 @@ protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    const QPixmap &picture();
+    void keepPicture();
 
     Fonts m_fonts;
+    bool m_isNew = true; ///< not seen since it was last laid out
     QPixmap m_picture;
 };
 

@@ -1,9 +1,10 @@
 #include "plot/drawing.h"
 
+#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace plot {
 
@@ -13,7 +14,61 @@ Drawing::Drawing(QPainter &painter, double unit, const BaseColors &colors, const
     , m_fonts(fonts)
     , m_unit(unit)
     , m_hairline(std::max(1.0, em(0.055)))
+    , m_dots(painter.device()->devicePixelRatioF())
 {
+}
+
+void Drawing::horizontal(double y, double from, double to, const QColor &color, double lines)
+{
+    const double thick = thickness(lines);
+    const double top = std::round(y * m_dots - thick / 2);
+    p.fillRect(QRectF(from, top / m_dots, to - from, thick / m_dots).normalized(), color);
+}
+
+// Qt hands a shape of more than 95 runs of dots to several threads, to wait for which costs a chart
+// several times as much as to draw it. A pattern and what shows through have a run in each row.
+void Drawing::fill(const QRectF &rect, const QBrush &brush)
+{
+    const double rows = 64 / m_dots;
+    for (double top = rect.top(); top < rect.bottom(); top += rows)
+        p.fillRect(QRectF(rect.left(), top, rect.width(), std::min(rows, rect.bottom() - top)),
+                   brush);
+}
+
+void Drawing::vertical(double x, double from, double to, const QColor &color, double lines)
+{
+    const double thick = thickness(lines);
+    const double left = std::round(x * m_dots - thick / 2);
+    const QRectF rect = QRectF(left / m_dots, from, thick / m_dots, to - from).normalized();
+    if (color.alpha() == 255)
+        p.fillRect(rect, color);
+    else
+        fill(rect, color);
+}
+
+// In short pieces, as said above, which meet at whole dots and therefore don't show.
+void Drawing::slope(const QPointF &from, const QPointF &to, const QColor &color, double lines)
+{
+    const QPointF way = to - from;
+    const bool isSteep = std::abs(way.y()) > std::abs(way.x());
+    const double length = isSteep ? way.y() : way.x();
+    if (length == 0)
+        return;
+    const double half = lines * m_hairline * std::hypot(way.x(), way.y()) / std::abs(length) / 2;
+    const QPointF across = isSteep ? QPointF(half, 0) : QPointF(0, half);
+    const double start = isSteep ? from.y() : from.x();
+    const double piece = std::copysign(16 / m_dots, length);
+    p.setPen(Qt::NoPen);
+    p.setBrush(color);
+    QPointF begin = from;
+    for (int i = 1; begin != to; ++i) {
+        const double share = (std::round(start * m_dots) / m_dots + i * piece - start) / length;
+        const QPointF end = share < 1 ? from + share * way : to;
+        const std::array corners = {begin + across, end + across, end - across, begin - across};
+        p.drawConvexPolygon(corners.data(), int(corners.size()));
+        begin = end;
+    }
+    p.setBrush(Qt::NoBrush);
 }
 
 void Drawing::text(const PlacedText &text)
@@ -23,11 +78,34 @@ void Drawing::text(const PlacedText &text)
     p.drawText(text.rect, int(text.alignment) | Qt::TextSingleLine | Qt::TextDontClip, text.text);
 }
 
-// From lower left to upper right, along which x + y is constant. Drawn one by one, because a
-// brush's pattern would keep the size of a screen's pixels on paper.
+// A tile of the pattern, as many whole dots wide as come nearest to the lines' distance.
+void Drawing::hatchOnScreen(const QRectF &rect, const QPen &pen)
+{
+    if (pen != m_hatchPen) {
+        const int side = std::max(3, int(std::round(hatchDistance() * m_dots)));
+        QImage tile(side, side, QImage::Format_ARGB32_Premultiplied);
+        tile.fill(Qt::transparent);
+        QPainter painter(&tile);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(pen.color(), pen.widthF() * m_dots));
+        for (const int sum : {0, side, 2 * side})
+            painter.drawLine(QPointF(sum + side, -side), QPointF(-side, sum + side));
+        m_hatch = QBrush(tile);
+        m_hatch.setTransform(QTransform::fromScale(1 / m_dots, 1 / m_dots));
+        m_hatchPen = pen;
+    }
+    fill(rect, m_hatch);
+}
+
+// From lower left to upper right, along which x + y is constant. On paper they are drawn one by
+// one: a pattern would become a picture there, as coarse as on the screen.
 void Drawing::hatch(const QRectF &rect, const QPen &pen)
 {
-    const double apart = em(0.3);
+    if (p.paintEngine()->type() == QPaintEngine::Raster) {
+        hatchOnScreen(rect, pen);
+        return;
+    }
+    const double apart = hatchDistance();
     QList<QLineF> lines;
     const int first = int(std::ceil((rect.left() + rect.top()) / apart));
     const int last = int(std::floor((rect.right() + rect.bottom()) / apart));

@@ -4,7 +4,11 @@
 #include "plot/colors.h"
 #include "plot/fonts.h"
 
+#include <QBrush>
 #include <QPen>
+
+#include <algorithm>
+#include <cmath>
 
 class QPainter;
 
@@ -26,6 +30,12 @@ protected:
     double hairline() const { return m_hairline; }
     const Fonts &fonts() const { return m_fonts; }
 
+    /// Lines as thick as so many of the thinnest ones, which lie on whole dots of the device:
+    /// sharp, and drawn at a small part of what a pen's would cost.
+    void horizontal(double y, double from, double to, const QColor &color, double lines = 1);
+    void vertical(double x, double from, double to, const QColor &color, double lines = 1);
+    /// A line at any slope, of an antialiased shape with ends that are cut upright or level.
+    void slope(const QPointF &from, const QPointF &to, const QColor &color, double lines);
     void text(const PlacedText &text);
     /// Fills a rectangle with slanted lines, which run on from one rectangle to the next.
     void hatch(const QRectF &rect, const QPen &pen);
@@ -33,10 +43,22 @@ protected:
     QPainter &p;
 
 private:
+    /// In dots of the device.
+    double thickness(double lines) const
+    {
+        return std::max(1.0, std::round(lines * m_hairline * m_dots));
+    }
+    double hatchDistance() const { return em(0.3); }
+    void fill(const QRectF &rect, const QBrush &brush);
+    void hatchOnScreen(const QRectF &rect, const QPen &pen);
+
     const BaseColors &m_colors;
     const Fonts &m_fonts;
     double m_unit;
     double m_hairline;
+    double m_dots; ///< of the device to one of the painter's units
+    QPen m_hatchPen;
+    QBrush m_hatch; ///< of that pen
 };
 
 } // namespace plot

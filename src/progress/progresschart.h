@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void forgetLayout() override;
+    void computeLayout() override { geometry(); }
     void paintPicture(QPainter &painter) override;
     void paintEmphasis(QPainter &painter) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -42,7 +42,11 @@ private:
         bridge.setDashPattern({2, 2});
         return bridge;
     }
-    void horizontal(double y) { p.drawLine(QPointF(g.plot.left(), y), QPointF(g.plot.right(), y)); }
+    using Drawing::horizontal;
+    void horizontal(double y, const QColor &color)
+    {
+        horizontal(y, g.plot.left(), g.plot.right(), color);
+    }
     double markRadius() const { return std::clamp(0.42 * g.days.dayWidth, em(0.11), em(0.26)); }
 
     void paintFrame();
@@ -105,27 +109,24 @@ void ProgressPainter::paint()
 
 void ProgressPainter::paintFrame()
 {
-    p.setPen(pen(c.axis));
-    horizontal(g.plot.bottom());
+    horizontal(g.plot.bottom(), c.axis);
     for (const double x : g.weekLines)
-        p.drawLine(QPointF(x, g.plot.bottom()), QPointF(x, g.plot.bottom() + em(0.25)));
+        vertical(x, g.plot.bottom(), g.plot.bottom() + em(0.25), c.axis);
     // Not through the days' numbers.
     for (const double x : g.monthLines)
-        p.drawLine(QPointF(x, g.plot.bottom() + em(1.25)), QPointF(x, g.plot.bottom() + em(2.2)));
+        vertical(x, g.plot.bottom() + em(1.25), g.plot.bottom() + em(2.2), c.axis);
 }
 
 void ProgressPainter::paintLane(const ProgressLane &lane)
 {
-    const auto verticals = [&](const std::vector<double> &places) {
+    const auto verticals = [&](const std::vector<double> &places, const QColor &color) {
         for (const double x : places)
-            p.drawLine(QPointF(x, lane.area.top()), QPointF(x, lane.area.bottom()));
+            vertical(x, lane.area.top(), lane.area.bottom(), color);
     };
-    p.setPen(pen(c.grid));
-    verticals(g.weekLines);
+    verticals(g.weekLines, c.grid);
     for (const double y : lane.grid)
-        horizontal(y);
-    p.setPen(pen(c.month));
-    verticals(g.monthLines);
+        horizontal(y, c.grid);
+    verticals(g.monthLines, c.month);
 }
 
 void ProgressPainter::paintColumns()
@@ -138,11 +139,10 @@ void ProgressPainter::paintColumns()
         p.fillRect(column.rect, column.isSurplus ? c.surplus : c.deficit);
     }
     p.setRenderHint(QPainter::Antialiasing, false);
-    p.setPen(pen(c.axis));
-    horizontal(g.balance.scale.y(0));
+    horizontal(g.balance.scale.y(0), c.axis);
     if (g.hasAverage) {
         p.setPen(averagePen());
-        horizontal(g.averageY);
+        p.drawLine(QPointF(g.plot.left(), g.averageY), QPointF(g.plot.right(), g.averageY));
     }
 }
 

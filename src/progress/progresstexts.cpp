@@ -104,7 +104,7 @@ QString ProgressTexts::longDate(QDate date) const
 
 QString ProgressTexts::noteText(const Note &note, qsizetype most) const
 {
-    const QString text = note.NoteText.trimmed();
+    QString text = note.NoteText.trimmed();
     if (text.size() <= most)
         return text;
     return tr("%1\n(the beginning of %2 characters)")

@@ -6,6 +6,14 @@
 #include <QStyle>
 #include <QStyleOption>
 
+namespace {
+
+// A window decodes all that it is offered before it is first seen, and a picture of 256 pixels
+// takes more of that time than all icons of a toolbar.
+constexpr int largestOffered = 48;
+
+} // namespace
+
 PictureEngine::PictureEngine(const QString &path, const QList<int> &sizes)
     : m_path(path)
     , m_sizes(sizes)
@@ -19,15 +27,19 @@ QString PictureEngine::fileOf(int size) const
 
 bool PictureEngine::isNull()
 {
-    return !QFile::exists(fileOf(m_sizes.front()));
+    if (!m_exists)
+        m_exists = QFile::exists(fileOf(m_sizes.front()));
+    return !*m_exists;
 }
 
 QList<QSize> PictureEngine::availableSizes(QIcon::Mode, QIcon::State)
 {
     QList<QSize> sizes;
     if (!isNull()) {
-        for (const int size : m_sizes)
-            sizes << QSize(size, size);
+        for (const int size : m_sizes) {
+            if (size <= largestOffered)
+                sizes << QSize(size, size);
+        }
     }
     return sizes;
 }

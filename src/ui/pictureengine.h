@@ -6,6 +6,7 @@
 #include <QPixmap>
 
 #include <map>
+#include <optional>
 
 /// An icon drawn in several sizes, one file each: "<path>-<size>.png". An icon of Qt's own loads
 /// every size when it is made, which for a toolbar takes a good part of the program's start.
@@ -18,6 +19,7 @@ public:
     QIconEngine *clone() const override { return new PictureEngine(*this); }
     QString key() const override { return QStringLiteral("PictureEngine"); }
     bool isNull() override;
+    /// Of the sizes those that a window's title bar or its task may want.
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override;
     QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override;
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
@@ -28,5 +30,6 @@ private:
 
     QString m_path;
     QList<int> m_sizes;
+    std::optional<bool> m_exists;                           ///< once it was asked for
     std::map<std::pair<int, QIcon::Mode>, QPixmap> m_shown; ///< by width
 };

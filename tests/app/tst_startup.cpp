@@ -226,7 +226,7 @@ void tst_startup::undoesOnlyItsOwnStore()
     };
     QVERIFY(start(torn));
     QByteArray damaged = torn;
-    damaged.replace(7 * 4096, 4096, QByteArray(4096, 'x'));
+    damaged.replace(qsizetype(7) * 4096, 4096, QByteArray(4096, 'x'));
     for (const auto &[database, advice] :
          {std::pair(copy, "put back a copy?"), std::pair(damaged, "the file is damaged")}) {
         QVERIFY(!start(database));

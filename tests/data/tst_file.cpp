@@ -17,7 +17,7 @@ bool readsWhole(const QString &path)
     }
 }
 
-constexpr int pageSize = 4096;
+constexpr qsizetype pageSize = 4096;
 
 } // namespace
 

@@ -78,12 +78,12 @@ private slots:
 
     void oneName()
     {
-        for (const auto &[a, b] :
+        for (const auto &pair :
              {std::pair(u"apple"_qs, u"Apple"_qs), std::pair(u"Äpfel"_qs, u"äpfel"_qs),
               std::pair(u"Crème"_qs, u"cre\u0300me"_qs), std::pair(u"БОРЩ"_qs, u"борщ"_qs)}) {
-            QCOMPARE(compareNames(a, b), 0);
-            addCategory(a);
-            QCOMPARE(refusalOf([&] { addCategory(b); }), StoreError::Kind::NameTaken);
+            QCOMPARE(compareNames(pair.first, pair.second), 0);
+            addCategory(pair.first);
+            QCOMPARE(refusalOf([&] { addCategory(pair.second); }), StoreError::Kind::NameTaken);
         }
     }
 

@@ -47,7 +47,8 @@ void tst_body::takesTypedDate_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("date"); // none where it is refused
-    const auto row = [](const char *name, const char *locale, QString keys, const char *date) {
+    const auto row = [](const char *name, const char *locale, const QString &keys,
+                        const char *date) {
         QTest::newRow(name) << QString(locale) << keys << QString(date);
     };
     row("as written", "bg_BG", u"3.05.2025 г."_qs, "2025-05-03");
