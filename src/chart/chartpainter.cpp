@@ -172,7 +172,6 @@ void DayPainter::paintAxes()
 /// at meals are thin: the meal's column already says how large they are.
 void DayPainter::paintBalance()
 {
-    p.setRenderHint(QPainter::Antialiasing, true);
     const auto stroke = [this](const QColor &color, double jump, double line) {
         for (size_t i = 1; i < g.balance.size(); ++i) {
             const QPointF &from = g.balance[i - 1];
@@ -187,6 +186,7 @@ void DayPainter::paintBalance()
     seam.setAlphaF(0.7F);
     stroke(seam, 3, 5);
     stroke(c.balance, 1, 2.2);
+    p.setRenderHint(QPainter::Antialiasing, true);
     p.setPen(Qt::NoPen);
     p.setBrush(c.balance);
     p.drawEllipse(g.balance.back(), em(0.2), em(0.2));

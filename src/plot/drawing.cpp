@@ -18,6 +18,11 @@ Drawing::Drawing(QPainter &painter, double unit, const BaseColors &colors, const
 {
 }
 
+bool Drawing::isOfDots() const
+{
+    return p.paintEngine()->type() == QPaintEngine::Raster;
+}
+
 void Drawing::horizontal(double y, double from, double to, const QColor &color, double lines)
 {
     const double thick = thickness(lines);
@@ -29,10 +34,12 @@ void Drawing::horizontal(double y, double from, double to, const QColor &color, 
 // several times as much as to draw it. A pattern and what shows through have a run in each row.
 void Drawing::fill(const QRectF &rect, const QBrush &brush)
 {
-    const double rows = 64 / m_dots;
-    for (double top = rect.top(); top < rect.bottom(); top += rows)
-        p.fillRect(QRectF(rect.left(), top, rect.width(), std::min(rows, rect.bottom() - top)),
-                   brush);
+    constexpr double rows = 64;
+    const double bottom = std::round(rect.bottom() * m_dots);
+    for (double top = std::round(rect.top() * m_dots); top < bottom; top += rows)
+        p.fillRect(
+            QRectF(rect.left(), top / m_dots, rect.width(), std::min(rows, bottom - top) / m_dots),
+            brush);
 }
 
 void Drawing::vertical(double x, double from, double to, const QColor &color, double lines)
@@ -40,14 +47,27 @@ void Drawing::vertical(double x, double from, double to, const QColor &color, do
     const double thick = thickness(lines);
     const double left = std::round(x * m_dots - thick / 2);
     const QRectF rect = QRectF(left / m_dots, from, thick / m_dots, to - from).normalized();
-    if (color.alpha() == 255)
+    if (color.alpha() == 255 || !isOfDots())
         p.fillRect(rect, color);
     else
         fill(rect, color);
 }
 
-// In short pieces, as said above, which meet at whole dots and therefore don't show.
 void Drawing::slope(const QPointF &from, const QPointF &to, const QColor &color, double lines)
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+    if (isOfDots()) {
+        slopeInPieces(from, to, color, lines);
+    } else {
+        p.setPen(pen(color, lines));
+        p.drawLine(from, to);
+    }
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// Short ones for the reason above. They meet at whole dots and therefore don't show.
+void Drawing::slopeInPieces(const QPointF &from, const QPointF &to, const QColor &color,
+                            double lines)
 {
     const QPointF way = to - from;
     const bool isSteep = std::abs(way.y()) > std::abs(way.x());
@@ -61,9 +81,10 @@ void Drawing::slope(const QPointF &from, const QPointF &to, const QColor &color,
     p.setPen(Qt::NoPen);
     p.setBrush(color);
     QPointF begin = from;
-    for (int i = 1; begin != to; ++i) {
-        const double share = (std::round(start * m_dots) / m_dots + i * piece - start) / length;
-        const QPointF end = share < 1 ? from + share * way : to;
+    for (double at = std::round(start * m_dots) / m_dots + piece, share = 0; share < 1;
+         at += piece) {
+        share = std::min(1.0, (at - start) / length);
+        const QPointF end = from + share * way;
         const std::array corners = {begin + across, end + across, end - across, begin - across};
         p.drawConvexPolygon(corners.data(), int(corners.size()));
         begin = end;
@@ -101,7 +122,7 @@ void Drawing::hatchOnScreen(const QRectF &rect, const QPen &pen)
 // one: a pattern would become a picture there, as coarse as on the screen.
 void Drawing::hatch(const QRectF &rect, const QPen &pen)
 {
-    if (p.paintEngine()->type() == QPaintEngine::Raster) {
+    if (isOfDots()) {
         hatchOnScreen(rect, pen);
         return;
     }

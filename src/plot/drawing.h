@@ -49,7 +49,10 @@ private:
         return std::max(1.0, std::round(lines * m_hairline * m_dots));
     }
     double hatchDistance() const { return em(0.3); }
+    /// Of a screen or a picture; not of paper, which is drawn by lines and areas.
+    bool isOfDots() const;
     void fill(const QRectF &rect, const QBrush &brush);
+    void slopeInPieces(const QPointF &from, const QPointF &to, const QColor &color, double lines);
     void hatchOnScreen(const QRectF &rect, const QPen &pen);
 
     const BaseColors &m_colors;
