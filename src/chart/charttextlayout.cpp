@@ -1,6 +1,7 @@
 // The words and figures around the plot of the daily chart.
 #include "chart/daylayout.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace daychart {
@@ -166,10 +167,18 @@ void DayLayout::placeHints()
         const QString text = m_texts.emptyHint(which);
         QRectF rect(0, 0, width(text), em(1.2));
         const QRectF &room = lane(which).area;
-        // On the right, where the balance of a day without meals has sunk away from the lane's top.
-        rect.moveCenter({room.right() - em(1) - rect.width() / 2, y});
-        if (room.contains(rect))
-            g.hints.push_back({rect, text, Qt::AlignCenter, TextRole::Plain, Tone::Muted});
+        // On the right, where the balance of a day without meals has sunk away from the lane's top,
+        // or else where it covers no corner of the balance.
+        const double right = room.right() - em(1) - rect.width() / 2;
+        for (const double x : {right, room.center().x(), room.left() + em(1) + rect.width() / 2}) {
+            rect.moveCenter({x, y});
+            if (room.contains(rect) &&
+                std::none_of(g.balance.begin(), g.balance.end(),
+                             [&](const QPointF &corner) { return rect.contains(corner); })) {
+                g.hints.push_back({rect, text, Qt::AlignCenter, TextRole::Plain, Tone::Muted});
+                return;
+            }
+        }
     };
     if (m_day.meals.empty())
         place(Lane::Meals, g.meals.area.center().y());

@@ -69,12 +69,12 @@ void DayLayout::scaleBalance()
         high = std::max(high, point.calories);
     }
     const double inset = std::min(em(0.7), (m_plotBottom - m_plotTop) / 8);
-    const ValueScale scale =
+    m_balanceScale =
         plot::scaleAround(g.balanceZeroY, low, high, m_plotTop + inset, m_plotBottom - inset);
-    m_balancePerValue = scale.perValue;
-    if (scale.perValue > 0)
-        m_balanceStep = std::max(1.0, plot::roundStep(ticksApart() / scale.perValue));
-    g.balanceMarks = plot::ticksBetween(scale, m_balanceStep, scale.y(high), scale.y(low));
+    if (m_balanceScale.perValue > 0)
+        m_balanceStep = std::max(1.0, plot::roundStep(ticksApart() / m_balanceScale.perValue));
+    g.balanceMarks = plot::ticksBetween(m_balanceScale, m_balanceStep, m_balanceScale.y(high),
+                                        m_balanceScale.y(low));
 }
 
 /// The widths of what stands left and right of the plot, and the plot between.
@@ -111,16 +111,14 @@ void DayLayout::placeItems()
     g.band = QRectF(QPointF(g.time.left, g.activities.scale.y(m_day.backgroundRate)),
                     QPointF(g.time.left + g.time.width, g.activities.scale.zeroY))
                  .normalized();
-    g.mealLabels = mealLabels(m_day, g.columns, g.meals, m_metrics, m_texts);
-    g.activityLabels = activityLabels(m_day, g.blocks, g.activities, m_metrics, m_texts);
+    for (const BalancePoint &point : m_curve)
+        g.balance.push_back({g.time.x(point.minute), m_balanceScale.y(point.calories)});
+    g.mealLabels = mealLabels(m_day, g.columns, g.meals, g.balance, m_metrics, m_texts);
+    g.activityLabels = activityLabels(m_day, g.blocks, g.activities, g.balance, m_metrics, m_texts);
 }
 
 void DayLayout::placeBalance()
 {
-    const ValueScale scale = {g.balanceZeroY, m_balancePerValue};
-    for (const BalancePoint &point : m_curve)
-        g.balance.push_back({g.time.x(point.minute), scale.y(point.calories)});
-
     const double left = g.time.left + g.time.width + em(labelGap);
     const QString end = m_texts.balance(m_figures.balance());
     const double endY =
@@ -129,7 +127,7 @@ void DayLayout::placeBalance()
                     end, Qt::AlignCenter, TextRole::Caption, Tone::OnInk};
     for (double &value : g.balanceMarks) {
         const QString text = m_texts.balance(qRound64(value));
-        value = std::round(scale.y(value));
+        value = std::round(m_balanceScale.y(value));
         const QRectF rect(left, value - em(0.5), width(text), em(1));
         if (!rect.intersects(g.balanceEnd.rect))
             g.texts.push_back(

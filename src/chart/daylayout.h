@@ -99,7 +99,7 @@ private:
     double m_mealStep = 1;
     double m_burnStep = 1;
     double m_balanceStep = 1;
-    double m_balancePerValue = 0;
+    ValueScale m_balanceScale;
     BurnStack m_stack;
 };
 

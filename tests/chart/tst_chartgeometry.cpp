@@ -1,5 +1,4 @@
-// The balance of a day, where things stand on the daily chart, and that what is seen is what is
-// hit.
+// The balance of a day, and what holds of its chart whatever the day, the size and the font are.
 #include "chart/charttexts.h"
 #include "chart/daylayout.h"
 #include "chart/hittest.h"
@@ -7,28 +6,48 @@
 
 #include <QTest>
 
+#include <map>
+#include <numeric>
+
 using namespace daychart;
 using Kind = Target::Kind;
 
 namespace {
 
-/// In text 16 high of which every character is 8 wide, more in larger roles.
+/// In text of which every character is half as wide as it is high, more in larger roles.
 DayGeometry geometryOf(const DayData &day, const QRectF &area = {0, 0, 600, 400},
-                       bool clock24 = true, double scale = 1)
+                       double lineHeight = 16, bool clock24 = true)
 {
-    const auto width = [scale](const QString &text, TextRole role) {
-        return scale * (role == TextRole::Figure ? 11 : 8) * double(text.size());
+    const auto width = [lineHeight](const QString &text, TextRole role) {
+        return lineHeight * (role == TextRole::Figure ? 0.69 : 0.5) * double(text.size());
     };
-    return dayGeometry(day, area, {16 * scale, 22 * scale, width},
+    return dayGeometry(day, area, {lineHeight, 1.4 * lineHeight, width},
                        ChartTexts(QLocale::c(), clock24));
 }
 
-DayData dayWithOutliers()
+/// A day in an area of at least the control's least size, between 600 x 400 and 4K.
+struct Sample
 {
-    DayData day = samples::typicalDay();
-    day.meals.push_back({14, QTime(20, 0), {10000, 15000, 5000}});
-    day.activities.push_back({23, QTime(21, 0), QTime(21, 1), 30000});
-    return day;
+    explicit Sample(quint32 seed)
+        : day(samples::anyDay(seed))
+    {
+        QRandomGenerator random(seed);
+        area = QRectF(random.bounded(99), random.bounded(99), 600 + random.bounded(3241),
+                      400 + random.bounded(1761));
+        const double largest = std::min(area.width() / 37, area.height() / 25);
+        lineHeight = 10 + random.bounded(std::min(60.0, largest) - 10);
+        g = geometryOf(day, area, lineHeight, seed % 4 > 0);
+    }
+
+    DayData day;
+    QRectF area;
+    double lineHeight;
+    DayGeometry g;
+};
+
+bool near(double a, double b, double tolerance = 1e-6)
+{
+    return std::abs(a - b) <= tolerance;
 }
 
 std::vector<QRectF> textRects(const DayGeometry &g)
@@ -53,12 +72,391 @@ bool fit(const std::vector<QRectF> &rects, const QRectF &area)
             return false;
         for (size_t j = 0; j < i; ++j) {
             const QRectF common = rects[i] & rects[j];
-            if (common.width() > 0.01 && common.height() > 0.01)
+            if (common.width() > 0.51 && common.height() > 0.51)
                 return false;
         }
     }
     return true;
 }
+
+bool textsFit(const Sample &s)
+{
+    std::vector<QRectF> rects = textRects(s.g);
+    for (const Swatch &swatch : s.g.swatches)
+        rects.push_back(swatch.rect);
+    return fit(rects, s.area);
+}
+
+bool textsKeepOffTheBalance(const Sample &s)
+{
+    const auto covers = [&](const QRectF &rect) {
+        return std::any_of(s.g.balance.begin(), s.g.balance.end(), [&](const QPointF &point) {
+            return rect.adjusted(0.01, 0.01, -0.01, -0.01).contains(point);
+        });
+    };
+    for (const auto &labels : {s.g.mealLabels, s.g.activityLabels}) {
+        for (const ItemLabel &label : labels) {
+            if (covers(label.text.rect))
+                return false;
+        }
+    }
+    return std::none_of(s.g.hints.begin(), s.g.hints.end(),
+                        [&](const PlacedText &hint) { return covers(hint.rect); });
+}
+
+/// Two lanes of about the same height, one below the other, as wide as the time is long.
+bool lanesShareTheArea(const Sample &s)
+{
+    const QRectF &meals = s.g.meals.area;
+    const QRectF &activities = s.g.activities.area;
+    return meals.bottom() == activities.top() && meals.bottom() == s.g.balanceZeroY &&
+           near(meals.height(), activities.height(), 1) &&
+           meals.height() + activities.height() > s.area.height() - 7 * s.lineHeight &&
+           meals.left() == s.g.time.left && near(meals.width(), s.g.time.width) &&
+           meals.width() > 0.45 * s.area.width() && meals.right() < s.area.right() &&
+           meals.left() == activities.left() && meals.right() == activities.right() &&
+           s.g.timeAxis.top() == activities.bottom() && s.g.timeAxis.width() == meals.width();
+}
+
+bool everyItemIsDrawn(const Sample &s)
+{
+    std::vector<QRectF> columns, segments;
+    for (const MealColumn &column : s.g.columns) {
+        columns.push_back(column.rect);
+        if (column.rect.height() < 0.24 * s.lineHeight || column.rect.width() < 3)
+            return false;
+    }
+    for (const ActivityBlock &block : s.g.blocks) {
+        segments.insert(segments.end(), block.segments.begin(), block.segments.end());
+        if (block.bounds.width() < 3 || block.bounds.height() < 1)
+            return false;
+    }
+    return columns.size() == s.day.meals.size() && s.g.blocks.size() == s.day.activities.size() &&
+           fit(columns, s.g.meals.area) && fit(segments, s.g.activities.area);
+}
+
+/// The parts are stacked from zero, carbohydrate first, what is negative downwards.
+bool columnsAreStackedToScale(const Sample &s)
+{
+    const double zero = s.g.meals.scale.zeroY;
+    for (size_t i = 0; i < s.g.columns.size(); ++i) {
+        const MealColumn &column = s.g.columns[i];
+        const Nutrients<int> &calories = s.day.meals[i].byNutrient;
+        double up = 0, down = 0, top = zero, bottom = zero;
+        for (const int value : calories)
+            (value > 0 ? up : down) += std::abs(value);
+        const double length = column.rect.height();
+        if (up + down == 0) {
+            if (column.rect.bottom() != zero || !near(length, 0.25 * s.lineHeight))
+                return false;
+            continue;
+        }
+        const double perCalorie = length / (up + down);
+        const bool isStub = std::max(up, down) * s.g.meals.scale.perValue < 0.25 * s.lineHeight;
+        if (!column.cut && !isStub && !near(perCalorie, s.g.meals.scale.perValue))
+            return false;
+        if (column.cut && perCalorie > s.g.meals.scale.perValue)
+            return false;
+        for (const Nutrient n : {Nutrient::Carbohydrate, Nutrient::Fat, Nutrient::Protein}) {
+            const QRectF &part = column.parts[n];
+            double &edge = calories[n] > 0 ? top : bottom;
+            if (!near(part.height(), std::abs(calories[n]) * perCalorie, 1e-6 * length))
+                return false;
+            if (calories[n] == 0)
+                continue;
+            if (!near(calories[n] > 0 ? part.bottom() : part.top(), edge) ||
+                part.left() != column.rect.left() || !near(part.width(), column.rect.width()))
+                return false;
+            edge = calories[n] > 0 ? part.top() : part.bottom();
+        }
+        if (!near(column.rect.top(), top) || !near(column.rect.bottom(), bottom))
+            return false;
+    }
+    return true;
+}
+
+/// In order of time, those of one moment in theirs. Columns that touch stand around their times,
+/// and so does one alone, where the midnights leave room; if need be, all are narrow.
+bool columnsStandAtTheirTimes(const Sample &s)
+{
+    std::vector<size_t> order(s.g.columns.size());
+    std::iota(order.begin(), order.end(), size_t(0));
+    std::stable_sort(order.begin(), order.end(),
+                     [&](size_t a, size_t b) { return s.day.meals[a].time < s.day.meals[b].time; });
+    const QRectF &lane = s.g.meals.area;
+    double moved = 0; // of the columns that touch
+    double edge = 0;  // of the one before
+    bool isFree = false;
+    for (const size_t i : order) {
+        const MealColumn &column = s.g.columns[i];
+        const QRectF &rect = column.rect;
+        const int minute = QTime(0, 0).secsTo(s.day.meals[i].time) / 60;
+        const double x = s.g.time.left + s.g.time.width * minute / 1440;
+        const double away = rect.center().x() - x;
+        const double gap = std::min(0.15 * s.lineHeight, 0.25 * rect.width());
+        const bool isNew = edge == 0 || rect.left() - edge > gap + 1e-6;
+        if (!near(column.timeX, x) || !near(rect.width(), s.g.columns[0].rect.width()) ||
+            (std::abs(away) > 0.81 * s.lineHeight && rect.width() > 0.36 * s.lineHeight) ||
+            rect.left() < edge + gap - 1e-6 || (isNew && isFree && !near(moved, 0, 1e-4)))
+            return false;
+        moved = isNew ? away : moved + away;
+        isFree = (isNew ? rect.left() > lane.left() + 1e-6 : isFree) &&
+                 rect.right() < lane.right() - 1e-6;
+        edge = rect.right();
+    }
+    return !isFree || near(moved, 0, 1e-4);
+}
+
+/// As long as they last, as high as what is burnt in a minute, on each other and on the background.
+bool blocksAreStackedToScale(const Sample &s)
+{
+    const ValueScale &scale = s.g.activities.scale;
+    const double base = scale.y(s.day.backgroundRate);
+    if (!near(s.g.band.top(), std::min(base, scale.zeroY)) ||
+        !near(s.g.band.bottom(), scale.zeroY) || s.g.band.left() != s.g.time.left ||
+        !near(s.g.band.width(), s.g.time.width))
+        return false;
+    const double shortest = 0.36 * s.lineHeight / 0.7;
+    for (size_t i = 0; i < s.g.blocks.size(); ++i) {
+        const ActivityBlock &block = s.g.blocks[i];
+        const ActivityItem &activity = s.day.activities[i];
+        const double minutes = activity.endMinute() - activity.beginMinute();
+        const double rate = std::abs(activity.calories) / minutes;
+        const double left = s.g.time.x(activity.beginMinute());
+        const double right = s.g.time.x(activity.endMinute());
+        if (right - left > shortest &&
+            (!near(block.bounds.left(), left) || !near(block.bounds.right(), right)))
+            return false;
+        if (block.bounds.left() > left + shortest || block.bounds.right() < right - shortest)
+            return false;
+        if (block.negative != (activity.calories < 0))
+            return false;
+        double x = block.bounds.left();
+        for (const QRectF &segment : block.segments) {
+            const double height = segment.height();
+            if (!near(segment.left(), x) || !near(height, block.segments[0].height(), 1e-4))
+                return false;
+            if (!block.cut && height > 0.26 * s.lineHeight &&
+                !near(height, rate * scale.perValue, 1e-4))
+                return false;
+            if (block.cut && height > rate * scale.perValue)
+                return false;
+            x = segment.right();
+            // It stands on what comes before it, or on the background.
+            const double at = segment.left() + 0.37 * segment.width();
+            double floor = base;
+            for (size_t j = 0; j < i; ++j) {
+                for (const QRectF &below : s.g.blocks[j].segments) {
+                    if (s.g.blocks[j].negative == block.negative && below.left() < at &&
+                        at < below.right())
+                        floor = block.negative ? below.bottom() : below.top();
+                }
+            }
+            if (!near(block.negative ? segment.top() : segment.bottom(), floor, 1e-4))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool balanceRunsThroughTheDay(const Sample &s)
+{
+    const auto curve = balanceCurve(s.day);
+    if (curve.front().minute != 0 || curve.back().minute != 1440 ||
+        !near(curve.back().calories, double(dayFigures(s.day).balance()), 0.5) ||
+        curve.size() != s.g.balance.size())
+        return false;
+    double extent = 0;
+    for (size_t i = 0; i < curve.size(); ++i) {
+        const double height = s.g.balanceZeroY - s.g.balance[i].y();
+        extent = std::max(extent, std::abs(height));
+        if (!near(s.g.balance[i].x(), s.g.time.x(curve[i].minute)) ||
+            height * curve[i].calories < 0 || !s.area.contains(s.g.balance[i]))
+            return false;
+        // Two points of one scale around zero.
+        if (i > 0 && !near(height * curve[i - 1].calories,
+                           (s.g.balanceZeroY - s.g.balance[i - 1].y()) * curve[i].calories,
+                           1e-6 * (1 + std::abs(curve[i].calories))))
+            return false;
+    }
+    // The line is as high as it can be, and its end is told beside it.
+    const QRectF &end = s.g.balanceEnd.rect;
+    return (s.g.balance.size() == 2 && s.day.backgroundRate == 0) ||
+           (extent > 0.4 * s.g.meals.area.height() && end.left() > s.g.meals.area.right() &&
+            std::abs(end.center().y() - s.g.balance.back().y()) <= 0.6 * s.lineHeight);
+}
+
+/// A labelled value, its line and its height say the same.
+bool scalesAreLabelled(const Sample &s)
+{
+    const auto isLabelled = [&](double y, double edge, const ValueScale *scale) {
+        return std::any_of(s.g.texts.begin(), s.g.texts.end(), [&](const PlacedText &text) {
+            const double side = scale ? text.rect.right() : text.rect.left();
+            if (!near(side, edge) || !near(text.rect.center().y(), y))
+                return false;
+            return !scale || near(scale->y(QLocale::c().toDouble(text.text)), y, 0.6);
+        });
+    };
+    const double left = s.g.time.left - labelGap * s.lineHeight;
+    const double right = s.g.time.left + s.g.time.width + labelGap * s.lineHeight;
+    for (const LaneGeometry *lane : {&s.g.meals, &s.g.activities}) {
+        if (lane->gridLines.size() < 2)
+            return false;
+        for (const double y : lane->gridLines) {
+            if (!isLabelled(y, left, &lane->scale) || y < lane->area.top() - 1 ||
+                y > lane->area.bottom() + 1)
+                return false;
+        }
+    }
+    return std::all_of(s.g.balanceMarks.begin(), s.g.balanceMarks.end(), [&](double y) {
+        return isLabelled(y, right, nullptr) ||
+               near(y, s.g.balanceEnd.rect.center().y(), 1.2 * s.lineHeight);
+    });
+}
+
+bool hoursAreLabelled(const Sample &s)
+{
+    if (s.g.hourLines.size() < 2 || (!s.g.hourMarks.empty() && s.g.hourMarks.size() != 25))
+        return false;
+    const int hours = qRound(24 * (s.g.hourLines[1] - s.g.hourLines[0]) / s.g.time.width);
+    const auto x = [&](double hour) { return s.g.time.left + s.g.time.width * hour / 24; };
+    for (size_t i = 0; i < s.g.hourLines.size(); ++i) {
+        const bool isNamed =
+            std::any_of(s.g.texts.begin(), s.g.texts.end(), [&](const PlacedText &text) {
+                return near(text.rect.center().x(), s.g.hourLines[i]) &&
+                       text.rect.top() > s.g.timeAxis.top();
+            });
+        if (!isNamed || !near(s.g.hourLines[i], x(double(i) * hours), 0.51))
+            return false;
+    }
+    for (size_t i = 0; i < s.g.hourMarks.size(); ++i) {
+        if (!near(s.g.hourMarks[i], x(double(i)), 0.51))
+            return false;
+    }
+    return s.g.hourLines.size() == size_t(24 / hours + 1);
+}
+
+/// What lies under any point, found without the chart's own search.
+bool whatIsSeenIsHit(const Sample &s)
+{
+    QRandomGenerator random(7);
+    const auto distance = [](const QRectF &rect, const QPointF &p) {
+        return std::max(
+            {rect.left() - p.x(), p.x() - rect.right(), rect.top() - p.y(), p.y() - rect.bottom()});
+    };
+    const auto holds = [&](const QPointF &point) {
+        const Target target = targetAt(s.g, point);
+        for (const Lane which : {Lane::Meals, Lane::Activities}) {
+            const LaneGeometry &lane = s.g.lane(which);
+            if (lane.header.contains(point) || lane.figure.contains(point))
+                return target == Target{Kind::Caption, which};
+            if (!lane.area.contains(point))
+                continue;
+            if (target.lane != which)
+                return point.y() == lane.area.bottom();
+            std::vector<std::pair<double, int>> found;
+            for (size_t i = 0; i < s.g.columns.size() && which == Lane::Meals; ++i)
+                found.push_back({distance(s.g.columns[i].rect, point), int(i)});
+            for (size_t i = 0; i < s.g.blocks.size() && which == Lane::Activities; ++i) {
+                for (const QRectF &segment : s.g.blocks[i].segments)
+                    found.push_back({distance(segment, point), int(i)});
+            }
+            const auto nearest = std::min_element(found.begin(), found.end());
+            if (nearest != found.end() && nearest->first < 0)
+                return target == Target{Kind::Item, which, nearest->second};
+            for (const ItemLabel &label :
+                 which == Lane::Meals ? s.g.mealLabels : s.g.activityLabels) {
+                if (label.text.rect.contains(point))
+                    return target.kind == Kind::Item && target.item == label.item;
+            }
+            const double away = nearest == found.end() ? 1e9 : nearest->first;
+            if (std::abs(away - 0.15 * s.lineHeight) < 1e-3 || away < 0.15 * s.lineHeight)
+                return target.kind == Kind::Item || away > 0.149 * s.lineHeight;
+            return target.kind == Kind::FreePlace;
+        }
+        return target.kind == Kind::None;
+    };
+    for (int i = 0; i < 100; ++i) {
+        if (!holds(s.area.topLeft() +
+                   QPointF(random.bounded(s.area.width()), random.bounded(s.area.height()))))
+            return false;
+    }
+    for (const MealColumn &column : s.g.columns) {
+        const QRectF &r = column.rect;
+        for (const QPointF &p : {r.center(), QPointF(r.left() - 0.1 * s.lineHeight, r.center().y()),
+                                 QPointF(r.center().x(), r.top() - 0.3 * s.lineHeight)}) {
+            if (!holds(p))
+                return false;
+        }
+    }
+    for (int minute = 0; minute < 1440; minute += 7) {
+        const int grid = s.g.time.width < 1152 ? 5 : 1;
+        const int hit = minuteAt(s.g, s.g.time.x(minute));
+        if (std::abs(hit - minute) > grid / 2 || (hit % grid != 0 && hit != 1439))
+            return false;
+    }
+    return minuteAt(s.g, s.area.left()) == 0 && minuteAt(s.g, s.area.right()) == 1439;
+}
+
+/// The larger figures are written; the smaller where they find room.
+bool itemsAreLabelled(const Sample &s)
+{
+    const ChartTexts texts(QLocale::c(), true);
+    for (const ItemLabel &label : s.g.mealLabels) {
+        const QRectF &column = s.g.columns[size_t(label.item)].rect;
+        const QRectF &rect = label.text.rect;
+        if (label.text.text != texts.number(s.day.meals[size_t(label.item)].calories()) ||
+            rect.right() < column.left() - 0.01 || rect.left() > column.right() + 0.01 ||
+            std::min(std::abs(rect.bottom() - column.top()),
+                     std::abs(rect.top() - column.bottom())) > 1.11 * s.lineHeight)
+            return false;
+    }
+    for (const ItemLabel &label : s.g.activityLabels) {
+        const QRectF &bounds = s.g.blocks[size_t(label.item)].bounds;
+        if (label.text.text != texts.number(s.day.activities[size_t(label.item)].calories) ||
+            !bounds
+                 .adjusted(-3 * s.lineHeight, -1.7 * s.lineHeight, 3 * s.lineHeight,
+                           0.5 * s.lineHeight)
+                 .contains(label.text.rect.center()))
+            return false;
+    }
+    return s.g.hints.size() <= size_t(s.day.meals.empty()) + size_t(s.day.activities.empty()) &&
+           (s.day.meals.empty() || !s.g.mealLabels.empty() || s.day.meals.size() > 3);
+}
+
+/// Of the same day, in an area that is wider by a third. A wider block may need a coarser scale,
+/// and another place for a figure may take that of two smaller ones.
+bool widerShowsNoLess(const Sample &s)
+{
+    QRectF wide = s.area;
+    wide.setWidth(1.34 * wide.width());
+    const DayGeometry g = geometryOf(s.day, wide, s.lineHeight);
+    return g.texts.size() + 1 >= s.g.texts.size() && g.hints.size() >= s.g.hints.size() &&
+           g.hourLines.size() >= s.g.hourLines.size() && g.swatches.size() == s.g.swatches.size() &&
+           g.mealLabels.size() + 2 >= s.g.mealLabels.size() &&
+           g.activityLabels.size() + 2 >= s.g.activityLabels.size();
+}
+
+struct Property
+{
+    const char *name;
+    bool (*holds)(const Sample &);
+};
+constexpr std::array properties = {
+    Property{"texts fit", textsFit},
+    Property{"texts keep off the balance", textsKeepOffTheBalance},
+    Property{"lanes share the area", lanesShareTheArea},
+    Property{"every item is drawn", everyItemIsDrawn},
+    Property{"columns are stacked to scale", columnsAreStackedToScale},
+    Property{"columns stand at their times", columnsStandAtTheirTimes},
+    Property{"blocks are stacked to scale", blocksAreStackedToScale},
+    Property{"balance runs through the day", balanceRunsThroughTheDay},
+    Property{"scales are labelled", scalesAreLabelled},
+    Property{"hours are labelled", hoursAreLabelled},
+    Property{"what is seen is hit", whatIsSeenIsHit},
+    Property{"items are labelled", itemsAreLabelled},
+    Property{"wider shows no less", widerShowsNoLess},
+};
 
 } // namespace
 
@@ -88,111 +486,51 @@ private slots:
         const DayData day = {0, {{1, QTime(12, 0), {most, most, most}}}, {atOnce, backwards}};
         QCOMPARE(dayFigures(day).balance(), qint64(most));
     }
-    void everythingFitsAndIsHit_data()
+    void holdsOfEveryDay()
     {
-        QTest::addColumn<DayData>("day");
-        QTest::newRow("nothing") << DayData();
-        QTest::newRow("outliers") << dayWithOutliers();
-        for (quint32 seed = 1; seed <= 100; ++seed)
-            QTest::addRow("any day %u", seed) << samples::anyDay(seed);
-    }
-    void everythingFitsAndIsHit()
-    {
-        QFETCH(DayData, day);
-        const auto curve = balanceCurve(day);
-        QVERIFY(curve.front().minute == 0 && curve.back().minute == 1440);
-        QVERIFY(std::abs(curve.back().calories - double(dayFigures(day).balance())) <= 0.5);
-        const QRectF small(30, 20, 600, 400), large(30, 20, 3840, 2160);
-        for (const DayGeometry &g : {geometryOf(day, small), geometryOf(day, large, true, 2.5),
-                                     geometryOf(day, {0, 0, 1000, 650}, false)}) {
-            QVERIFY(fit(textRects(g), g.area));
-            QCOMPARE(g.columns.size(), day.meals.size());
-            QCOMPARE(g.blocks.size(), day.activities.size());
-            for (size_t i = 1; i < curve.size(); ++i) { // two points of one scale around zero
-                QVERIFY(g.balance[i].x() >= g.balance[i - 1].x());
-                QVERIFY((g.balanceZeroY - g.balance[i].y()) * curve[i].calories >= 0);
-                QVERIFY(std::abs((g.balance[i].y() - g.balanceZeroY) * curve[i - 1].calories -
-                                 (g.balance[i - 1].y() - g.balanceZeroY) * curve[i].calories) <
-                        1e-6 * (1 + std::abs(curve[i].calories)));
-            }
-            std::vector<QRectF> columns, segments;
-            for (size_t i = 0; i < g.columns.size(); ++i) {
-                const QRectF &column = columns.emplace_back(g.columns[i].rect);
-                QVERIFY(column.height() > 3 && column.width() > 3);
-                QCOMPARE(targetAt(g, column.center()), (Target{Kind::Item, Lane::Meals, int(i)}));
-            }
-            for (size_t i = 0; i < g.blocks.size(); ++i) {
-                QVERIFY(g.blocks[i].bounds.width() > 3 && g.blocks[i].bounds.height() > 1);
-                for (const QRectF &segment : g.blocks[i].segments) {
-                    segments.push_back(segment);
-                    QCOMPARE(targetAt(g, segment.center()),
-                             (Target{Kind::Item, Lane::Activities, int(i)}));
-                }
-            }
-            QVERIFY(fit(columns, g.meals.area) && fit(segments, g.activities.area));
-            for (const auto &labels : {g.mealLabels, g.activityLabels}) {
-                for (const ItemLabel &label : labels)
-                    QCOMPARE(targetAt(g, label.text.rect.center()).item, label.item);
+        std::map<QByteArray, QList<quint32>> broken;
+        for (quint32 seed = 1; seed <= 2000; ++seed) {
+            const Sample sample(seed);
+            for (const Property &property : properties) {
+                if (!property.holds(sample))
+                    broken[property.name] << seed;
             }
         }
+        for (const auto &[name, seeds] : broken)
+            qWarning() << name << "is broken by" << seeds.size() << "days, the first ones"
+                       << seeds.mid(0, 8);
+        QVERIFY(broken.empty());
     }
-    void itemsStandToScaleAtTheirTimes()
+    void areasOfNoSize()
     {
-        DayData day = samples::typicalDay();
-        day.meals.insert(day.meals.end(), {{14, QTime(12, 45), {0, 100, 0}},
-                                           {15, QTime(2, 0), {}},
-                                           {16, QTime(4, 30), {-40, -100, -30}},
-                                           {17, QTime(22, 0), {-60, 100, 30}}});
-        day.activities.push_back({23, QTime(15, 0), QTime(16, 0), -120});
-        const DayGeometry g = geometryOf(day);
-        const double zero = g.meals.scale.zeroY;
-        const auto &parts = g.columns[1].parts;
-        double bottom = zero;
-        for (const auto &[part, calories] : {std::pair(Nutrient::Carbohydrate, 340),
-                                             {Nutrient::Fat, 260},
-                                             {Nutrient::Protein, 180}}) {
-            QCOMPARE(parts[part].bottom(), bottom);
-            QCOMPARE(parts[part].height(), calories * g.columns[0].rect.height() / 430);
-            bottom = parts[part].top();
+        for (const QRectF &area : {QRectF(), QRectF(5, 5, 1, 1), QRectF(0, 0, 5000, 2),
+                                   QRectF(0, 0, 2, 5000), QRectF(0, 0, 100, 60)}) {
+            for (quint32 seed = 1; seed <= 50; ++seed) {
+                const DayData day = samples::anyDay(seed);
+                const DayGeometry g = geometryOf(day, area);
+                QCOMPARE(g.columns.size(), day.meals.size());
+                for (const QRectF &rect : textRects(g))
+                    QVERIFY(std::isfinite(rect.width()) && std::isfinite(rect.top()));
+                for (const MealColumn &column : g.columns)
+                    QVERIFY(column.rect.width() > 0 && std::isfinite(column.rect.top()));
+                for (const QPointF &point : g.balance)
+                    QVERIFY(std::isfinite(point.x()) && std::isfinite(point.y()));
+                QVERIFY(minuteAt(g, area.center().x()) <= 1439);
+            }
         }
-        QVERIFY(std::abs(g.columns[0].rect.center().x() - g.time.x(450)) < 0.01);
-        // Two at the same time stand on both sides of it, in the order in which they came.
-        const QRectF &first = g.columns[1].rect, &second = g.columns[3].rect;
-        QVERIFY(std::abs((first.center().x() + second.center().x()) / 2 - g.time.x(765)) < 0.01);
-        QVERIFY(first.right() <= second.left());
-        QCOMPARE(g.columns[4].rect.bottom(), zero); // no calories: a stub
-        QCOMPARE(g.columns[5].rect.top(), zero);
-        // A meal of both signs stands on both sides of zero.
-        QCOMPARE(g.columns[6].parts[Nutrient::Carbohydrate].bottom(), zero);
-        QCOMPARE(g.columns[6].parts[Nutrient::Fat].top(), zero);
-        QCOMPARE(g.columns[6].parts[Nutrient::Protein].bottom(),
-                 g.columns[6].parts[Nutrient::Carbohydrate].top());
-        // Below zero calories per minute is what a negative activity takes from the background.
-        QCOMPARE(g.blocks[2].bounds.top(), g.activities.scale.y(1.25));
-        QVERIFY(g.blocks[2].bounds.bottom() > g.activities.scale.zeroY && g.blocks[2].negative);
     }
     void outlierLeavesOthersVisible()
     {
-        const DayGeometry g = geometryOf(dayWithOutliers());
+        DayData day = samples::typicalDay();
+        day.meals.push_back({14, QTime(20, 0), {10000, 15000, 5000}});
+        day.activities.push_back({23, QTime(21, 0), QTime(21, 1), 30000});
+        const DayGeometry g = geometryOf(day);
         QVERIFY(g.columns[3].cut && g.blocks[2].cut && !g.columns[1].cut && !g.blocks[1].cut);
         QVERIFY(g.columns[1].rect.height() > g.meals.area.height() / 3);
         QVERIFY(g.blocks[1].bounds.height() > g.activities.area.height() / 3);
         QVERIFY(std::any_of(g.mealLabels.begin(), g.mealLabels.end(), [](const ItemLabel &label) {
             return label.item == 3 && label.text.text == QStringLiteral("30000");
         }));
-    }
-    void activitiesStackWhereTheyOverlap()
-    {
-        const DayGeometry g = geometryOf(
-            {1, {}, {{1, QTime(9, 0), QTime(11, 0), 240}, {2, QTime(10, 0), QTime(12, 0), 480}}});
-        const auto box = [&](int begin, int end, double low, double high) {
-            const ValueScale &scale = g.activities.scale;
-            return QRectF(QPointF(g.time.x(begin), scale.y(high)),
-                          QPointF(g.time.x(end), scale.y(low)));
-        };
-        QCOMPARE(g.blocks[0].segments, std::vector{box(540, 660, 1, 3)});
-        // The second one stands on the first while that lasts, then on the background.
-        QCOMPARE(g.blocks[1].segments, (std::vector{box(600, 660, 3, 7), box(660, 720, 1, 5)}));
     }
 };
 
