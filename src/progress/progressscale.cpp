@@ -15,7 +15,9 @@ std::vector<double> SteppedScale::ticks(double apart) const
     const double distance = height() * step / (high - low);
     const double every =
         distance >= apart ? step : step * std::ceil(plot::roundStep(apart / distance));
-    return plot::multiplesBetween(low, high, every);
+    const std::vector<double> values = plot::multiplesBetween(low, high, every);
+    // One value alone is no scale.
+    return values.size() < 2 && height() >= apart ? std::vector{low, high} : values;
 }
 
 SteppedScale scaleOf(const Range &range, int steps, double leastStep, double topY, double bottomY)

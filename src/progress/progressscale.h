@@ -17,8 +17,8 @@ struct SteppedScale
 
     double y(double value) const { return bottomY - (value - low) / (high - low) * height(); }
     double height() const { return bottomY - topY; }
-    /// The multiples of the step, or of a few steps, that stand at least so far apart; none where
-    /// the scale has no height.
+    /// The multiples of the step, or of a few steps, that stand at least so far apart, or else the
+    /// two ends; none where the scale has no height.
     std::vector<double> ticks(double apart) const;
 };
 
