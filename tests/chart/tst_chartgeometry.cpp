@@ -399,7 +399,37 @@ bool itemsAreLabelled(const Sample &s)
             return false;
     }
     return s.g.hints.size() <= size_t(s.day.meals.empty()) + size_t(s.day.activities.empty()) &&
-           (s.day.meals.empty() || !s.g.mealLabels.empty() || s.day.meals.size() > 3);
+           (s.day.meals.empty() || !s.g.mealLabels.empty()) &&
+           (s.day.activities.empty() || !s.g.activityLabels.empty() || s.day.activities.size() > 2);
+}
+
+/// Beside a lane, one below the other, each part's name and figure in the line of its sample.
+bool legendsNameTheParts(const Sample &s)
+{
+    const ChartTexts texts(QLocale::c(), true);
+    const DayFigures figures = dayFigures(s.day);
+    size_t values = 0;
+    for (const Swatch &swatch : s.g.swatches) {
+        if (swatch.part == Part::Balance)
+            continue;
+        const bool isBurn = swatch.part == Part::Activity || swatch.part == Part::Background;
+        const LaneGeometry &lane = isBurn ? s.g.activities : s.g.meals;
+        const qint64 calories = swatch.part == Part::Activity ? figures.activities
+                                : swatch.part == Part::Background
+                                    ? figures.background
+                                    : figures.byNutrient[nutrientOf(swatch.part)];
+        size_t names = 0;
+        for (const PlacedText &text : s.g.texts) {
+            if (!near(text.rect.center().y(), swatch.rect.center().y()) ||
+                text.rect.right() > lane.header.right())
+                continue;
+            names += text.text == texts.part(swatch.part);
+            values += text.text == texts.number(calories);
+        }
+        if (names != 1 || !lane.header.contains(swatch.rect) || lane.header.right() > s.g.time.left)
+            return false;
+    }
+    return s.g.swatches.size() == 6 && (values == 5 || values == 0);
 }
 
 /// Of the same day, in an area that is wider by a third. A wider block may need a coarser scale,
@@ -428,6 +458,7 @@ constexpr std::array properties = {
     Property<Sample>{"hours are labelled", hoursAreLabelled},
     Property<Sample>{"what is seen is hit", whatIsSeenIsHit},
     Property<Sample>{"items are labelled", itemsAreLabelled},
+    Property<Sample>{"legends name the parts", legendsNameTheParts},
     Property<Sample>{"wider shows no less", widerShowsNoLess},
 };
 

@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QToolTip>
 
 using namespace daychart;
@@ -57,6 +58,7 @@ private slots:
     void init()
     {
         QAccessible::setActive(true);
+        QTest::failOnWarning(QRegularExpression(u"QPainter"_s));
         m_graph = std::make_unique<TrellumGraph>();
         m_graph->setLocale(QLocale::c());
         m_graph->resize(1000, 650);
@@ -181,6 +183,104 @@ private slots:
             QVERIFY2(isSeen, qPrintable(QString::number(corner.x())));
         }
     }
+    void paintsWhatIsLaidOut()
+    {
+        DayData day = samples::typicalDay();
+        day.meals.insert(day.meals.end(), {{14, QTime(3, 0), {}}, // and one that is cut off
+                                           {15, QTime(23, 0), {9000, 15000, 9000}}});
+        day.activities.insert(day.activities.end(), {{23, QTime(2, 0), QTime(4, 0), -60},
+                                                     {24, QTime(8, 15), QTime(9, 30), 300},
+                                                     {25, QTime(21, 0), QTime(22, 30), 80000}});
+        fill(day);
+        const DayGeometry g = geometry(day);
+        const DayColors c(m_graph->palette());
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(m_graph.get(), &leave);
+        const QImage image = m_graph->grab().toImage();
+        const auto share = [&](const QRectF &rect, const QColor &color) {
+            const QRect dots = rect.toAlignedRect() & image.rect();
+            int found = 0;
+            for (int i = 0; i < dots.width() * dots.height(); ++i)
+                found += image.pixel(dots.left() + i % dots.width(),
+                                     dots.top() + i / dots.width()) == color.rgb();
+            return double(found) / (dots.width() * dots.height());
+        };
+        const auto cutOf = [&](const QRectF &rect, double down) {
+            return QRectF(rect.left(), rect.top() + down * rect.height() - 0.3 * g.unit,
+                          rect.width(), 0.6 * g.unit);
+        };
+        const auto row = [&](double y, const QRectF &along) {
+            return QRectF(along.left(), std::round(y) - 1, along.width(), 1.5);
+        };
+        for (const MealColumn &column : g.columns) {
+            for (const Nutrient n : allNutrients) {
+                const QRectF inner = column.parts[n].adjusted(1, 2, -2, -2);
+                QVERIFY(inner.height() < 2 || share(inner, c.nutrients[n]) > 0.2);
+                QVERIFY(n != Nutrient::Fat || inner.height() < 9 ||
+                        share(inner, c.nutrients[n]) < 0.9);
+            }
+            QVERIFY(!column.cut || share(cutOf(column.rect, 0.2), c.ground) > 0.1);
+        }
+        QVERIFY(share(g.columns[3].rect, c.stub) > 0.05);
+        QVERIFY(share(row(g.columns[3].rect.top(), g.columns[3].rect), c.axis) > 0.4);
+        for (const ActivityBlock &block : g.blocks) {
+            for (const QRectF &segment : block.segments) {
+                QVERIFY(share(segment.adjusted(2, 2, -2, -2),
+                              block.negative ? c.ground : c.activity) > 0.2);
+                for (const double y : {segment.top(), segment.bottom()})
+                    QVERIFY(block.segments.size() > 1 ||
+                            share(row(y, segment), c.activityEdge) > 0.1);
+            }
+            for (const double x : {block.bounds.left(), block.bounds.right()})
+                QVERIFY(share({x - 1, block.bounds.top(), 1.5, block.bounds.height()},
+                              c.activityEdge) > 0.1);
+            QVERIFY(!block.cut || share(cutOf(block.bounds, 0.25), c.ground) > 0.1);
+        }
+        for (const LaneGeometry *lane : {&g.meals, &g.activities}) {
+            QVERIFY(share(row(lane->scale.zeroY, lane->area), c.axis) > 0.03);
+            for (const double y : lane->gridLines)
+                QVERIFY(y == lane->scale.zeroY || share(row(y, lane->area), c.grid) > 0.1);
+        }
+        for (const double x : g.hourLines)
+            QVERIFY(share({x - 1, g.meals.area.top(), 1.5, g.meals.area.height()}, c.grid) > 0.2);
+        for (const double x : g.hourMarks)
+            QVERIFY(share({x - 1, g.timeAxis.top() + 1, 1.5, 1}, c.axis) > 0.3);
+        QVERIFY(share(g.band, c.band) > 0.5 && share(row(g.band.top(), g.band), c.bandEdge) > 0.3);
+        QVERIFY(share(g.balanceEnd.rect, c.balance) > 0.4 && share(g.area, c.ground) > 0.5);
+        for (const Swatch &swatch : g.swatches)
+            QVERIFY(share(swatch.rect, c.fill(swatch.part)) > 0.02);
+        for (const PlacedText &text : g.texts)
+            QVERIFY(share(text.rect, c.ground) < 0.98);
+    }
+    void emphasisTellsWhatIsPointedAt()
+    {
+        const DayGeometry g = geometry();
+        const QColor highlight = m_graph->palette().color(QPalette::Highlight);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(m_graph.get(), &leave);
+        const QImage before = m_graph->grab().toImage();
+        const QRectF lane = g.activities.area;
+        for (const auto &[point, bounds] :
+             {std::pair(columnOf(1), g.columns[1].rect),
+              {g.blocks[1].bounds.center().toPoint(), g.blocks[1].bounds},
+              {g.meals.header.center().toPoint(), g.meals.header},
+              {place(Lane::Activities, 700),
+               QRectF(g.time.x(700) - 60, lane.top(), 120, lane.height() + 2 * g.unit)}}) {
+            QTest::mouseMove(m_graph.get(), point);
+            const QImage after = m_graph->grab().toImage();
+            QRect changed;
+            bool isHighlighted = false;
+            for (int i = 0; i < before.width() * before.height(); ++i) {
+                const QPoint dot(i % before.width(), i / before.width());
+                if (before.pixel(dot) != after.pixel(dot))
+                    changed |= QRect(dot, QSize(1, 1));
+                isHighlighted |= after.pixelColor(dot) == highlight;
+            }
+            QVERIFY(isHighlighted == (bounds != g.meals.header) && changed.contains(point));
+            QVERIFY(bounds.adjusted(-4, -4, 4, 4).contains(changed));
+            QVERIFY(changed.height() > bounds.height() - 12);
+        }
+    }
     void tooManyItemsAreCountedButNotDrawn()
     {
         DayData day = {1, {}, {}};
@@ -227,6 +327,8 @@ private slots:
         chart()->child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(raised(), QStringList("meal 12 1 12:45"));
         QCOMPARE(chart()->focusChild(), chart()->child(2));
+        fill({});
+        QVERIFY(!chart()->child(-1) && !chart()->child(chart()->childCount()));
     }
 };
 
