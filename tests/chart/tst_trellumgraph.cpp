@@ -198,12 +198,7 @@ private slots:
         QApplication::sendEvent(m_graph.get(), &leave);
         const QImage image = m_graph->grab().toImage();
         const auto share = [&](const QRectF &rect, const QColor &color) {
-            const QRect dots = rect.toAlignedRect() & image.rect();
-            int found = 0;
-            for (int i = 0; i < dots.width() * dots.height(); ++i)
-                found += image.pixel(dots.left() + i % dots.width(),
-                                     dots.top() + i / dots.width()) == color.rgb();
-            return double(found) / (dots.width() * dots.height());
+            return ::share(image, rect, color);
         };
         const auto cutOf = [&](const QRectF &rect, double down) {
             return QRectF(rect.left(), rect.top() + down * rect.height() - 0.3 * g.unit,

@@ -4,6 +4,8 @@
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
 #include "progress/progresschart.h"
+#include "progress/progresscolors.h"
+#include "progress/progresslayout.h"
 #include "progresssamples.h"
 
 #include <QLabel>
@@ -110,6 +112,65 @@ private slots:
         for (int y = 0; y < chart.height() && notes.currentRow() != 1; y += 4)
             QTest::mouseClick(&chart, Qt::LeftButton, {}, {chart.width() * 6 / 10, y});
         QCOMPARE(notes.currentRow(), 1);
+    }
+    void paintsWhatIsLaidOut()
+    {
+        m_journal->addMeasurement(firstDay.addDays(9), 78);
+        m_journal->addMeal(firstDay.addDays(3), 900);
+        m_journal->exec("delete from MealConsume where MealConsumeID in (11, 12)");
+        m_journal->addNote(firstDay.addDays(20), firstDay.addDays(26), QStringLiteral("Note"));
+        const progress::DaySeries series = progress::loadSeries(
+            *m_journal->data, month, m_journal->session->parameters().metabolicRate);
+        const progress::ProgressTexts texts(m_journal->session->text(), true);
+        ProgressChart chart(series, texts);
+        chart.resize(1000, 640);
+        for (const QColor paper : {Qt::white, Qt::black}) {
+            QPalette palette = chart.palette();
+            palette.setColor(QPalette::Base, paper);
+            palette.setColor(QPalette::Text, QColor(paper.rgb() ^ 0xffffff));
+            chart.setPalette(palette);
+            const QImage image = chart.grab().toImage();
+            const plot::Fonts fonts(chart.font(), chart.logicalDpiY(), &chart);
+            const progress::ProgressGeometry g = progress::progressGeometry(
+                series, chart.rect(), plot::metricsOf(fonts, &chart), texts);
+            const progress::ProgressColors c(palette);
+            const auto has = [&](const QRectF &rect, const QColor &color, double least) {
+                return share(image, rect, color) > least;
+            };
+            const auto around = [](const QPointF &at) {
+                return QRectF(at.x() - 2, at.y() - 2, 4, 4);
+            };
+            for (const progress::BalanceColumn &column : g.columns)
+                QVERIFY(has(column.rect.adjusted(2, 2, -2, -2),
+                            column.isSurplus ? c.surplus : c.deficit, 0.4));
+            QCOMPARE(g.notRecorded.size(), size_t(1));
+            QVERIFY(has(g.notRecorded[0], c.ground, 0.1) && !has(g.notRecorded[0], c.ground, 0.9));
+            for (const progress::SeriesLine &line : g.lines) {
+                for (const progress::Mark &mark : line.marks)
+                    QVERIFY(has(around(mark.at),
+                                mark.kind == progress::Mark::Kind::Measured ? c.line(line.series)
+                                                                            : c.ground,
+                                0.1));
+                for (const QLineF &bridge : line.bridges)
+                    QVERIFY(!has(around(bridge.pointAt(0.17)), c.ground, 0.9));
+            }
+            const progress::NoteSpan &note = g.notes.front();
+            QVERIFY(!has(note.bar, c.ground, 0.05) && has(note.bar, c.ink, 0.001));
+            QVERIFY(!has(note.reach & g.girths.area, c.ground, 0.05) && has(g.plot, c.ground, 0.3));
+            for (const double x : g.monthLines)
+                QVERIFY(
+                    !has({x - 1, g.girths.area.top(), 2, g.girths.area.height()}, c.ground, 0.8));
+            for (const double y : g.girths.grid)
+                QVERIFY(has({g.plot.left(), y - 1, g.plot.width(), 2}, c.grid, 0.1));
+            QVERIFY(has({g.plot.left(), g.averageY - 2, g.plot.width(), 3}, c.ink, 0.05));
+            QCOMPARE(g.legend.size(), size_t(9));
+            for (const progress::LegendEntry &entry : g.legend) {
+                using Kind = progress::LegendKind;
+                QVERIFY(!has(entry.sample, c.ground, 0.98));
+                QVERIFY(entry.kind != Kind::Surplus || has(entry.sample, c.surplus, 0.6));
+                QVERIFY(entry.kind != Kind::Deficit || has(entry.sample, c.deficit, 0.6));
+            }
+        }
     }
     void pictureIsSaved()
     {

@@ -26,6 +26,16 @@ QString RecordedMessages::takeText()
     return text;
 }
 
+double share(const QImage &picture, const QRectF &rect, const QColor &color)
+{
+    const QRect dots = rect.toAlignedRect() & picture.rect();
+    int found = 0;
+    for (int i = 0; i < dots.width() * dots.height(); ++i)
+        found += picture.pixel(dots.left() + i % dots.width(), dots.top() + i / dots.width()) ==
+                 color.rgb();
+    return double(found) / std::max(1, dots.width() * dots.height());
+}
+
 void typeInto(QWidget &field, const QString &text)
 {
     field.setFocus();

@@ -4,6 +4,7 @@
 #include "ui/messages.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -48,6 +49,9 @@ Control &control(const QWidget &window, const char *name)
         qFatal("%s has no control %s", qPrintable(window.objectName()), name);
     return *found;
 }
+
+/// The share of a rectangle's dots in a picture that have exactly this colour.
+double share(const QImage &picture, const QRectF &rect, const QColor &color);
 
 /// Types as a person does: focus, select all, keys.
 void typeInto(QWidget &field, const QString &text);
