@@ -6,6 +6,7 @@
 #include "progress/progresschart.h"
 #include "progress/progresscolors.h"
 #include "progress/progresslayout.h"
+#include "progress/progresspages.h"
 #include "progresssamples.h"
 
 #include <QLabel>
@@ -170,7 +171,52 @@ private slots:
                 QVERIFY(entry.kind != Kind::Surplus || has(entry.sample, c.surplus, 0.6));
                 QVERIFY(entry.kind != Kind::Deficit || has(entry.sample, c.deficit, 0.6));
             }
+            // What is pointed at.
+            const auto lit = [&](const QRectF &rect) {
+                return share(chart.grab().toImage(), rect, c.highlight);
+            };
+            QVERIFY(lit(note.bar) == 0);
+            chart.showNote(0);
+            QVERIFY(lit(note.bar) > 0.3);
+            chart.showNote(std::nullopt);
+            const QPointF tenth(g.days.center(10), g.girths.area.center().y());
+            QMouseEvent move(QEvent::MouseMove, tenth, tenth, Qt::NoButton, {}, {});
+            QApplication::sendEvent(&chart, &move);
+            const QRectF line(tenth.x() - 1.5, g.lanesTop, 3, g.plot.bottom() - g.lanesTop);
+            const QImage pointed = chart.grab().toImage();
+            const auto changed = [&](const QRectF &rect) {
+                return pointed.copy(rect.toRect()) != image.copy(rect.toRect());
+            };
+            int same = 0; // where a mark stands on its day already
+            for (double y = line.top() + 2; y < line.bottom() - 9; y += 9)
+                same += !changed({line.left(), y, line.width(), 3});
+            QVERIFY(same < 4);
+            QVERIFY(!changed(line.translated(14, 0)) && !changed(line.translated(-14, 0)));
+            QEvent leave(QEvent::Leave);
+            QApplication::sendEvent(&chart, &leave);
         }
+    }
+    void notesStandBelowThePicture()
+    {
+        for (int i = 0; i < 6; ++i)
+            m_journal->addNote(firstDay.addDays(3 * i), firstDay.addDays(3 * i + 1),
+                               QString(40, u'W'));
+        const progress::DaySeries series = progress::loadSeries(*m_journal->data, month, 59);
+        const progress::ProgressTexts texts(m_journal->session->text(), true);
+        const QImage image = progress::pictureOf(
+            {series, texts, QStringLiteral("Heading"), QApplication::font()}, {900, 500}, 96);
+        const double edge = 0.5 * QFontMetricsF(QApplication::font()).height();
+        const auto ink = [&](double left, double top, double right, double bottom) {
+            return 1 - share(image, QRectF(QPointF(left, top), QPointF(right, bottom)), Qt::white);
+        };
+        const double width = image.width(), height = image.height(),
+                     notes = height - 500 - 5 * edge;
+        QVERIFY(notes > 4 * edge && notes < 30 * edge && width < 900 + 5 * edge);
+        const double foot = height - notes + 2 * edge;
+        QVERIFY(ink(0, 0, width, edge) + ink(0, height - edge, width, height) == 0);
+        QVERIFY(ink(0, 0, edge, height) + ink(width - edge, 0, width, height) == 0);
+        QVERIFY(ink(0, foot, width / 3, height) > 0.01 &&
+                ink(width * 2 / 3, foot, width, height) > 0.01);
     }
     void pictureIsSaved()
     {

@@ -300,6 +300,15 @@ bool datesStandAtTheirDays(const Sample &s)
         if ((isMonday && !has(s.g.weekLines, left)) || (isFirst && !has(s.g.monthLines, left)) ||
             s.g.days.dayAt(s.center(day)) != day)
             return false;
+        // A month that ends here, or with the period, is named in the middle of its days.
+        const int days = std::min<int>(date.day(), day);
+        if ((day == s.series.nDays() || date.day() == date.daysInMonth()) &&
+            days * s.g.days.dayWidth > 3 * s.lineHeight && !anyText(s, [&](const PlacedText &text) {
+                return text.text.startsWith(QLocale::c().monthName(date.month()).left(3)) &&
+                       near(text.rect.center().x(), left + (1 - days / 2.0) * s.g.days.dayWidth) &&
+                       text.rect.top() > s.g.plot.bottom();
+            }))
+            return false;
         numbers += anyText(s, [&](const PlacedText &text) {
             return text.text == QString::number(date.day()) &&
                    near(text.rect.top(), s.g.plot.bottom() + 0.2 * s.lineHeight) &&
