@@ -74,6 +74,7 @@ private slots:
     void slopes();
     void hatching_data() { densities(); }
     void hatching();
+    void colorsKeepTheirDistance();
 
 private:
     void densities()
@@ -132,6 +133,33 @@ void tst_drawing::hatching()
     QVERIFY(near(once.bounds, whole, 1 / dots));
     const double distance = 0.3 * 40 / std::sqrt(2);
     QVERIFY(::near(once.area / (whole.width() * whole.height()), hairline / distance, 0.03));
+}
+
+void tst_drawing::colorsKeepTheirDistance()
+{
+    // Of relative luminances, as in the accessibility guidelines for web content.
+    const auto contrast = [](const QColor &a, const QColor &b) {
+        const auto luminance = [](const QColor &color) {
+            const auto linear = [](double c) {
+                return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+                   0.0722 * linear(color.blueF()) + 0.05;
+        };
+        return std::max(luminance(a), luminance(b)) / std::min(luminance(a), luminance(b));
+    };
+    for (const bool dark : {false, true}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, dark ? QColor(0x202326) : QColor(Qt::white));
+        palette.setColor(QPalette::Text, dark ? QColor(0xf0f0f0) : QColor(Qt::black));
+        const BaseColors c(palette);
+        QCOMPARE(c.isDark, dark);
+        QVERIFY(contrast(c.tone(Tone::Ink), c.ground) > 12);
+        QVERIFY(contrast(c.tone(Tone::Muted), c.ground) > 4.5);
+        QVERIFY(contrast(c.tone(Tone::OnInk), c.ink) > 12);
+        QVERIFY(contrast(c.axis, c.ground) > contrast(c.grid, c.ground) + 0.5);
+        QVERIFY(contrast(c.grid, c.ground) > 1.1 && contrast(c.grid, c.ground) < 2);
+    }
 }
 
 QTEST_MAIN(tst_drawing)
