@@ -34,9 +34,9 @@ void Drawing::horizontal(double y, double from, double to, const QColor &color, 
 // several times as much as to draw it. A pattern and what shows through have a run in each row.
 void Drawing::fill(const QRectF &rect, const QBrush &brush)
 {
-    constexpr double rows = 64;
-    const double bottom = std::round(rect.bottom() * m_dots);
-    for (double top = std::round(rect.top() * m_dots); top < bottom; top += rows)
+    constexpr int rows = 64;
+    const int bottom = qRound(rect.bottom() * m_dots);
+    for (int top = qRound(rect.top() * m_dots); top < bottom; top += rows)
         p.fillRect(
             QRectF(rect.left(), top / m_dots, rect.width(), std::min(rows, bottom - top) / m_dots),
             brush);

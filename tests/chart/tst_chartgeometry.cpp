@@ -311,7 +311,7 @@ bool hoursAreLabelled(const Sample &s)
         if (!near(s.g.hourMarks[i], x(double(i)), 0.51))
             return false;
     }
-    return s.g.hourLines.size() == size_t(24 / hours + 1);
+    return int(s.g.hourLines.size()) == 24 / hours + 1;
 }
 
 /// What lies under any point, found without the chart's own search.

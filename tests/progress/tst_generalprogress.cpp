@@ -188,8 +188,8 @@ private slots:
                 return pointed.copy(rect.toRect()) != image.copy(rect.toRect());
             };
             int same = 0; // where a mark stands on its day already
-            for (double y = line.top() + 2; y < line.bottom() - 9; y += 9)
-                same += !changed({line.left(), y, line.width(), 3});
+            for (int y = qRound(line.top()) + 2; y < line.bottom() - 9; y += 9)
+                same += !changed({line.left(), double(y), line.width(), 3});
             QVERIFY(same < 4);
             QVERIFY(!changed(line.translated(14, 0)) && !changed(line.translated(-14, 0)));
             QEvent leave(QEvent::Leave);
@@ -198,9 +198,8 @@ private slots:
     }
     void notesStandBelowThePicture()
     {
-        for (int i = 0; i < 6; ++i)
-            m_journal->addNote(firstDay.addDays(3 * i), firstDay.addDays(3 * i + 1),
-                               QString(40, u'W'));
+        for (qint64 day = 0; day < 18; day += 3)
+            m_journal->addNote(firstDay.addDays(day), firstDay.addDays(day + 1), QString(40, u'W'));
         const progress::DaySeries series = progress::loadSeries(*m_journal->data, month, 59);
         const progress::ProgressTexts texts(m_journal->session->text(), true);
         const QImage image = progress::pictureOf(

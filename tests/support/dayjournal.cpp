@@ -101,6 +101,7 @@ void DayJournal::refuses(QWidget &window, const char *field, const QString &mess
     QCOMPARE(messages.said.front().title, "Error");
     QCOMPARE(messages.takeText(), message);
     auto &refused = control<QWidget>(window, field);
+    activate(window); // on a busy machine another window's activation may have come late
     QVERIFY2(refused.hasFocus(), field);
     typeInto(refused, remedy);
 }
