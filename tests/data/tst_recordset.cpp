@@ -54,6 +54,25 @@ private slots:
         QCOMPARE(m_journal->row("select Unit, Calories, Fat from Meal"), u"half|260|2"_qs);
     }
 
+    // What was stored and then undone by the transaction is forgotten in memory too.
+    void isPutBack()
+    {
+        Recordset &meal = data().rsMeal;
+        meal.open({1});
+        const Recordset::Rows before = meal.rows();
+        {
+            WriteTransaction undone(data().Con);
+            meal.set(schema::Meal::Unit, Value(u"half"_qs));
+            meal.update();
+            QCOMPARE(meal.text(schema::Meal::Unit), u"half"_qs);
+        }
+        meal.restore(before);
+        QCOMPARE(meal.text(schema::Meal::Unit), u"piece"_qs);
+        meal.set(schema::Meal::Unit, Value(u"slice"_qs));
+        meal.update(); // as it stands in the file
+        QCOMPARE(m_journal->row("select Unit from Meal"), u"slice"_qs);
+    }
+
     void tellsRefusalsApart()
     {
         categories().open({2});
