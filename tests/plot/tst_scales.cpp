@@ -18,15 +18,16 @@ private slots:
 
 void tst_scales::stepsAreRound()
 {
-    for (double least = 1e-3; least < 1e7; least *= 1.07) {
+    for (int i = 0; i < 340; ++i) {
+        const double least = 1e-3 * std::pow(1.07, i);
         const double step = roundStep(least);
         const double leading = step / std::pow(10, std::floor(std::log10(step) + 1e-9));
         QVERIFY(near(leading, 1) || near(leading, 2) || near(leading, 5));
         QVERIFY(step >= least * 0.999 && step <= std::max(0.01, 2.5001 * least));
         const auto values = multiplesBetween(-3.2 * step, 4 * step, step);
         QCOMPARE(values.size(), size_t(8));
-        for (size_t i = 0; i < values.size(); ++i)
-            QVERIFY(near(values[i], (double(i) - 3) * step, 1e-6 * step));
+        for (int k = 0; k < 8; ++k)
+            QVERIFY(near(values[size_t(k)], (k - 3) * step, 1e-6 * step));
     }
     QVERIFY(multiplesBetween(1.1, 1.9, 1).empty());
     QCOMPARE(roundStep(std::nan("")), 0.01);
