@@ -1,4 +1,5 @@
 // What the painters of both charts draw with, on screens of any density.
+#include "plot/chartwidget.h"
 #include "plot/drawing.h"
 #include "properties.h"
 
@@ -56,6 +57,28 @@ struct Drawn
     int darkest = 0;
 };
 
+class CountingChart : public ChartWidget
+{
+public:
+    CountingChart()
+        : ChartWidget(nullptr)
+    {
+    }
+    using ChartWidget::relayout;
+    int painted = 0;
+    int forgotten = 0;
+
+private:
+    void forgetLayout() override { ++forgotten; }
+    void computeLayout() override {}
+    void paintPicture(QPainter &painter) override
+    {
+        ++painted;
+        painter.fillRect(rect(), Qt::red);
+    }
+    void paintEmphasis(QPainter &) override {}
+};
+
 bool near(const QRectF &a, const QRectF &b, double tolerance)
 {
     return ::near(a.left(), b.left(), tolerance) && ::near(a.top(), b.top(), tolerance) &&
@@ -75,6 +98,7 @@ private slots:
     void hatching_data() { densities(); }
     void hatching();
     void colorsKeepTheirDistance();
+    void picturesAreKept();
 
 private:
     void densities()
@@ -156,10 +180,35 @@ void tst_drawing::colorsKeepTheirDistance()
         QCOMPARE(c.isDark, dark);
         QVERIFY(contrast(c.tone(Tone::Ink), c.ground) > 12);
         QVERIFY(contrast(c.tone(Tone::Muted), c.ground) > 4.5);
-        QVERIFY(contrast(c.tone(Tone::OnInk), c.ink) > 12);
+        QVERIFY(contrast(c.tone(Tone::OnInk), c.ink) > 12 && c.tone(Tone::OnFill) == c.ink);
         QVERIFY(contrast(c.axis, c.ground) > contrast(c.grid, c.ground) + 0.5);
         QVERIFY(contrast(c.grid, c.ground) > 1.1 && contrast(c.grid, c.ground) < 2);
     }
+}
+
+void tst_drawing::picturesAreKept()
+{
+    CountingChart chart;
+    chart.resize(100, 50);
+    chart.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    chart.relayout();
+    chart.painted = 0;
+    for (const int painted : {1, 2, 2, 2}) { // straight away, into a picture, from it
+        QCOMPARE(chart.grab().toImage().pixelColor(50, 25), QColor(Qt::red));
+        QCOMPARE(chart.painted, painted);
+    }
+    const int before = chart.forgotten;
+    chart.relayout();
+    chart.resize(120, 50);
+    chart.grab();
+    QCOMPARE(chart.painted, 3); // once for all that has changed
+    QVERIFY(chart.forgotten > before);
+    QFont larger = chart.font();
+    larger.setPointSize(20);
+    chart.setFont(larger);
+    chart.grab();
+    QCOMPARE(chart.painted, 4);
 }
 
 QTEST_MAIN(tst_drawing)

@@ -29,6 +29,7 @@ void tst_scales::stepsAreRound()
         for (int k = 0; k < 8; ++k)
             QVERIFY(near(values[size_t(k)], (k - 3) * step, 1e-6 * step));
     }
+    QCOMPARE(roundStep(2 * (1 + 1e-10)), 2.0); // what rounding adds is no reason for a coarser one
     QVERIFY(multiplesBetween(1.1, 1.9, 1).empty());
     QCOMPARE(roundStep(std::nan("")), 0.01);
 }
