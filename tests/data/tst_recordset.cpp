@@ -73,6 +73,27 @@ private slots:
         QCOMPARE(m_journal->row("select Unit from Meal"), u"slice"_qs);
     }
 
+    void removesTheCurrentRow()
+    {
+        constexpr Command all = {"All",
+                                 "select * from MealCategory order by Name desc",
+                                 {},
+                                 &schema::MealCategory::table,
+                                 &schema::MealCategory::MealCategoryID};
+        m_journal->exec("insert into MealCategory (Name) values ('Soups'), ('Nuts')");
+        Recordset categories(data().Con, all);
+        categories.open();
+        categories.moveNext();
+        categories.remove(); // Nuts
+        QStringList left;
+        for (; !categories.isEof(); categories.moveNext())
+            left << categories.text(schema::MealCategory::Name);
+        QCOMPARE(left, (QStringList{u"Fruit"_qs, u"Bread"_qs}));
+        QCOMPARE(m_journal->row("select group_concat(Name) from"
+                                " (select Name from MealCategory order by Name desc)"),
+                 u"Soups,Fruit,Bread"_qs);
+    }
+
     void tellsRefusalsApart()
     {
         categories().open({2});
