@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <sqlite3.h>
 
@@ -28,7 +29,31 @@ constexpr char connectionSettings[] = "PRAGMA foreign_keys=ON;"
                                       "PRAGMA synchronous=EXTRA;"
                                       "PRAGMA trusted_schema=OFF;";
 
+// Whether files can be made in it, of which on Windows only trying tells.
+bool isWritable(const QString &folder)
+{
+#ifdef Q_OS_WIN
+    return QTemporaryFile(QDir(folder).filePath(QStringLiteral("Corvana-XXXXXX.tmp"))).open();
+#else
+    return QFileInfo(folder).isWritable();
+#endif
+}
+
 } // namespace
+
+std::string enginePath(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(path);
+#ifdef Q_OS_WIN
+    // The rollback journal's path, longer by its suffix, must be within the limit too.
+    constexpr qsizetype longest = 240;
+    if (native.size() > longest) {
+        const bool isShare = native.startsWith(QLatin1String("\\\\"));
+        return (isShare ? "\\\\?\\UNC\\" + native.mid(2) : "\\\\?\\" + native).toStdString();
+    }
+#endif
+    return native.toStdString();
+}
 
 void bindValue(SQLite::Statement &statement, int index, const Value &value)
 {
@@ -90,8 +115,7 @@ std::unique_ptr<Connection> Connection::create(const QString &path)
 
 void Connection::open(const QString &path, int flags)
 {
-    m_database = std::make_unique<SQLite::Database>(QDir::toNativeSeparators(path).toStdString(),
-                                                    flags, busyTimeout);
+    m_database = std::make_unique<SQLite::Database>(enginePath(path), flags, busyTimeout);
     m_database->exec(keySettings);
     registerFunctions(m_database->getHandle());
     registerNameCollation(m_database->getHandle());
@@ -114,8 +138,8 @@ void Connection::checkTables()
 
 void Connection::checkWritable(const QString &path)
 {
-    const QFileInfo folder(QFileInfo(path).absolutePath());
-    if (sqlite3_db_readonly(m_database->getHandle(), "main") != 0 || !folder.isWritable())
+    if (sqlite3_db_readonly(m_database->getHandle(), "main") != 0 ||
+        !isWritable(QFileInfo(path).absolutePath()))
         throw StoreError(StoreError::Kind::ReadOnly, "the database file can't be written");
     // Takes the lock of a writer and lets it go; nothing is written.
     m_database->exec("begin immediate; rollback");

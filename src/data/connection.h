@@ -24,6 +24,10 @@ decltype(auto) guarded(Action action)
     }
 }
 
+/// A path as the engine takes it: in UTF-8, with the system's separators, and for Windows in the
+/// form that isn't limited to 260 letters where it is long.
+std::string enginePath(const QString &path);
+
 /// Binds one value to a parameter of a statement, counted from 1.
 void bindValue(SQLite::Statement &statement, int index, const Value &value);
 /// Binds all of them, in their order.

@@ -60,7 +60,8 @@ bool isBeingWritten(const QString &path)
     sqlite3 *database = nullptr;
     sqlite3_file *file = nullptr;
     int reserved = 0;
-    if (sqlite3_open_v2(path.toUtf8(), &database, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK &&
+    if (sqlite3_open_v2(enginePath(path).c_str(), &database, SQLITE_OPEN_READWRITE, nullptr) ==
+            SQLITE_OK &&
         sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
         file && file->pMethods)
         file->pMethods->xCheckReservedLock(file, &reserved);

@@ -9,8 +9,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <sddl.h>
+#else
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 using namespace Qt::Literals;
 
@@ -110,6 +116,41 @@ void tst_startup::refusesUnusableDatabases()
     refuses();
 }
 
+#ifdef Q_OS_WIN
+void tst_startup::refusesByPermissions()
+{
+    TestProgram program;
+    const auto refuses = [&] { verifyRefused(program, [&] { return program.startUp()->run(); }); };
+    const auto path = [](const QString &name) {
+        return QDir::toNativeSeparators(name).toStdWString();
+    };
+    // Kept by another program from being written.
+    const HANDLE kept = CreateFileW(path(program.database).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    QVERIFY(kept != INVALID_HANDLE_VALUE);
+    refuses();
+    CloseHandle(kept);
+    QVERIFY(QFile::setPermissions(program.database, QFile::ReadOwner));
+    const bool isBound = !QFile(program.database).open(QIODevice::ReadWrite);
+    if (isBound)
+        refuses();
+    QVERIFY(QFile::setPermissions(program.database, QFile::ReadOwner | QFile::WriteOwner));
+    if (!isBound)
+        QSKIP("This is Wine, run by root, whom no permission binds");
+    // A folder in which everybody may read and its owner change the rights.
+    const auto setRights = [&](const wchar_t *rights) {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        QVERIFY(ConvertStringSecurityDescriptorToSecurityDescriptorW(rights, SDDL_REVISION_1,
+                                                                     &descriptor, nullptr));
+        QVERIFY(SetFileSecurityW(path(program.folder.path()).c_str(), DACL_SECURITY_INFORMATION,
+                                 descriptor));
+        LocalFree(descriptor);
+    };
+    setRights(L"D:P(A;;GRGXWD;;;WD)");
+    refuses();
+    setRights(L"D:P(A;OICI;GA;;;WD)");
+}
+#else
 // Permissions don't bind root, whom builds in containers often run as: it steps down to nobody.
 void tst_startup::refusesByPermissions()
 {
@@ -135,6 +176,7 @@ void tst_startup::refusesByPermissions()
         QVERIFY(chmod(folder, 0700) == 0); // so that it can be removed
     }
 }
+#endif
 
 void tst_startup::firstStartInItsOrder()
 {

@@ -47,6 +47,24 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(SQLite::Exception, rowsWith("select 1"));
     }
 
+    void liesInAnyFolder()
+    {
+        const QTemporaryDir temporary;
+        QString folder = temporary.path();
+        // Longer than the 260 letters that Windows takes unasked, the journal's name included.
+        while (folder.size() < 300)
+            folder += QStringLiteral(u"/Größe & Maß's 日记 100% #1");
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = folder + QStringLiteral("/Corvana.mdb");
+        makeEmptyJournal(path);
+        deData data(path);
+        data.Con.exec("begin immediate; insert into MealCategory (Name) values ('Stored')");
+        QVERIFY(QFile::exists(path + QStringLiteral("-journal")));
+        data.Con.exec("commit");
+        QCOMPARE(queryRows(data.Con, "select Name from MealCategory"), QStringList("Stored"));
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("Corvana.mdb"));
+    }
+
     void damageIsNoticed()
     {
         TestJournal journal;
