@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "app/darkcolors.h"
 #include "ui/attempt.h"
 #include "ui/icons.h"
 #include "ui/screenfit.h"
@@ -10,6 +11,15 @@ Application::Application(int &argc, char **argv, Messages &messages)
 {
     setWindowIcon(programIcon()); // of messages and dialogs before the main window, too
     installEventFilter(new ScreenFit(this));
+    chooseStyle();
+}
+
+bool Application::event(QEvent *event)
+{
+    const bool isHandled = QApplication::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        chooseStyle();
+    return isHandled;
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

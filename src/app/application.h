@@ -14,6 +14,9 @@ public:
     Application(int &argc, char **argv, Messages &messages);
     bool notify(QObject *receiver, QEvent *event) override;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     Messages &m_messages;
 };

@@ -1,4 +1,5 @@
 #include "app/application.h"
+#include "app/darkcolors.h"
 #include "app/startup.h"
 #include "help/helpkey.h"
 #include "session/installation.h"
@@ -10,6 +11,7 @@
 int main(int argc, char **argv)
 {
     MessageBoxes messages;
+    allowDarkColors();
     Application application(argc, argv, messages);
     QCoreApplication::setApplicationName(QStringLiteral("Corvana"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));

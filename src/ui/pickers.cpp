@@ -96,6 +96,12 @@ public:
         Edit::stepBy(steps);
     }
 
+    // In the style of Windows the button of the calendar takes more than the base reckons with.
+    QSize sizeHint() const override
+    {
+        return Edit::sizeHint() + QSize(this->fontMetrics().averageCharWidth(), 0);
+    }
+
     QValidator::State validate(QString &text, int &position) const override
     {
         return m_isTyping ? QValidator::Intermediate : Edit::validate(text, position);
