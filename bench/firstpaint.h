@@ -30,6 +30,7 @@ private:
     {
         std::puts("painted");
         std::fflush(stdout);
+#ifdef Q_OS_LINUX
         QFile memory(QStringLiteral("/proc/self/smaps_rollup"));
         if (memory.open(QIODevice::ReadOnly)) {
             for (const QByteArray &line : memory.readAll().split('\n')) {
@@ -38,6 +39,7 @@ private:
             }
         }
         std::fflush(stdout);
+#endif
         QCoreApplication::quit();
     }
 };

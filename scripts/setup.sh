@@ -54,3 +54,15 @@ build() {
     configure "$1"
     cmake --build --preset "$1" ${2:+--target "$2"}
 }
+
+# private_display SIZE: a display that nobody sees, for the commands that follow; end_display ends it.
+private_display() {
+    local number
+    number=$(mktemp)
+    Xvfb -displayfd 1 -screen 0 "$1" >"$number" 2>/dev/null &
+    display=$!
+    until [[ -s $number ]]; do sleep 0.1; done
+    export DISPLAY=:$(<"$number")
+    rm "$number"
+}
+end_display() { kill "$display"; }

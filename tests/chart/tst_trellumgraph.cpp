@@ -62,6 +62,7 @@ private slots:
         m_graph = std::make_unique<TrellumGraph>();
         m_graph->setLocale(QLocale::c());
         m_graph->resize(1000, 650);
+        setTestFont(*m_graph);
         const auto item = [this](const QString &lane) {
             return [this, lane](int id, bool hit, QTime time) {
                 m_raised << lane.arg(id).arg(hit) + time.toString(" HH:mm"_L1);

@@ -87,7 +87,7 @@ void tst_notes::keepsEveryCharacterOfAStoredNote()
         QString("no-break\u00a0space, tab\t, 日本語, العربية, 😀, e\u0301, \n\n end ") +
         QString(1'000'000, u'x'); // wrapped at its blanks it would take minutes
     const auto insert = QString("insert into UserNote values (7, 46204, 46206, '%1')").arg(text);
-    journal->exec(qPrintable(insert));
+    journal->exec(insert.toUtf8().constData());
     journal->edit<frmUserNote>(7, [](QWidget &dialog) {
         setPeriod(dialog, 3, 4); // which is no overlap with another
         press(dialog, "btnOK");

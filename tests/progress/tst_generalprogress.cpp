@@ -125,6 +125,7 @@ private slots:
         const progress::ProgressTexts texts(m_journal->session->text(), true);
         ProgressChart chart(series, texts);
         chart.resize(1000, 640);
+        setTestFont(chart);
         for (const QColor paper : {Qt::white, Qt::black}) {
             QPalette palette = chart.palette();
             palette.setColor(QPalette::Base, paper);

@@ -102,7 +102,11 @@ void install()
 {
     static sqlite3_vfs files;
     sqlite3_initialize();
+#ifdef Q_OS_WIN
+    realFiles = sqlite3_vfs_find("win32");
+#else
     realFiles = sqlite3_vfs_find("unix");
+#endif
     files = *realFiles;
     files.iVersion = 1;
     files.pNext = nullptr;

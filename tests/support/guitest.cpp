@@ -36,6 +36,13 @@ double share(const QImage &picture, const QRectF &rect, const QColor &color)
     return double(found) / std::max(1, dots.width() * dots.height());
 }
 
+void setTestFont(QWidget &widget)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    widget.setFont(font);
+}
+
 void typeInto(QWidget &field, const QString &text)
 {
     field.setFocus();

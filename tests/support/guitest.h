@@ -53,6 +53,9 @@ Control &control(const QWidget &window, const char *name)
 /// The share of a rectangle's dots in a picture that have exactly this colour.
 double share(const QImage &picture, const QRectF &rect, const QColor &color);
 
+/// Gives a widget the same font on every system: what it paints depends on that.
+void setTestFont(QWidget &widget);
+
 /// Types as a person does: focus, select all, keys.
 void typeInto(QWidget &field, const QString &text);
 
