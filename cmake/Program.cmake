@@ -11,6 +11,9 @@ if(EXISTS ${CMAKE_SOURCE_DIR}/src/app/main.cpp)
   set_target_properties(corvana PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${corvana_program_folder}
     WIN32_EXECUTABLE ON)
+  if(WIN32)
+    include(packaging/windows/program.cmake)
+  endif()
   install(TARGETS corvana RUNTIME DESTINATION .)
   add_dependencies(program_folder corvana)
 endif()
