@@ -4,6 +4,7 @@
 #include "chart/TrellumGraph.h"
 #include "ui/elidedlabel.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,6 +37,7 @@ DayView::DayView(QWidget *parent)
     btnHelp->setObjectName(QStringLiteral("btnHelp"));
     txtDate->setAccessibleName(tr("Current date"));
     txtDate->setReadOnly(true);
+    txtDate->installEventFilter(this);
     txtDate->setAlignment(Qt::AlignCenter);
     QFont heading = Label1->font();
     heading.setBold(true);
@@ -86,6 +88,18 @@ double DayView::pixelsPerTwip() const
     const double byResolution = double(logicalDpiY()) / twipsPerInch;
     const double byFont = QFontMetrics(font()).height() / lineTwips;
     return qMax(byResolution, byFont);
+}
+
+// Of the date, which takes keys to walk through its text that go through the days here.
+bool DayView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == txtDate && event->type() == QEvent::MouseButtonDblClick) {
+        Q_EMIT dateDoubleClicked();
+        return true;
+    }
+    if (watched == txtDate && event->type() == QEvent::ShortcutOverride)
+        return true;
+    return QWidget::eventFilter(watched, event);
 }
 
 void DayView::resizeEvent(QResizeEvent *)

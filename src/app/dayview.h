@@ -30,8 +30,12 @@ public:
     QPushButton *btnHelp;
     QPushButton *btnDeleteSample;
 
+Q_SIGNALS:
+    void dateDoubleClicked();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget *makeSampleNotice();

@@ -1,6 +1,7 @@
 #include "app/frmDate.h"
 
 #include "session/session.h"
+#include "ui/entrydays.h"
 #include "ui/pickers.h"
 
 #include <QFormLayout>
@@ -12,6 +13,7 @@ frmDate::frmDate(Session &session, Messages &messages, QWidget *parent)
 {
     dtpDate->setAccessibleName(tr("Current date"));
     dtpDate->setDate(session.currentDate());
+    markEntryDays(*dtpDate->calendarWidget(), session.data());
     checkTyped(dtpDate, tr("Date"));
 
     auto *form = new QFormLayout;

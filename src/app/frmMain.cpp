@@ -89,6 +89,7 @@ void frmMain::makeConnections()
 {
     connect(m_view->btnPrev, &QPushButton::clicked, this, &frmMain::showPreviousDay);
     connect(m_view->btnNext, &QPushButton::clicked, this, &frmMain::showNextDay);
+    connect(m_view, &DayView::dateDoubleClicked, this, &frmMain::setDate);
     connect(m_view->btnHelp, &QPushButton::clicked, this, &frmMain::showHelpOfMainForm);
     const auto handler = [this](auto method) { return attempting(this, m_messages, method); };
     connect(m_view->btnDeleteSample, &QPushButton::clicked, this,
@@ -203,6 +204,11 @@ void frmMain::redraw()
     attempt(
         this, m_messages, [this] { RePaintGraph(); },
         tr("The chart can't be drawn anew. What was stored before is stored"));
+}
+
+void frmMain::showToday()
+{
+    m_session.setCurrentDate(m_session.clock().now().date());
 }
 
 void frmMain::showPreviousDay()

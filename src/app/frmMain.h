@@ -47,6 +47,7 @@ private:
     void followOtherPrograms();
     void redraw();
     void tellMissing();
+    void showToday();
     void showPreviousDay();
     void showNextDay();
     void setDate();

@@ -139,6 +139,13 @@ inline constexpr Command ExercisePerform{"ExercisePerform",
                                          &schema::ExercisePerform::table,
                                          &schema::ExercisePerform::ExercisePerformID};
 
+inline constexpr Command DaysWithEntries{
+    "DaysWithEntries",
+    "select ConsumeDate as curDate from MealConsume where ConsumeDate between :begDate and :endDate"
+    " union select PerformDate from ExercisePerform where PerformDate between :begDate and "
+    ":endDate",
+    {{{":begDate", Date}, {":endDate", Date}}}};
+
 // Body measurements and notes
 
 inline constexpr Command BodySorted{

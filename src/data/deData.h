@@ -32,6 +32,8 @@ public:
     Recordset rsExercisePerformSorted{Con, commands::ExercisePerformSorted};
     Recordset rsExercisePerform{Con, commands::ExercisePerform};
 
+    Recordset rsDaysWithEntries{Con, commands::DaysWithEntries};
+
     Recordset rsBodySorted{Con, commands::BodySorted};
     Recordset rsBody{Con, commands::Body};
     Recordset rsBodyCheck{Con, commands::BodyCheck};

@@ -4,6 +4,7 @@
 #include "dayjournal.h"
 
 #include <QAccessible>
+#include <QCalendarWidget>
 #include <QDateEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -49,6 +50,8 @@ private slots:
     void init();
     void cleanup() { m_window.reset(); }
     void accessKeysAreUnique();
+    void goesThroughTheDays();
+    void keysOpenWindows();
     void followsOtherPrograms();
     void redrawsOncePerChange();
     void deletesTrialDataAfterAYes();
@@ -84,8 +87,8 @@ void tst_mainwindow::init()
 // Within each menu, and among the menu bar and the buttons.
 void tst_mainwindow::accessKeysAreUnique()
 {
-    QStringList groups[] = {{}, {}, {}, {}, {}};
-    QStringList &inWindow = groups[4];
+    QStringList groups[6];
+    QStringList &inWindow = groups[5];
     for (const QAction *top : m_window->menuBar()->actions()) {
         for (const QAction *action : top->menu()->actions())
             groups[inWindow.size()] += action->text();
@@ -100,6 +103,61 @@ void tst_mainwindow::accessKeysAreUnique()
             QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(caption));
             keys += key;
         }
+    }
+}
+
+void tst_mainwindow::goesThroughTheDays()
+{
+    activate(*m_window);
+    // Wherever the focus is, in the text of the date, too.
+    for (const char *focus : {"graph", "txtDate", "btnNext"}) {
+        control<QWidget>(*m_window, focus).setFocus();
+        const std::pair<Qt::Key, const char *> keys[] = {{Qt::Key_Left, "21 Jul 2026: 300"},
+                                                         {Qt::Key_Left, "20 Jul 2026: 0"},
+                                                         {Qt::Key_Right, "21 Jul 2026: 300"},
+                                                         {Qt::Key_T, "22 Jul 2026: 300"}};
+        for (const auto &[key, expected] : keys) {
+            pressKey(key, Qt::ControlModifier);
+            QCOMPARE(shown(), expected);
+        }
+    }
+    // Its calendar tells where something is recorded.
+    m_journal->exec("insert into ExercisePerform values (9, 1, 46255, 0.5, 0.6, 1)"); // 21 August
+    const auto boldDays = [](const QCalendarWidget &calendar, int month) {
+        QList<int> days;
+        for (QDate day(2026, month, 1); day.month() == month; day = day.addDays(1)) {
+            if (calendar.dateTextFormat(day).fontWeight() == QFont::Bold)
+                days << day.day();
+        }
+        return days;
+    };
+    auto &date = control<QWidget>(*m_window, "txtDate");
+    inDialog(
+        "frmDate", [&] { QTest::mouseDClick(&date, Qt::LeftButton); },
+        [&](QWidget &window) {
+            auto &calendar = *control<QDateEdit>(window, "dtpDate").calendarWidget();
+            QCOMPARE(boldDays(calendar, 7), (QList{21, 22, 23}));
+            calendar.setCurrentPage(2026, 8);
+            QCOMPARE(boldDays(calendar, 8), QList{21});
+            calendar.setCurrentPage(2026, 12);
+            QCOMPARE(boldDays(calendar, 12), QList<int>());
+        });
+}
+
+void tst_mainwindow::keysOpenWindows()
+{
+    activate(*m_window);
+    const std::pair<Qt::Key, const char *> keys[] = {{Qt::Key_M, "frmMealConsume"},
+                                                     {Qt::Key_E, "frmExercisePerform"},
+                                                     {Qt::Key_B, "frmBody"},
+                                                     {Qt::Key_G, "frmDate"}};
+    for (const auto &[key, dialog] : keys) {
+        QString opened;
+        inDialog(
+            dialog, [key = key] { pressKey(key, Qt::ControlModifier); },
+            [&opened](QWidget &window) { opened = window.objectName(); });
+        QCOMPARE(opened, QString(dialog));
+        activate(*m_window);
     }
 }
 

@@ -113,6 +113,26 @@ private slots:
         QCOMPARE(notes(data().rsUserNoteCheck, {july(17), july(22), 1}), QString()); // itself
     }
 
+    void daysWithEntries()
+    {
+        m_journal->exec("insert into ExercisePerform values (9, 1, 46240, 0.5, 0.6, 1)");
+        Recordset &days = data().rsDaysWithEntries;
+        const auto between = [&](int first, int last) {
+            QStringList found;
+            days.reopen({Value(qint64(first)), Value(qint64(last))});
+            for (; !days.isEof(); days.moveNext())
+                found << QString::number(days.integer(commands::curDate));
+            return found.join(u' ');
+        };
+        const QString eaten = m_journal->row(
+            "select group_concat(d, ' ') from (select distinct ConsumeDate as d from MealConsume"
+            " union select distinct PerformDate from ExercisePerform order by 1)");
+        QVERIFY(eaten.endsWith(u" 46240"_qs));
+        QCOMPARE(between(0, 99999), eaten);
+        QCOMPARE(between(46240, 46240), u"46240"_qs);
+        QCOMPARE(between(46241, 99999), QString());
+    }
+
     // Declared as text, a day is still compared as the number that it is.
     void textSelectsLikeTyped()
     {
@@ -138,9 +158,9 @@ private slots:
     {
         using namespace commands;
         for (const Command *command :
-             {&MealForCategory, &MealConsumeSorted, &ExercisePerformSorted, &BodySorted, &BodyCheck,
-              &UserNoteSorted, &UserNoteCheck, &chkMinMaxdate, &chkCaloriesDays, &GPBody,
-              &GPCalories, &GPNotes}) {
+             {&MealForCategory, &MealConsumeSorted, &ExercisePerformSorted, &DaysWithEntries,
+              &BodySorted, &BodyCheck, &UserNoteSorted, &UserNoteCheck, &chkMinMaxdate,
+              &chkCaloriesDays, &GPBody, &GPCalories, &GPNotes}) {
             // Two walk the notes in their order rather than sort them: their index holds both
             // days, so that only the notes found are read.
             const bool walks = command == &UserNoteSorted || command == &GPNotes;

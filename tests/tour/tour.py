@@ -212,7 +212,7 @@ def previous_day(program):
 
 @step
 def set_date(program):
-    program.menu("Operate", "Set Date")
+    program.keys("ctrl+g")
     dialog = program.window("Set Current Date")
     dialog.find("spin button").focus()
     program.keys("Up")
