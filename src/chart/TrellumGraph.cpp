@@ -191,8 +191,8 @@ void TrellumGraph::moveCursor(const Cursor &cursor)
 
 std::optional<Cursor> TrellumGraph::cursorAfter(const QKeyEvent &key) const
 {
-    const bool placing = key.modifiers() & Qt::ControlModifier;
-    const int minutes = key.modifiers() & Qt::ShiftModifier ? 1 : 5;
+    const bool placing = key.modifiers() & Qt::ShiftModifier;
+    const int minutes = key.modifiers() & Qt::ControlModifier ? 1 : 5;
     const Lane lane = m_cursor.target.lane;
     switch (key.key()) {
     case Qt::Key_Left:

@@ -19,7 +19,7 @@ class GraphAccessible;
 /// keyboard does the same:
 /// - Left and Right walk through a lane: its caption, its items by time, its free place.
 ///   Home and End go to the first and the last of these; Up and Down change the lane.
-/// - Ctrl+Left and Ctrl+Right move the free place by five minutes, with Shift by one minute, and
+/// - Shift+Left and Shift+Right move the free place by five minutes, with Ctrl by one minute, and
 ///   Page Up and Page Down by one hour, starting where the keyboard stands.
 /// - Enter and Space choose.
 class TrellumGraph : public plot::ChartWidget

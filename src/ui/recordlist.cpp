@@ -7,6 +7,7 @@
 #include "ui/reportstyle.h"
 #include "ui/tooltips.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -14,7 +15,6 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -174,17 +174,20 @@ QPushButton *RecordList::makeButton(const QString &caption, const QString &toolT
     return button;
 }
 
+// In the list's context menu, too, with their keys.
 void RecordList::makeKeys()
 {
-    const auto press = [this](Qt::Key key, QPushButton *button) {
-        auto *shortcut = new QShortcut(key, m_list);
-        shortcut->setContext(Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    const auto press = [this](const QList<QKeySequence> &keys, QPushButton *button) {
+        auto *entry = new QAction(button->text(), m_list);
+        entry->setShortcuts(keys);
+        entry->setShortcutContext(Qt::WidgetShortcut);
+        connect(entry, &QAction::triggered, button, &QPushButton::click);
+        m_list->addAction(entry);
     };
-    press(Qt::Key_Insert, m_new);
-    press(Qt::Key_Return, m_edit);
-    press(Qt::Key_Enter, m_edit);
-    press(Qt::Key_Delete, m_delete);
+    press({Qt::Key_Insert}, m_new);
+    press({Qt::Key_Return, Qt::Key_Enter}, m_edit);
+    press({Qt::Key_Delete}, m_delete);
+    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void RecordList::refresh(const Reselection &reselection)

@@ -27,7 +27,7 @@ enum class ListFamily
 
 /// The list in report view and its buttons. The window hands in how rows are read and edited; the
 /// deletion, the flow, the messages, the focus and the reselection are here. Insert, Enter and
-/// Delete in the list press the buttons.
+/// Delete in the list press the buttons, and so does its context menu.
 class RecordList : public QWidget
 {
     Q_OBJECT

@@ -115,7 +115,7 @@ private slots:
         QTest::addColumn<QList<QKeyCombination>>("keys");
         QTest::addColumn<QString>("chosen"); // by Enter behind the keys
         using Keys = QList<QKeyCombination>;
-        const QKeyCombination later = Qt::CTRL | Qt::Key_Right;
+        const QKeyCombination later = Qt::SHIFT | Qt::Key_Right;
         const QKeyCombination minute = Qt::CTRL | Qt::SHIFT | Qt::Key_Right;
         const Qt::Key right = Qt::Key_Right, down = Qt::Key_Down;
         QTest::newRow("caption first") << Keys{} << "meal 0 0";
