@@ -100,6 +100,8 @@ void frmMain::makeConnections()
             handler(&frmMain::chooseActivity));
     connect(m_view->graph, &TrellumGraph::freeActivityPlaceChosen, this,
             handler(&frmMain::addActivityAt));
+    connect(m_view->graph, &TrellumGraph::mealMenuWanted, this, &frmMain::showMealMenu);
+    connect(m_view->graph, &TrellumGraph::activityMenuWanted, this, &frmMain::showActivityMenu);
     connect(&m_session, &Session::dayChanged, this, &frmMain::followDay);
     connect(&m_session, &Session::recordsChanged, this, &frmMain::followRecords);
 }

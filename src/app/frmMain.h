@@ -9,6 +9,7 @@
 class DayView;
 class Messages;
 class Session;
+struct Removal;
 struct StoredChange;
 
 /// Shows the current date and its calorie chart, moves the date, and opens every other window.
@@ -33,6 +34,7 @@ protected:
 
 private:
     struct Command;
+    struct ItemCommands;
 
     static std::vector<Command> commands();
     void makeCommands();
@@ -63,6 +65,10 @@ private:
     void addActivity();
     void chooseActivity(int id, bool hit, QTime time);
     void addActivityAt(QTime time);
+    void showMealMenu(int id, QTime time, QPoint at);
+    void showActivityMenu(int id, QTime time, QPoint at);
+    void showChartMenu(int id, QTime time, QPoint at, const ItemCommands &commands);
+    void removeEntry(const Removal &removal, qint32 id);
     template<typename Editor>
     void openEditor(qint32 id, bool addMode);
     template<typename List>

@@ -12,7 +12,7 @@ CatalogueList::CatalogueList(Session &session, Messages &messages, Recordset &so
     , m_messages(messages)
     , m_list(new RecordList(
           std::move(columns), ListFamily::Catalogue, session, messages,
-          {[this] { return rows(); }, [this](qint32 id) { return edit(id); }, source}, caption,
+          {[this] { return rows(); }, [this](qint32 id) { return edit(id); }, {source}}, caption,
           this))
 {
     setObjectName(name);

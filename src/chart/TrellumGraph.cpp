@@ -236,6 +236,25 @@ void TrellumGraph::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
+void TrellumGraph::contextMenuEvent(QContextMenuEvent *event)
+{
+    Cursor wanted = m_cursor;
+    QPoint at = mapToGlobal(boundsOf(geometry(), wanted.target).center().toPoint());
+    if (event->reason() != QContextMenuEvent::Keyboard) {
+        wanted = {targetAt(geometry(), event->pos()), minuteAt(geometry(), event->pos().x())};
+        at = event->globalPos();
+    }
+    if (wanted.target.kind == Target::Kind::None)
+        return;
+    const int id = idOf(m_shown, wanted.target);
+    const QTime time =
+        wanted.target.kind == Target::Kind::Caption ? QTime() : timeOf(wanted.minute);
+    if (wanted.target.lane == Lane::Meals)
+        Q_EMIT mealMenuWanted(id, time, at);
+    else
+        Q_EMIT activityMenuWanted(id, time, at);
+}
+
 void TrellumGraph::focusInEvent(QFocusEvent *event)
 {
     ChartWidget::focusInEvent(event);

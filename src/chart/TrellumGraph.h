@@ -21,7 +21,7 @@ class GraphAccessible;
 ///   Home and End go to the first and the last of these; Up and Down change the lane.
 /// - Shift+Left and Shift+Right move the free place by five minutes, with Ctrl by one minute, and
 ///   Page Up and Page Down by one hour, starting where the keyboard stands.
-/// - Enter and Space choose.
+/// - Enter and Space choose, and the menu key asks for a menu.
 class TrellumGraph : public plot::ChartWidget
 {
     Q_OBJECT
@@ -56,6 +56,10 @@ Q_SIGNALS:
     void activityItemChosen(int id, bool hit, QTime time);
     void freeMealPlaceChosen(QTime time);
     void freeActivityPlaceChosen(QTime time);
+    /// A menu is asked for at a point of the screen, for the item of this id; 0 for a free place,
+    /// and with an invalid time for the caption.
+    void mealMenuWanted(int id, QTime time, QPoint at);
+    void activityMenuWanted(int id, QTime time, QPoint at);
 
 protected:
     void forgetLayout() override;
@@ -70,6 +74,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:

@@ -24,7 +24,7 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
     , m_list(new RecordList(
           columns.columns, ListFamily::Journal, session, messages,
-          {[this] { return load(); }, [this](qint32 id) { return edit(id); }, records, removal},
+          {[this] { return load(); }, [this](qint32 id) { return edit(id); }, {records, removal}},
           texts.caption, this))
 {
     setObjectName(texts.name);

@@ -88,7 +88,7 @@ RecordList *frmMeasurements::makeMeasurementList()
 {
     RecordList::Actions actions{[this] { return measurements(); },
                                 [this](qint32 id) { return edit<frmBody>(id); },
-                                m_session.data().rsBody};
+                                {m_session.data().rsBody}};
     auto *list = new RecordList({{tr("Date")},
                                  {.header = tr("Weight"), .isNumber = true},
                                  {.header = tr("Breast"), .isNumber = true},
@@ -105,7 +105,7 @@ RecordList *frmMeasurements::makeNoteList()
 {
     RecordList::Actions actions{[this] { return notes(); },
                                 [this](qint32 id) { return edit<frmUserNote>(id); },
-                                m_session.data().rsUserNote};
+                                {m_session.data().rsUserNote}};
     auto *list = new RecordList(
         {{tr("From")}, {tr("To")}, {.header = tr("Note"), .isLongText = true}}, ListFamily::Journal,
         m_session, m_messages, std::move(actions), tr("Personal Notes"), this);

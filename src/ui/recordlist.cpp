@@ -13,7 +13,6 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QScrollBar>
 #include <QToolTip>
 #include <QTreeView>
@@ -263,8 +262,7 @@ void RecordList::deleteSelected()
 {
     const bool catalogue = m_family == ListFamily::Catalogue;
     const bool nothing = catalogue ? m_model->rowCount() == 0 : selectedTag() == 0;
-    if (nothing || m_messages.ask(window(), tr("Are you sure"),
-                                  tr("Are you sure you want to delete the selected record?"))) {
+    if (nothing || confirmRemoval(window(), m_messages)) {
         if (selectedTag() != 0)
             removeSelected();
         else // in a catalogue the question comes before the look at the selection
@@ -277,33 +275,14 @@ void RecordList::deleteSelected()
 void RecordList::removeSelected()
 {
     const int row = selectedRow();
-    try {
-        remove(selectedTag());
-    } catch (const std::exception &error) {
-        m_messages.error(window(),
-                         m_family == ListFamily::Catalogue
-                             ? tr("This record can't be deleted because there are "
-                                  "records in the database, which refer to it")
-                             : tr("This record can't be deleted from database"),
-                         causeOf(error));
+    if (!removeRecord(window(), m_session, m_messages, m_actions.removal, selectedTag(),
+                      m_family == ListFamily::Catalogue
+                          ? tr("This record can't be deleted because there are records in the "
+                               "database, which refer to it")
+                          : tr("This record can't be deleted from database")))
         return;
-    }
-    m_session.announce({{m_actions.records.command().table}, StoredChange::Kind::Removed});
     refreshOrTell({});
     select(qMin(row, m_model->rowCount() - 1));
-}
-
-void RecordList::remove(qint32 id)
-{
-    if (m_actions.removal) {
-        m_session.data().run(*m_actions.removal, {Value(id)});
-        return;
-    }
-    Recordset &records = m_actions.records;
-    const auto close = qScopeGuard([&records] { records.close(); });
-    records.reopen({Value(id)});
-    if (!records.isEof())
-        records.remove();
 }
 
 // What was stored or deleted before is so, whether the rows can be read afterwards or not.

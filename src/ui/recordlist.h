@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/listmodel.h"
+#include "ui/removal.h"
 #include "ui/reselection.h"
 
 #include <QWidget>
@@ -10,9 +11,7 @@
 #include <optional>
 
 class Messages;
-class Recordset;
 class Session;
-struct Command;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -39,10 +38,7 @@ public:
         std::function<ListRows()> load;
         /// Opens the editor, 0 for a new record; what to reselect where it stored something.
         std::function<std::optional<Reselection>(qint32 id)> edit;
-        /// Of the command for a single record, through which one is deleted.
-        Recordset &records;
-        /// Deletes it instead, where there is one; the identifier is its parameter.
-        const Command *removal = nullptr;
+        Removal removal;
     };
     /// Object names of the controls; the defaults are those of a window with one list.
     struct Names
@@ -76,7 +72,6 @@ private:
     void editSelected();
     void deleteSelected();
     void removeSelected();
-    void remove(qint32 id);
     void edit(qint32 id);
     void refreshOrTell(const Reselection &reselection);
     void select(int row);

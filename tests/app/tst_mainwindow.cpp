@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QCalendarWidget>
+#include <QContextMenuEvent>
 #include <QDateEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -52,6 +53,7 @@ private slots:
     void accessKeysAreUnique();
     void goesThroughTheDays();
     void keysOpenWindows();
+    void chartHasMenus();
     void followsOtherPrograms();
     void redrawsOncePerChange();
     void deletesTrialDataAfterAYes();
@@ -159,6 +161,67 @@ void tst_mainwindow::keysOpenWindows()
         QCOMPARE(opened, QString(dialog));
         activate(*m_window);
     }
+}
+
+void tst_mainwindow::chartHasMenus()
+{
+    activate(*m_window);
+    auto &graph = control<QWidget>(*m_window, "graph");
+    auto *chart = QAccessible::queryAccessibleInterface(&graph);
+    const auto menuAt = [&](QContextMenuEvent::Reason reason, QPoint at) {
+        QContextMenuEvent event(reason, graph.mapFromGlobal(at), at);
+        QApplication::sendEvent(&graph, &event);
+        QStringList captions;
+        if (auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+            for (const QAction *action : menu->actions())
+                captions << action->text();
+        }
+        return captions.join(u'|');
+    };
+    const auto placeOf = [chart](const QString &name) {
+        for (int i = 0; i < chart->childCount(); ++i) {
+            if (chart->child(i)->text(QAccessible::Name).startsWith(name))
+                return chart->child(i)->rect();
+        }
+        return QRect();
+    };
+    const QRect meal = placeOf("Meal at 12:00");
+    QCOMPARE(menuAt(QContextMenuEvent::Mouse, meal.center()),
+             "&Edit Meal|&Delete Meal||Add &Meal at 12:00|Add &Activity at 12:00||"
+             "Meal Consumed &List");
+    inDialog(
+        "frmMealConsume", [] { pressKey(Qt::Key_E); },
+        [](QWidget &editor) { QCOMPARE(textOf(editor, "txtQty"), "1"); });
+    // Of a free place, with its time.
+    activate(*m_window);
+    const QString atPlace =
+        menuAt(QContextMenuEvent::Mouse, meal.center() + QPoint(4 * meal.width(), 0));
+    const QString time = atPlace.section(u'|', 0, 0).right(5);
+    QVERIFY(time > "12:10" && time < "18:00");
+    QCOMPARE(atPlace,
+             QString("Add &Meal at %1|Add &Activity at %1||Meal Consumed &List").arg(time));
+    inDialog(
+        "frmExercisePerform", [] { pressKey(Qt::Key_A); },
+        [&time](QWidget &editor) {
+            QCOMPARE(control<QTimeEdit>(editor, "dtpBeginTime").text(), time);
+        });
+    // By the menu key, of what the arrow keys have come to; a No leaves it.
+    graph.setFocus();
+    for (const bool answer : {false, true}) {
+        activate(*m_window);
+        pressKey(Qt::Key_Home);
+        QCOMPARE(menuAt(QContextMenuEvent::Keyboard, {}), "Meal Consumed &List");
+        pressKey(Qt::Key_Escape);
+        activate(*m_window);
+        pressKey(Qt::Key_Right);
+        QVERIFY(menuAt(QContextMenuEvent::Keyboard, {}).startsWith("&Edit Meal|"));
+        m_journal->messages.answers = {answer};
+        pressKey(Qt::Key_D);
+        QCOMPARE(shown(), answer ? "22 Jul 2026: 0" : "22 Jul 2026: 300");
+        QCOMPARE(m_journal->messages.takeText(),
+                 "Are you sure you want to delete the selected record?");
+    }
+    QCOMPARE(m_journal->row("select group_concat(MealConsumeID) from MealConsume"), "-1,2");
 }
 
 // What another program stored is seen once the user is back, from a dialog that was cancelled, too.

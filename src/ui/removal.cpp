@@ -1,0 +1,49 @@
+#include "ui/removal.h"
+
+#include "session/session.h"
+#include "ui/attempt.h"
+#include "ui/messages.h"
+
+#include <QCoreApplication>
+#include <QScopeGuard>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Removal", text);
+}
+
+void remove(deData &data, const Removal &removal, qint32 id)
+{
+    if (removal.command) {
+        data.run(*removal.command, {Value(id)});
+        return;
+    }
+    Recordset &records = removal.records;
+    const auto close = qScopeGuard([&records] { records.close(); });
+    records.reopen({Value(id)});
+    if (!records.isEof())
+        records.remove();
+}
+
+} // namespace
+
+bool confirmRemoval(QWidget *parent, Messages &messages)
+{
+    return messages.ask(parent, tr("Are you sure"),
+                        tr("Are you sure you want to delete the selected record?"));
+}
+
+bool removeRecord(QWidget *parent, Session &session, Messages &messages, const Removal &removal,
+                  qint32 id, const QString &refusal)
+{
+    try {
+        remove(session.data(), removal, id);
+    } catch (const std::exception &error) {
+        messages.error(parent, refusal, causeOf(error));
+        return false;
+    }
+    session.announce({{removal.records.command().table}, StoredChange::Kind::Removed});
+    return true;
+}
