@@ -109,7 +109,15 @@ def chart_follows(program):
 
 
 @step
+def menu_of_a_meal(program):
+    main_window(program).find("chart", "Daily calorie chart").focus()
+    program.keys("Right", "Menu")
+
+
+@step
 def measurements_and_notes(program):
+    program.keys("Down", "Return")  # Edit Meal
+    leave_window(program, "Meal Consumed")
     program.menu("Operate", "Body Measurement and Notes")
     window = program.window("Body Measurement and Notes")
     check(window.find_all("label", "Weight (kg)"), f"no kilograms:\n{window.outline()}")
