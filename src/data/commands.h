@@ -51,6 +51,7 @@ inline constexpr schema::Column maxDt{"maxDt", schema::Type::Integer, true};
 inline constexpr schema::Column days{"days", schema::Type::Integer};
 inline constexpr schema::Column calories{"calories", schema::Type::Real};
 inline constexpr schema::Column curDate{"curDate", schema::Type::Integer};
+inline constexpr schema::Column category{"category", schema::Type::Text};
 
 // Catalogues
 
@@ -82,6 +83,15 @@ inline constexpr Command MealForCategory{
     "MealForCategory",
     "select * from Meal where MealCategoryID = :ID order by Name",
     {{{":ID", Integer}}},
+    nullptr,
+    &schema::Meal::MealID};
+
+inline constexpr Command MealAll{
+    "MealAll",
+    "select MealID, Meal.Name as Name, Unit, DefaultQty, Increment, FatBC, CarbohydrateBC,"
+    " ProteinBC, MealCategoryID, MealCategory.Name as category"
+    " from Meal inner join MealCategory using (MealCategoryID) order by Meal.Name",
+    {},
     nullptr,
     &schema::Meal::MealID};
 

@@ -24,6 +24,7 @@ public:
     Recordset rsMeal{Con, commands::Meal};
     Recordset rsMealSorted{Con, commands::MealSorted};
     Recordset rsMealForCategory{Con, commands::MealForCategory};
+    Recordset rsMealAll{Con, commands::MealAll};
     Recordset rsExercise{Con, commands::Exercise};
     Recordset rsExerciseSorted{Con, commands::ExerciseSorted};
 

@@ -1,45 +1,16 @@
 #include "ui/datacombo.h"
 
+#include "ui/namedelegate.h"
 #include "ui/namefilter.h"
-#include "ui/tooltips.h"
 #include "ui/wheelguard.h"
 
 #include <QCompleter>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
-#include <QStyledItemDelegate>
+#include <QStandardItemModel>
 #include <QTimer>
-#include <QToolTip>
 #include <QWheelEvent>
-
-namespace {
-
-/// Names as wide as their list: a longer one ends in an ellipsis.
-class NameDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
-    }
-
-    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                   const QModelIndex &index) override
-    {
-        const bool isCut =
-            QStyledItemDelegate::sizeHint(option, index).width() > option.rect.width();
-        if (event->type() != QEvent::ToolTip || !isCut)
-            return QStyledItemDelegate::helpEvent(event, view, option, index);
-        QToolTip::showText(event->globalPos(), toolTipOf(index.data().toString()), view);
-        return true;
-    }
-};
-
-} // namespace
 
 DataCombo::DataCombo(QWidget *parent)
     : QComboBox(parent)
@@ -129,12 +100,20 @@ void DataCombo::takeMatch(bool forward)
 }
 
 void DataCombo::setRows(Recordset &rows, const schema::Column &idColumn,
-                        const schema::Column &nameColumn)
+                        const schema::Column &nameColumn, const schema::Column *detailColumn)
 {
     const QSignalBlocker blocker(this);
+    QList<QStandardItem *> items;
+    items.reserve(qsizetype(rows.rowCount()));
+    for (; !rows.isEof(); rows.moveNext()) {
+        items += new QStandardItem(rows.text(nameColumn));
+        items.last()->setData(rows.integer(idColumn), Qt::UserRole);
+        if (detailColumn)
+            items.last()->setData(rows.text(*detailColumn), NameDelegate::DetailRole);
+    }
     clear();
-    for (; !rows.isEof(); rows.moveNext())
-        addItem(rows.text(nameColumn), rows.integer(idColumn));
+    // All at once: each of thousands of insertions would be told to every list and filter.
+    static_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(items);
     setCurrentIndex(-1);
     clearEditText();
     m_boundValue.reset();
@@ -147,6 +126,8 @@ void DataCombo::setBoundValue(std::optional<qint32> id)
 
 void DataCombo::setDisplayedText(const QString &text)
 {
+    if (!hasFocus())
+        Q_EMIT rowsNeeded();
     setEditText(text);
     resolveText(text);
 }
@@ -197,8 +178,10 @@ void DataCombo::announceIfChanged(std::optional<qint32> id)
 
 void DataCombo::focusInEvent(QFocusEvent *event)
 {
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        Q_EMIT rowsNeeded();
         m_lastChoice = m_boundValue;
+    }
     QComboBox::focusInEvent(event);
     if (event->reason() == Qt::OtherFocusReason)
         lineEdit()->selectAll(); // as on Tab, so that typing begins anew
@@ -221,6 +204,13 @@ void DataCombo::keyPressEvent(QKeyEvent *event)
         returnToChoice();
     else
         QComboBox::keyPressEvent(event);
+}
+
+void DataCombo::showPopup()
+{
+    if (!hasFocus())
+        Q_EMIT rowsNeeded();
+    QComboBox::showPopup();
 }
 
 void DataCombo::wheelEvent(QWheelEvent *event)

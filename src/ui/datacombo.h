@@ -17,7 +17,8 @@ class NameFilter;
 /// the first of them highlighted. Enter takes the highlighted name, Tab takes it and goes on to the
 /// next field, Escape goes back to what was typed. F4 and Alt+Down open the whole list. The wheel
 /// does nothing: a choice is not changed in passing. A name too long for the list is cut short
-/// there, with the whole of it in the tooltip, and the box shows its beginning.
+/// there, with the whole of it in the tooltip, and the box shows its beginning. Rows may have a
+/// detail, which the lists show in grey beside the name; it is no part of the name.
 class DataCombo : public QComboBox
 {
     Q_OBJECT
@@ -29,9 +30,10 @@ public:
     /// or leaving the box with a text that names no row brings it back.
     void setKeepsChoice(bool on) { m_keepsChoice = on; }
 
-    /// Takes the rows of an open result set as the list; no row is chosen, the text is empty and
-    /// no change is announced.
-    void setRows(Recordset &rows, const schema::Column &idColumn, const schema::Column &nameColumn);
+    /// Takes the rows of an open result set as the list, with the detail of each from a column if
+    /// one is given; no row is chosen, the text is empty and no change is announced.
+    void setRows(Recordset &rows, const schema::Column &idColumn, const schema::Column &nameColumn,
+                 const schema::Column *detailColumn = nullptr);
 
     /// The identifier of the chosen row; none while the text names no row.
     std::optional<qint32> boundValue() const { return m_boundValue; }
@@ -42,9 +44,14 @@ public:
     QString displayedText() const { return currentText(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showPopup() override;
 
 Q_SIGNALS:
     void boundValueChanged();
+    /// The chooser is entered, or its list or a text is asked for from outside: the moment for
+    /// rows that are dear to read, and for other rows than before. It is not raised while a person
+    /// works in the chooser.
+    void rowsNeeded();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;

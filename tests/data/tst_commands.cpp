@@ -113,6 +113,12 @@ private slots:
         QCOMPARE(notes(data().rsUserNoteCheck, {july(17), july(22), 1}), QString()); // itself
     }
 
+    void mealsOfAllCategories()
+    {
+        QCOMPARE(selected(data().rsMealAll, schema::Meal::Name, {}), u"Apple Bagel rye bread"_qs);
+        QCOMPARE(selected(data().rsMealAll, commands::category, {}), u"Fruit bread bread"_qs);
+    }
+
     void daysWithEntries()
     {
         m_journal->exec("insert into ExercisePerform values (9, 1, 46240, 0.5, 0.6, 1)");
@@ -158,12 +164,13 @@ private slots:
     {
         using namespace commands;
         for (const Command *command :
-             {&MealForCategory, &MealConsumeSorted, &ExercisePerformSorted, &DaysWithEntries,
-              &BodySorted, &BodyCheck, &UserNoteSorted, &UserNoteCheck, &chkMinMaxdate,
-              &chkCaloriesDays, &GPBody, &GPCalories, &GPNotes}) {
+             {&MealForCategory, &MealAll, &MealConsumeSorted, &ExercisePerformSorted,
+              &DaysWithEntries, &BodySorted, &BodyCheck, &UserNoteSorted, &UserNoteCheck,
+              &chkMinMaxdate, &chkCaloriesDays, &GPBody, &GPCalories, &GPNotes}) {
             // Two walk the notes in their order rather than sort them: their index holds both
-            // days, so that only the notes found are read.
-            const bool walks = command == &UserNoteSorted || command == &GPNotes;
+            // days, so that only the notes found are read. One walks all meals by their names.
+            const bool walks =
+                command == &UserNoteSorted || command == &GPNotes || command == &MealAll;
             const std::string explain = std::string("explain query plan ") + command->sql;
             for (const QString &line : m_journal->rows(explain.c_str())) {
                 const QString step = line.section(u'|', 3);

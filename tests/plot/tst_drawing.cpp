@@ -1,4 +1,5 @@
 // What the painters of both charts draw with, on screens of any density.
+#include "guitest.h"
 #include "plot/chartwidget.h"
 #include "plot/drawing.h"
 #include "properties.h"
@@ -161,17 +162,6 @@ void tst_drawing::hatching()
 
 void tst_drawing::colorsKeepTheirDistance()
 {
-    // Of relative luminances, as in the accessibility guidelines for web content.
-    const auto contrast = [](const QColor &a, const QColor &b) {
-        const auto luminance = [](const QColor &color) {
-            const auto linear = [](double c) {
-                return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-            };
-            return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-                   0.0722 * linear(color.blueF()) + 0.05;
-        };
-        return std::max(luminance(a), luminance(b)) / std::min(luminance(a), luminance(b));
-    };
     for (const bool dark : {false, true}) {
         QPalette palette;
         palette.setColor(QPalette::Base, dark ? QColor(0x202326) : QColor(Qt::white));

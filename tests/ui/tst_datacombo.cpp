@@ -5,6 +5,7 @@
 #include "ui/datacombo.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCompleter>
 #include <QDialog>
 #include <QLineEdit>
@@ -67,6 +68,9 @@ private slots:
     void escapesToWhatWasTyped();
     void cutsLongNamesShort();
     void keepsChoice();
+    void paintsDetails();
+    void keepsDetailsFromNames();
+    void asksForRows();
 
 private:
     std::unique_ptr<TestJournal> journal;
@@ -168,6 +172,104 @@ void tst_datacombo::keepsChoice()
     pressKey(Qt::Key_Down); // chooses another, for the time being
     pressKey(Qt::Key_Escape);
     QCOMPARE(form->chooser->boundValue(), 2);
+}
+
+// In grey that can be read on every ground; neither end of the line takes the other's place.
+void tst_datacombo::paintsDetails()
+{
+    QAbstractItemView &list = *form->chooser->view();
+    list.setFixedWidth(400);
+    setTestFont(*form->chooser);
+    form->chooser->showPopup();
+    const auto pictureOf = [&](const QString &name, const QString &detail) {
+        form->chooser->setItemText(0, name);
+        form->chooser->setItemData(0, detail, Qt::AccessibleDescriptionRole);
+        const QModelIndex row = list.model()->index(0, 0);
+        return list.viewport()->grab(list.visualRect(row)).toImage();
+    };
+    for (const bool dark : {false, true}) {
+        QPalette colors = list.palette();
+        colors.setColor(QPalette::Base, dark ? QColor(0x202326) : QColor(Qt::white));
+        colors.setColor(QPalette::Text, dark ? QColor(0xf0f0f0) : QColor(Qt::black));
+        list.setPalette(colors);
+        for (const bool selected : {true, false}) {
+            list.setCurrentIndex(list.model()->index(selected ? 0 : 1, 0));
+            const QImage picture = pictureOf(u"Apple"_qs, u"Fruit"_qs);
+            const int middle = picture.width() / 2;
+            const auto most = [&](int from, int to) {
+                double found = 1;
+                for (int x = from; x < to; ++x) {
+                    for (int y = 3; y < picture.height() - 3; ++y)
+                        found = qMax(found, contrast(picture.pixelColor(x, y),
+                                                     picture.pixelColor(middle, y)));
+                }
+                return found;
+            };
+            const double name = most(3, middle);
+            const double detail = most(middle, picture.width() - 3);
+            // Paler, but on the selection, whose colours may be near each other as they are.
+            QVERIFY(selected ? detail > 0.95 * name : detail > 4.5 && detail < 0.8 * name);
+        }
+    }
+    const QString endless(500, u'W');
+    const QImage both = pictureOf(u"Apple"_qs, u"Fruit"_qs);
+    const auto widthOf = [&](const QString &text) {
+        return form->chooser->fontMetrics().horizontalAdvance(text) + 8;
+    };
+    const QRect name(0, 0, widthOf(u"Apple"_qs), both.height());
+    QCOMPARE(pictureOf(u"Apple"_qs, endless).copy(name), both.copy(name));
+    const int width = widthOf(u"Fruit"_qs);
+    const QRect detail(both.width() - width, 0, width, both.height());
+    QCOMPARE(pictureOf(endless, u"Fruit"_qs).copy(detail), both.copy(detail));
+}
+
+// Heard by those who can't see it; what is typed finds names alone.
+void tst_datacombo::keepsDetailsFromNames()
+{
+    journal->exec("insert into Meal values (1, 1, 'Apple', 'x', 1, 1, 1, 0, 0, 0, 0, 0, 0),"
+                  " (2, 3, 'Apple pie', 'x', 1, 1, 1, 0, 0, 0, 0, 0, 0)");
+    Recordset &meals = journal->data->rsMealAll;
+    meals.open();
+    form->chooser->setRows(meals, schema::Meal::MealID, schema::Meal::Name, &commands::category);
+    typeKeys(u"fruit"_qs);
+    QCOMPARE(form->offered(), QString());
+    typeKeys(u"^pie"_qs);
+    QCOMPARE(form->offered(), u"Apple pie"_qs);
+    QAccessibleInterface *matches =
+        QAccessible::queryAccessibleInterface(form->chooser->completer()->popup());
+    QCOMPARE(matches->child(0)->text(QAccessible::Name), u"Apple pie"_qs);
+    QCOMPARE(matches->child(0)->text(QAccessible::Description), u"Käse und Brot"_qs);
+    pressKey(Qt::Key_Tab);
+    QCOMPARE(form->chooser->displayedText(), u"Apple pie"_qs);
+    QCOMPARE(form->chooser->boundValue(), 2);
+}
+
+// Whoever comes in finds the rows; whoever is in keeps them.
+void tst_datacombo::asksForRows()
+{
+    form->next->setFocus();
+    const QSignalSpy asked(form->chooser, &DataCombo::rowsNeeded);
+    const auto ask = [&] {
+        form->chooser->showPopup();
+        form->chooser->hidePopup();
+    };
+    ask();
+    form->chooser->setDisplayedText(u"Fruit"_qs);
+    form->chooser->setFocus();
+    QCOMPARE(asked.count(), 3);
+    ask();
+    activate(*form);
+    form->chooser->setDisplayedText(u"Crème"_qs);
+    typeKeys(u"^fru"_qs);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Escape);
+    QDialog other(form.get());
+    other.show();
+    activate(other);
+    other.close();
+    activate(*form);
+    QVERIFY(form->chooser->hasFocus());
+    QCOMPARE(asked.count(), 3);
 }
 
 QTEST_MAIN(tst_datacombo)
