@@ -164,6 +164,25 @@ void measureEditor(Table &table, Program &program)
                    compare(30, ours, floor));
 }
 
+// Without a category, the chooser reads every meal as soon as it is entered.
+void measureMealChooser(Table &table, Program &program)
+{
+    frmMealConsume editor(program.session, program.messages, program.window.get());
+    double taken = 0;
+    inDialog(
+        "frmMealConsume", [&] { editor.run(0); },
+        [&](QWidget &dialog) {
+            auto &meal = control<DataCombo>(dialog, "dcbMeal");
+            taken = timed([&] {
+                meal.setFocus();
+                dialog.repaint();
+            });
+            if (meal.count() == 0)
+                qFatal("no meals are offered");
+        });
+    table.addTime(u"the chooser of every meal entered and painted"_qs, taken, frame);
+}
+
 // From the press on Add to the new chart, against the durable transactions and the day's queries.
 void measureAddMode(Table &table, Program &program)
 {
@@ -213,6 +232,7 @@ void measureWindows(Table &table, const QString &fullJournal)
     Program program(fullJournal);
     measureDays(table, program);
     measureEditor(table, program);
+    measureMealChooser(table, program);
     measureDayList(table, program);
     measureAddMode(table, program);
     measureProgress(table, program);

@@ -41,8 +41,17 @@ frmMealConsume::frmMealConsume(Session &session, Messages &messages, QWidget *pa
     makeChecks();
     connect(dcbMealCategory, &DataCombo::boundValueChanged, this,
             attempting(this, messages, &frmMealConsume::categoryChanged));
+    connect(dcbMeal, &DataCombo::rowsNeeded, this,
+            attempting(this, messages, &frmMealConsume::offerMeals));
     connect(dcbMeal, &DataCombo::boundValueChanged, this, &frmMealConsume::mealChanged);
+    // From the list, the meal that is chosen already may be taken once more.
+    connect(dcbMeal, &QComboBox::activated, this, &frmMealConsume::showCategoryOfMeal);
     dcbMealCategory->load();
+}
+
+frmMealConsume::~frmMealConsume()
+{
+    session().data().rsMealAll.close(); // the whole catalogue need not be kept
 }
 
 void frmMealConsume::makeControls()
@@ -96,11 +105,6 @@ void frmMealConsume::makeChecks()
     checkQuantity();
 }
 
-Recordset &frmMealConsume::meals() const
-{
-    return session().data().rsMealForCategory;
-}
-
 void frmMealConsume::Populate()
 {
     JournalEntryEditor::Populate();
@@ -116,24 +120,78 @@ void frmMealConsume::Populate()
 
 void frmMealConsume::categoryChanged()
 {
-    const std::optional<qint32> category = dcbMealCategory->boundValue();
-    if (!category)
-        return;
-    meals().reopenReadable({Value(*category)});
-    dcbMeal->setRows(meals(), schema::Meal::MealID, schema::Meal::Name);
-    meals().moveFirst();
-    if (meals().isEof())
+    m_replacedCategory.reset();
+    if (!dcbMealCategory->boundValue())
+        return; // every meal is offered once the chooser is entered
+    readMeals(session().data().rsMealForCategory);
+    m_meals->moveFirst();
+    if (m_meals->isEof())
         mealChanged();
     else
-        dcbMeal->setBoundValue(meals().integer(schema::Meal::MealID));
+        dcbMeal->setBoundValue(m_meals->integer(schema::Meal::MealID));
+}
+
+// Only now, since most meals are chosen by their category and reading all takes longer. The
+// category that a meal has brought counts as chosen from here on.
+void frmMealConsume::offerMeals()
+{
+    const bool all = !dcbMealCategory->boundValue();
+    if (all == offersAll())
+        return;
+    const std::optional<qint32> chosen = dcbMeal->boundValue();
+    {
+        // The meal stays, and with it the quantity, which may not be the usual one any more.
+        const QSignalBlocker blocker(dcbMeal);
+        const QString shown = dcbMeal->displayedText();
+        readMeals(all ? session().data().rsMealAll : session().data().rsMealForCategory);
+        dcbMeal->setDisplayedText(shown);
+    }
+    if (dcbMeal->boundValue() != chosen)
+        mealChanged(); // another program has deleted or moved it
+    else if (chosen)
+        m_meals->moveTo(schema::Meal::MealID, *chosen);
+}
+
+void frmMealConsume::readMeals(Recordset &meals)
+{
+    const bool all = &meals == &session().data().rsMealAll;
+    if (all)
+        meals.reopenReadable();
+    else
+        meals.reopenReadable({Value(*dcbMealCategory->boundValue())});
+    m_meals = &meals;
+    dcbMeal->setRows(meals, schema::Meal::MealID, schema::Meal::Name,
+                     all ? &commands::category : nullptr);
+}
+
+bool frmMealConsume::offersAll() const
+{
+    return m_meals == &session().data().rsMealAll;
 }
 
 void frmMealConsume::mealChanged()
 {
     const std::optional<qint32> meal = dcbMeal->boundValue();
-    const bool chosen = meal && meals().isOpen() && meals().moveTo(schema::Meal::MealID, *meal);
-    m_increment = chosen ? incrementOf(meals().value(schema::Meal::Increment)) : usualIncrement;
-    showChoice(chosen ? &meals() : nullptr);
+    const bool chosen = meal && m_meals && m_meals->moveTo(schema::Meal::MealID, *meal);
+    m_increment = chosen ? incrementOf(m_meals->value(schema::Meal::Increment)) : usualIncrement;
+    showCategoryOfMeal();
+    showChoice(chosen ? m_meals : nullptr);
+}
+
+// What was typed there comes back when the meal is given up, as by one more letter of its name.
+void frmMealConsume::showCategoryOfMeal()
+{
+    if (!offersAll())
+        return;
+    const QSignalBlocker blocker(dcbMealCategory); // it would choose its first meal
+    if (dcbMeal->boundValue()) {
+        if (!m_replacedCategory)
+            m_replacedCategory = dcbMealCategory->displayedText();
+        dcbMealCategory->setBoundValue(m_meals->integer(schema::Meal::MealCategoryID));
+    } else if (m_replacedCategory) {
+        dcbMealCategory->setDisplayedText(*m_replacedCategory);
+        m_replacedCategory.reset();
+    }
 }
 
 void frmMealConsume::createMeal()
@@ -161,11 +219,11 @@ void frmMealConsume::recalculate()
         figure->clear();
     lblCalories->clear();
     const std::optional<Currency> consumed = quantity();
-    if (!consumed || !dcbMeal->boundValue() || !meals().isOpen() || meals().isEof())
+    if (!consumed || !dcbMeal->boundValue() || !m_meals || m_meals->isEof())
         return;
     try {
         const auto perUnit =
-            schema::Meal::shares.map([this](auto column) { return meals().number(column); });
+            schema::Meal::shares.map([this](auto column) { return m_meals->number(column); });
         const Nutrients<qint64> figures = consumptionFigures(*consumed, perUnit);
         for (const Nutrient n : allNutrients)
             m_figures[n]->setText(QString::number(figures[n]));

@@ -7,13 +7,15 @@
 class MealCategoryChooser;
 class QGroupBox;
 
-/// The meal consumption editor.
+/// The meal consumption editor. A category offers its meals and chooses the first of them. Without
+/// one every meal is offered, and the meal chosen shows its category.
 class frmMealConsume : public JournalEntryEditor
 {
     Q_OBJECT
 
 public:
     frmMealConsume(Session &session, Messages &messages, QWidget *parent = nullptr);
+    ~frmMealConsume() override;
 
 protected:
     void Populate() override;
@@ -29,9 +31,12 @@ private:
     QLayout *makeForm();
     QGroupBox *makeFigures();
     void makeChecks();
-    Recordset &meals() const;
     void categoryChanged();
+    void offerMeals();
+    void readMeals(Recordset &meals);
+    bool offersAll() const;
     void mealChanged();
+    void showCategoryOfMeal();
     void createMeal();
 
     MealCategoryChooser *dcbMealCategory;
@@ -41,5 +46,9 @@ private:
     Nutrients<QLabel *> m_figures; ///< lblFat, lblCarboHydrate, lblProtein
     QLabel *lblCalories;
 
+    Recordset *m_meals = nullptr; ///< those offered, on the chosen one; null before there are any
+    /// The text that the category of the chosen meal stands in place of; none while the category
+    /// is as it was chosen or typed.
+    std::optional<QString> m_replacedCategory;
     Currency m_increment = Currency::fromInteger(1);
 };

@@ -3,6 +3,7 @@
 
 #include "journal/frmMealConsume.h"
 
+#include <QAbstractItemView>
 #include <QLabel>
 
 namespace {
@@ -17,6 +18,26 @@ QString entry(QWidget &editor)
     return texts.join(' ').trimmed();
 }
 
+QString categoryIn(QWidget &editor)
+{
+    return control<DataCombo>(editor, "dcbMealCategory").displayedText();
+}
+
+/// The meals that the chooser offers while nothing is typed, with what stands beside them.
+QString offeredIn(QWidget &editor)
+{
+    const auto &chooser = control<DataCombo>(editor, "dcbMeal");
+    QStringList lines;
+    for (int row = 0; row < chooser.count(); ++row) {
+        const QString detail = chooser.itemData(row, Qt::AccessibleDescriptionRole).toString();
+        lines += QString("%1 %2").arg(chooser.itemText(row), detail).trimmed();
+    }
+    return lines.join('|');
+}
+
+constexpr char everyMeal[] = "Apple Fruit|Apple juice Fruit juice|Banana Fruit|"
+                             "Crème brûlée Dairy|Grape Fruit juice";
+
 } // namespace
 
 class tst_mealconsume : public QObject
@@ -24,14 +45,27 @@ class tst_mealconsume : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { journal = std::make_unique<DayJournal>(); }
+    void init() { makeJournal(QLocale("en_GB")); }
     void choosesAndRecalculates();
     void checksInOrder();
     void takesTypedTime_data();
     void takesTypedTime();
     void createsMeal();
+    void mealBringsItsCategory();
+    void givesUpTheCategoryWithTheMeal();
+    void categoryNarrowsTheMeals();
+    void addsMealsOfAllCategories();
+    void readsTheCatalogueOnlyWhenNeeded();
 
 private:
+    // With a second category and meals that begin as others do.
+    void makeJournal(const QLocale &locale)
+    {
+        journal = std::make_unique<DayJournal>(locale);
+        journal->exec("insert into MealCategory values (7, 'Fruit juice');"
+                      "insert into Meal values (9, 7, 'Apple juice', 'glass', 2.5, 0.5, 1, 1, 1, 1,"
+                      " 0, 40, 2), (10, 7, 'Grape', 'glass', 1, 1, 1, 1, 1, 1, 0, 60, 1)");
+    }
     std::unique_ptr<DayJournal> journal;
 };
 
@@ -155,6 +189,205 @@ void tst_mealconsume::createsMeal()
         press(editor, "btnOK");
     });
     QCOMPARE(journal->row("select Name, Qty from MealConsume natural join Meal"), "Cheese|2");
+    journal->edit<frmMealConsume>(
+        0, [](QWidget &editor) { // beside a meal that brought its category
+            choose(editor, "dcbMeal", "Grape");
+            press(editor, "btnNewMeal", "frmMeal", [](QWidget &meal) {
+                QCOMPARE(control<DataCombo>(meal, "dcbMealCategory").displayedText(),
+                         "Fruit juice");
+            });
+            QCOMPARE(categoryIn(editor), "Fruit juice");
+            QCOMPARE(entry(editor), "Grape 1 glass 0 60 1 61");
+            press(editor, "btnOK");
+        });
+    QCOMPARE(journal->row("select MealID from MealConsume where MealConsumeID = 3"), "10");
+}
+
+// However it is chosen: the category follows, and neither its first meal nor its quantity comes.
+void tst_mealconsume::mealBringsItsCategory()
+{
+    makeJournal(QLocale("de_DE"));
+    const std::function<void(QWidget &, DataCombo &)> ways[] = {
+        [](QWidget &, DataCombo &) {
+            typeKeys("rap");
+            pressKey(Qt::Key_Return);
+        },
+        [](QWidget &, DataCombo &) {
+            typeKeys("ap"); // Apple, Apple juice, Grape
+            pressKey(Qt::Key_Down);
+            pressKey(Qt::Key_Down);
+            pressKey(Qt::Key_Tab);
+        },
+        [](QWidget &, DataCombo &) {
+            typeKeys("GRAPE");
+            pressKey(Qt::Key_Escape);
+        },
+        [](QWidget &window, DataCombo &meal) {
+            meal.clearFocus();
+            choose(window, "dcbMeal", "Grape");
+        },
+        [](QWidget &, DataCombo &meal) {
+            meal.showPopup();
+            const QAbstractItemView &list = *meal.view();
+            const QRect row = list.visualRect(list.model()->index(meal.findText("Grape"), 0));
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
+        }};
+    for (const auto &way : ways) {
+        journal->exec("delete from MealConsume");
+        journal->edit<frmMealConsume>(0, [&](QWidget &editor) {
+            type(editor, "txtQty", "3");
+            control<DataCombo>(editor, "dcbMealCategory").setFocus();
+            pressKey(Qt::Key_Tab);
+            QCOMPARE(offeredIn(editor), everyMeal);
+            QCOMPARE(textOf(editor, "txtQty"), "3");
+            way(editor, control<DataCombo>(editor, "dcbMeal"));
+            QCOMPARE(categoryIn(editor), "Fruit juice");
+            QCOMPARE(entry(editor).toLower(), "grape 1 glass 0 60 1 61");
+            type(editor, "txtQty", "1,5");
+            QVERIFY(entry(editor).endsWith("0 90 2 92"));
+            pressKey(Qt::Key_Up);
+            press(editor, "btnOK");
+        });
+        QCOMPARE(journal->messages.takeText(), QString());
+        QCOMPARE(journal->row("select MealID, Qty from MealConsume"), "10|2.5");
+    }
+}
+
+// A longer name may begin with a whole one, and matches are walked through before one is taken.
+void tst_mealconsume::givesUpTheCategoryWithTheMeal()
+{
+    journal->edit<frmMealConsume>(0, [](QWidget &editor) {
+        control<DataCombo>(editor, "dcbMealCategory").setFocus();
+        typeKeys("Vac");
+        pressKey(Qt::Key_Escape); // what is typed there is no category
+        control<DataCombo>(editor, "dcbMeal").setFocus();
+        typeKeys("apple");
+        QCOMPARE(categoryIn(editor), "Fruit");
+        QCOMPARE(entry(editor), "apple 1.5 piece 15 22 8 45");
+        typeKeys(" ");
+        QCOMPARE(categoryIn(editor), "Vac");
+        QCOMPARE(entry(editor), "apple");
+        typeKeys("<");
+        pressKey(Qt::Key_Down);
+        QCOMPARE(categoryIn(editor), "Fruit juice");
+        QCOMPARE(entry(editor), "Apple juice 2.5 glass 0 100 5 105");
+        pressKey(Qt::Key_Escape);
+        QCOMPARE(categoryIn(editor), "Fruit");
+        typeKeys("^ap");
+        pressKey(Qt::Key_Down);
+        pressKey(Qt::Key_Down);
+        QCOMPARE(categoryIn(editor), "Fruit juice");
+        pressKey(Qt::Key_Escape);
+        QCOMPARE(categoryIn(editor), "Vac");
+        QCOMPARE(entry(editor), "ap");
+        typeKeys("^"); // in another category, while still in the chooser
+        typeKeys("crem");
+        pressKey(Qt::Key_Return);
+        QCOMPARE(categoryIn(editor), "Dairy");
+        control<DataCombo>(editor, "dcbMealCategory").setFocus();
+        typeKeys("^Fru ");
+        pressKey(Qt::Key_Escape); // it is what is typed there now
+        control<DataCombo>(editor, "dcbMeal").setFocus();
+        typeKeys("^br");
+        QCOMPARE(categoryIn(editor), "Fru ");
+        pressKey(Qt::Key_Return);
+        press(editor, "btnOK");
+    });
+    QCOMPARE(journal->meals(), QStringList{"2|3|46225|750|1"});
+}
+
+// Once there is a category, it counts wherever it came from; without one all meals are back.
+void tst_mealconsume::categoryNarrowsTheMeals()
+{
+    journal->edit<frmMealConsume>(0, [this](QWidget &editor) {
+        auto &category = control<DataCombo>(editor, "dcbMealCategory");
+        auto &meal = control<DataCombo>(editor, "dcbMeal");
+        const auto enterMeals = [&] {
+            category.setFocus();
+            pressKey(Qt::Key_Tab);
+            QVERIFY(meal.hasFocus());
+        };
+        enterMeals();
+        typeKeys("banana");
+        pressKey(Qt::Key_Tab);
+        type(editor, "txtQty", "7");
+        enterMeals();
+        QCOMPARE(offeredIn(editor), "Apple|Banana");
+        QCOMPARE(entry(editor), "Banana 7 piece 18 630 28 676");
+        typeKeys("grape");
+        QCOMPARE(categoryIn(editor), "Fruit");
+        choose(editor, "dcbMealCategory", "Fruit juice");
+        QCOMPARE(entry(editor).left(17), "Apple juice 2.5 g");
+        QCOMPARE(offeredIn(editor), "Apple juice|Grape");
+
+        category.setFocus();
+        typeKeys("^<");
+        type(editor, "txtQty", "7");
+        enterMeals();
+        QCOMPARE(categoryIn(editor), QString());
+        QCOMPARE(offeredIn(editor), everyMeal);
+        QCOMPARE(entry(editor), "Apple juice 7 glass 0 280 14 294");
+        journal->refuses(editor, "dcbMealCategory",
+                         "The Meal Category is not specified or specified incorrect", "x");
+        enterMeals();
+        pressKey(Qt::Key_F4);
+        pressKey(Qt::Key_Return); // the same meal once more, of which as much was eaten
+        QCOMPARE(categoryIn(editor), "Fruit juice");
+        press(editor, "btnOK");
+    });
+    QCOMPARE(journal->meals(), QStringList{"2|9|46225|750|7"});
+}
+
+void tst_mealconsume::addsMealsOfAllCategories()
+{
+    frmMealConsume window(*journal->session, journal->messages);
+    window.setAddMode(true);
+    const auto steps = [&](QWidget &editor) {
+        for (const char *part : {"banana", "grape", "brul"}) {
+            control<DataCombo>(editor, "dcbMeal").setFocus();
+            QCOMPARE(offeredIn(editor), everyMeal);
+            typeKeys(part);
+            pressKey(Qt::Key_Tab);
+            press(editor, "btnOK");
+            QCOMPARE(categoryIn(editor) + entry(editor), QString());
+            QVERIFY(control<DataCombo>(editor, "dcbMealCategory").hasFocus());
+        }
+        choose(editor, "dcbMealCategory", "Fruit");
+        press(editor, "btnOK");
+        control<DataCombo>(editor, "dcbMeal").showPopup();
+        QCOMPARE(offeredIn(editor).count('|'), 4);
+    };
+    inDialog(
+        "frmMealConsume", [&] { window.run(0); }, steps);
+    QCOMPARE(journal->messages.takeText(), QString());
+    QCOMPARE(journal->meals(), (QStringList{"2|2|46225|750|1", "3|10|46225|750|1",
+                                            "4|3|46225|750|1", "5|1|46225|750|1.5"}));
+}
+
+void tst_mealconsume::readsTheCatalogueOnlyWhenNeeded()
+{
+    const Recordset &catalogue = journal->data->rsMealAll;
+    journal->exec("insert into MealConsume values (5, 10, 46225, 0.25, 7.25)");
+    journal->edit<frmMealConsume>(5, [&](QWidget &editor) {
+        control<DataCombo>(editor, "dcbMeal").setFocus();
+        QCOMPARE(offeredIn(editor), "Apple juice|Grape");
+        QCOMPARE(entry(editor), "Grape 7.25 glass 0 435 7 442");
+        QVERIFY(!catalogue.isOpen());
+    });
+    journal->edit<frmMealConsume>(0, [&](QWidget &editor) {
+        QVERIFY(!catalogue.isOpen());
+        journal->exec("alter table Meal rename to Unreadable");
+        auto &meal = control<DataCombo>(editor, "dcbMeal");
+        meal.setFocus();
+        QCOMPARE(journal->messages.said.size(), size_t(1));
+        journal->messages.takeText();
+        journal->exec("alter table Unreadable rename to Meal");
+        control<DataCombo>(editor, "dcbMealCategory").setFocus();
+        meal.setFocus();
+        QCOMPARE(meal.count(), 5);
+    });
+    QCOMPARE(journal->messages.takeText(), QString());
+    QVERIFY(!catalogue.isOpen());
 }
 
 QTEST_MAIN(tst_mealconsume)
