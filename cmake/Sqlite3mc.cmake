@@ -55,6 +55,8 @@ set(flags -O2 -w -fPIC -fvisibility=hidden
   -DSQLITE_TEMP_STORE=2
   -DSQLITE_LIKE_DOESNT_MATCH_BLOBS
   -DSQLITE_ENABLE_COLUMN_METADATA
+  -DSQLITE_ENABLE_PREUPDATE_HOOK
+  -DSQLITE_ENABLE_SESSION
   -DSQLITE_OMIT_DEPRECATED
   -DSQLITE_OMIT_SHARED_CACHE
   -DSQLITE_OMIT_PROGRESS_CALLBACK)
@@ -76,5 +78,7 @@ add_custom_target(engine DEPENDS ${SQLITE3MC_LIBRARY})
 find_package(Threads REQUIRED)
 add_library(sqlite3mc INTERFACE)
 target_include_directories(sqlite3mc SYSTEM INTERFACE ${sqlite3mc_dir})
+# The header declares the extension only where it is compiled in.
+target_compile_definitions(sqlite3mc INTERFACE SQLITE_ENABLE_PREUPDATE_HOOK SQLITE_ENABLE_SESSION)
 target_link_libraries(sqlite3mc INTERFACE
   ${SQLITE3MC_LIBRARY} ${CMAKE_DL_LIBS} Threads::Threads)

@@ -50,17 +50,17 @@ void compare(const QString &what, const QStringList &found, const QStringList &e
 void checkSchema(Connection &connection)
 {
     QStringList names;
-    for (const schema::Table &table : schema::tables) {
-        names += QString::fromLatin1(table.name());
+    for (const schema::Table *table : schema::tables) {
+        names += QString::fromLatin1(table->name());
         QStringList expected;
-        for (const schema::Column &column : table)
+        for (const schema::Column &column : *table)
             expected += declared(column);
         // A key that numbers itself is declared without "not null".
         compare(names.last(),
                 rowsOf(connection,
                        std::string("select name, type, iif(\"notnull\" or pk, 'not null', 'null')"
                                    " from pragma_table_info('") +
-                           table.name() + "') order by cid"),
+                           table->name() + "') order by cid"),
                 expected);
     }
     compare(u"The tables"_s,

@@ -71,6 +71,7 @@ frmMain::frmMain(Session &session, Messages &messages)
     m_view->graph->set24HourClock(session.is24HourClock());
     LoadGraph();
     showSampleNotice();
+    showHistory();
 }
 
 void frmMain::showPictures()
@@ -186,6 +187,7 @@ void frmMain::followRecords(const StoredChange &change)
         (isCatalogue && change.kind == StoredChange::Kind::Changed))
         redraw();
     showSampleNotice();
+    showHistory();
 }
 
 // Whenever the user comes back here, from a window of this program, too.
@@ -350,9 +352,12 @@ void frmMain::deleteTrialData()
     };
     if (!m_messages.ask(this, tr("Are you sure?"), lines.join(Session::lineBreak())))
         return;
-    attempt(
-        this, m_messages, [this] { deleteSampleJournal(m_session.data()); },
-        tr("The trial data can't be deleted"));
+    const auto remove = [this] {
+        const UndoHistory::Recording recording(m_session.history(), tr("Deleting Trial Data"),
+                                               m_session.currentDate());
+        deleteSampleJournal(m_session.data());
+    };
+    attempt(this, m_messages, remove, tr("The trial data can't be deleted"));
     // Refused half-way, it has deleted some.
     m_session.announce({{&schema::Body::table, &schema::ExercisePerform::table,
                          &schema::MealConsume::table, &schema::UserNote::table},

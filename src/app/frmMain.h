@@ -1,6 +1,8 @@
 // The main window.
 #pragma once
 
+#include "data/undohistory.h"
+
 #include <QDate>
 #include <QMainWindow>
 
@@ -42,6 +44,7 @@ private:
     void makeConnections();
     void showPictures();
     void showSampleNotice();
+    void showHistory();
 
     // They draw what the session tells of, or say that it can't be drawn.
     void followDay();
@@ -49,6 +52,10 @@ private:
     void followOtherPrograms();
     void redraw();
     void tellMissing();
+    void undo();
+    void redo();
+    void takeStep(Direction direction, const QString &refusal);
+    void showStep(const UndoHistory::Step &step);
     void showToday();
     void showPreviousDay();
     void showNextDay();
@@ -89,6 +96,8 @@ private:
     Messages &m_messages;
     DayView *m_view;
     QToolBar *tlbToolBar;
+    QAction *mnuUndo = nullptr;
+    QAction *mnuRedo = nullptr;
     std::vector<QAction *> m_entries; ///< of the menus
     QDate m_shownDate;                ///< of the chart
     qint64 m_shownVersion = 0;        ///< of the file, as other programs have changed it

@@ -61,6 +61,9 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuExit"_s, tr("E&xit"), &frmMain::leave},
 
         {u"mnuJournal"_s, tr("&Journal")},
+        {u"mnuUndo"_s, tr("&Undo"), &frmMain::undo, {}, Qt::CTRL | Qt::Key_Z},
+        {u"mnuRedo"_s, tr("&Redo"), &frmMain::redo, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+        {u"mnuSep10"_s},
         {u"mnuToday"_s, tr("Go to &Today"), &frmMain::showToday, {}, Qt::CTRL | Qt::Key_T},
         {u"mnuPreviousDay"_s,
          tr("&Previous Day"),
@@ -121,6 +124,10 @@ void frmMain::addEntry(QMenu &menu, const Command &command)
     entry->setShortcut(command.shortcut);
     connect(entry, &QAction::triggered, this, attempting(this, m_messages, command.handler));
     m_entries.push_back(entry);
+    if (command.handler == &frmMain::undo)
+        mnuUndo = entry;
+    if (command.handler == &frmMain::redo)
+        mnuRedo = entry;
     if (command.toolTip.isEmpty())
         return;
     if (command.beginsGroup)

@@ -144,7 +144,8 @@ bool StartUp::askForParameters(Installation &installation)
     dialog.setFirstStart(true);
     dialog.run();
     if (!dialog.OkPressed())
-        return false; // the program was told to end meanwhile
+        return false;              // the program was told to end meanwhile
+    m_session->history().forget(); // setting the program up is no action to take back
     moveSampleJournal(*m_data, m_settings.clock.now().date());
     // Only now: a program that ends before begins the sequence anew at its next start.
     installation.setFirstStartDone();

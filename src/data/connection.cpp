@@ -1,5 +1,6 @@
 #include "data/connection.h"
 
+#include "data/changerecorder.h"
 #include "data/namecollation.h"
 #include "data/schema.h"
 #include "data/sqlfunctions.h"
@@ -124,12 +125,12 @@ void Connection::open(const QString &path, int flags)
 
 void Connection::checkTables()
 {
-    for (const schema::Table &table : schema::tables) {
+    for (const schema::Table *table : schema::tables) {
         std::string columns;
-        for (const schema::Column &column : table)
+        for (const schema::Column &column : *table)
             columns += (columns.empty() ? "" : ", ") + std::string(column.name());
         // Preparing alone tells whether the table and its columns are there.
-        SQLite::Statement(*m_database, "select " + columns + " from " + table.name());
+        SQLite::Statement(*m_database, "select " + columns + " from " + table->name());
     }
     SQLite::Statement common(*m_database, "select count(*) from Common");
     if (!common.executeStep() || common.getColumn(0).getInt() != 1)
@@ -184,8 +185,17 @@ WriteTransaction::WriteTransaction(Connection &connection)
     : m_connection(connection)
     , m_outermost(!connection.isInTransaction())
 {
-    if (m_outermost)
-        guarded([&] { m_connection.prepared("begin immediate")->exec(); });
+    if (!m_outermost)
+        return;
+    guarded([&] { m_connection.prepared("begin immediate")->exec(); });
+    if (ChangeRecorder *recorder = m_connection.recorder()) {
+        try {
+            recorder->begin(m_connection.database().getHandle());
+        } catch (...) {
+            rollBack();
+            throw;
+        }
+    }
 }
 
 WriteTransaction::~WriteTransaction()
@@ -200,6 +210,8 @@ WriteTransaction::~WriteTransaction()
 void WriteTransaction::rollBack()
 {
     m_open = false;
+    if (ChangeRecorder *recorder = m_connection.recorder())
+        recorder->forget();
     m_connection.database().tryExec("rollback");
     m_connection.database().tryExec("select count(*) from Common");
 }
@@ -208,10 +220,17 @@ void WriteTransaction::commit()
 {
     if (!m_outermost)
         return;
+    ChangeRecorder *const recorder = m_connection.recorder();
+    if (recorder)
+        recorder->capture(); // before another program can change the rows again
     try {
         guarded([&] { m_connection.prepared("commit")->exec(); });
         m_open = false;
+        if (recorder)
+            recorder->keep();
     } catch (const StoreError &error) {
+        if (recorder && error.kind() == StoreError::Kind::Uncertain)
+            recorder->keep();
         rollBack();
         if (error.kind() != StoreError::Kind::Uncertain)
             throw;

@@ -13,6 +13,8 @@
 #include <unordered_map>
 #include <vector>
 
+class ChangeRecorder;
+
 /// Runs an action of the engine and turns its exceptions into StoreError.
 template<typename Action>
 decltype(auto) guarded(Action action)
@@ -86,6 +88,10 @@ public:
     /// Another number whenever another program has stored something meanwhile.
     qint64 dataVersion();
 
+    /// Follows every transaction from its beginning; null for none.
+    void setRecorder(ChangeRecorder *recorder) { m_recorder = recorder; }
+    ChangeRecorder *recorder() const { return m_recorder; }
+
     /// How long a statement waits for another program to let go of the file, in milliseconds.
     static constexpr int busyTimeout = 2000;
 
@@ -97,6 +103,7 @@ private:
 
     std::unique_ptr<SQLite::Database> m_database;
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_prepared;
+    ChangeRecorder *m_recorder = nullptr;
 };
 
 /// A transaction that holds the file for writing from its first moment, so that what it reads

@@ -2,10 +2,15 @@
 
 #include "data/numbers.h"
 
+#include <stdexcept>
+
 namespace {
 
 qint16 nextOf(deData &data, const schema::Column &counter)
 {
+    // Taken back with the action, a counter would hand out the number once more.
+    if (data.Con.recorder())
+        throw std::logic_error("identifiers are taken before an action is recorded");
     Recordset &common = data.rsCommon;
     WriteTransaction transaction(data.Con);
     // Read under the lock: the row that is open may be older than another program's store.

@@ -187,7 +187,7 @@ struct Common
 };
 
 inline constexpr std::array tables{
-    MealCategory::table,    Meal::table, Exercise::table, MealConsume::table,
-    ExercisePerform::table, Body::table, UserNote::table, Common::table};
+    &MealCategory::table,    &Meal::table, &Exercise::table, &MealConsume::table,
+    &ExercisePerform::table, &Body::table, &UserNote::table, &Common::table};
 
 } // namespace schema

@@ -14,6 +14,7 @@ Session::Session(deData &data, const Clock &clock, const QLocale &locale)
     : m_data(data)
     , m_clock(clock)
     , m_text(locale)
+    , m_history(data.Con)
 {
     const QDateTime now = clock.now();
     m_currentDate = now.date();

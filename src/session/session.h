@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/deData.h"
+#include "data/undohistory.h"
 #include "session/clock.h"
 #include "session/localetext.h"
 
@@ -58,6 +59,7 @@ public:
 
     deData &data() const { return m_data; }
     const Clock &clock() const { return m_clock; }
+    UndoHistory &history() { return m_history; }
     const LocaleText &text() const { return m_text; }
 
     /// The day shown; new journal rows are stored on it.
@@ -100,6 +102,7 @@ private:
     deData &m_data;
     const Clock &m_clock;
     LocaleText m_text;
+    UndoHistory m_history;
     QDate m_currentDate;
     QTime m_currentTime;
     CommonParameters m_parameters;

@@ -3,6 +3,7 @@
 #include "data/identifiers.h"
 #include "data/storeerror.h"
 #include "session/session.h"
+#include "ui/actionrecording.h"
 #include "ui/attempt.h"
 #include "ui/messages.h"
 
@@ -75,7 +76,7 @@ bool RecordEditor::store()
             m_source.cancelUpdate();
             return false;
         }
-        runAsOne(session().data().Con, storeSteps(), refusal());
+        runRecorded();
         return true;
     } catch (const std::exception &error) {
         // Put back before anything is said, so that the next OK begins anew.
@@ -83,6 +84,14 @@ bool RecordEditor::store()
         refuseStore(error);
         return false;
     }
+}
+
+void RecordEditor::runRecorded()
+{
+    using enum ActionRecording::Action;
+    ActionRecording recording(session(), appendsRecord() ? Adding : Changing, table());
+    runAsOne(session().data().Con, storeSteps(), refusal());
+    recording.name(m_source.integer(table().key()));
 }
 
 std::vector<Step> RecordEditor::storeSteps()

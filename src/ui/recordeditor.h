@@ -64,6 +64,7 @@ private:
     void accept() override;
     void load();
     bool store();
+    void runRecorded();
     const schema::Table &table() const { return *m_source.command().table; }
     void refuseStore(const std::exception &error);
 

@@ -1,6 +1,7 @@
 #include "ui/removal.h"
 
 #include "session/session.h"
+#include "ui/actionrecording.h"
 #include "ui/attempt.h"
 #include "ui/messages.h"
 
@@ -39,6 +40,9 @@ bool removeRecord(QWidget *parent, Session &session, Messages &messages, const R
                   qint32 id, const QString &refusal)
 {
     try {
+        ActionRecording recording(session, ActionRecording::Action::Deleting,
+                                  *removal.records.command().table);
+        recording.name(id);
         remove(session.data(), removal, id);
     } catch (const std::exception &error) {
         messages.error(parent, refusal, causeOf(error));

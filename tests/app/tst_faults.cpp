@@ -1,6 +1,7 @@
 // What a journal must outlive: a second program, and both of them killed. Run with a database, this
-// is itself the program that stores and is killed.
+// is itself the program that stores, or takes back what it stored, and is killed.
 #include "data/identifiers.h"
+#include "data/undohistory.h"
 #include "testjournal.h"
 
 #include <QProcess>
@@ -33,6 +34,31 @@ void storeNotes(const QString &path)
     }
 }
 
+// Stores notes in pairs, takes each pair back, stores it again, and then reports its first. Both
+// tell the identifier of the first.
+void storeAndUndoNotes(const QString &path)
+{
+    deData data(path);
+    UndoHistory history(data.Con);
+    for (;;) {
+        const int first = NewUserNoteID(data);
+        const int second = NewUserNoteID(data);
+        {
+            const UndoHistory::Recording recording(history, QString(), QDate());
+            WriteTransaction transaction(data.Con);
+            for (const int id : {first, second})
+                data.Con.write("insert into UserNote values (?, 46001, 46001, ?)",
+                               {Value(id), Value(QString::number(first))});
+            transaction.commit();
+        }
+        history.take(Direction::Backward);
+        history.take(Direction::Forward);
+        std::printf("%d\n", first);
+        std::fflush(stdout);
+        QTest::qSleep(5);
+    }
+}
+
 } // namespace
 
 class tst_faults : public QObject
@@ -54,10 +80,10 @@ void tst_faults::twoProgramsKilledWhileStoring()
     int shared = 0;     // kills after each of the two had stored
     for (int kill = 0; kill < kills && !QTest::currentTestFailed(); ++kill) {
         QProcess programs[2];
-        for (QProcess &program : programs) {
-            program.start(QCoreApplication::applicationFilePath(), {path});
+        programs[0].start(QCoreApplication::applicationFilePath(), {path});
+        programs[1].start(QCoreApplication::applicationFilePath(), {path, u"undo"_qs});
+        for (QProcess &program : programs)
             QVERIFY(program.waitForStarted());
-        }
         // Every other time once both store, else perhaps while they open the file.
         for (QProcess &program : programs)
             QVERIFY(kill % 2 == 0 || program.waitForReadyRead(20'000));
@@ -84,6 +110,9 @@ void tst_faults::twoProgramsKilledWhileStoring()
         const QStringList rows =
             queryRows(connection, "select UserNoteID from UserNote where NoteText = UserNoteID");
         QVERIFY(QSet<QString>(rows.begin(), rows.end()).contains(stored));
+        QCOMPARE(queryRows(connection, "select NoteText from UserNote where DateFrom = 46001"
+                                       " group by NoteText having count(*) <> 2"),
+                 QStringList());
     }
     qInfo("%lld rows stored, %d of %d kills came in the middle of a transaction, %d while both"
           " stored",
@@ -96,8 +125,9 @@ void tst_faults::twoProgramsKilledWhileStoring()
 
 int main(int argc, char **argv)
 {
-    if (argc == 2 && QFile::exists(QString::fromLocal8Bit(argv[1]))) {
-        storeNotes(QString::fromLocal8Bit(argv[1]));
+    if (argc >= 2 && QFile::exists(QString::fromLocal8Bit(argv[1]))) {
+        const auto store = argc == 2 ? storeNotes : storeAndUndoNotes;
+        store(QString::fromLocal8Bit(argv[1]));
         return 0;
     }
     QCoreApplication application(argc, argv);
