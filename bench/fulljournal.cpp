@@ -74,6 +74,26 @@ void makeRoomForMeals(deData &data)
     data.run(("update Common set NextMealConsumeID = " + last).c_str());
 }
 
+void growCatalogue(deData &data, int meals, int activities)
+{
+    WriteTransaction transaction(data.Con);
+    data.Con.write("with recursive n(i) as (select (select count(*) from Meal) + 1 union all"
+                   " select i + 1 from n where i < ?)"
+                   " insert into Meal (MealCategoryID, Name, Unit, DefaultQty, Calories, Fat,"
+                   " Carbohydrate, Protein, FatBC, CarbohydrateBC, ProteinBC)"
+                   " select i % 25 + 1, 'Home-made dish with vegetables, number ' || i,"
+                   " 'plate (' || i || ' g)', 1, 400, 10, 50, 20, 100, 200, 100 from n",
+                   {Value(meals)});
+    data.Con.write(
+        "with recursive n(i) as (select (select count(*) from Exercise) + 1 union all"
+        " select i + 1 from n where i < ?)"
+        " insert into Exercise (Name, Unit, CaloriesConsume, CaloriesConsumeBase,"
+        " WeightDependent) select 'Walk around the lake, number ' || i, 'minute', 4, 4, 0"
+        " from n",
+        {Value(activities)});
+    transaction.commit();
+}
+
 void makeStartedFolder(const QString &folder)
 {
     Installation installation(folder);

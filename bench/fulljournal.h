@@ -18,6 +18,9 @@ void makeFullJournal(const QString &path);
 /// Drops the last 500 consumptions of a full journal and sets their counter back accordingly.
 void makeRoomForMeals(deData &data);
 
+/// Fills the catalogue up to so many meals and activities.
+void growCatalogue(deData &data, int meals, int activities);
+
 /// A program folder as after a first start today: the delivered database, its sample journal
 /// around today.
 void makeStartedFolder(const QString &folder);

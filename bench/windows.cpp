@@ -7,6 +7,7 @@
 #include "journal/frmMealConsumes.h"
 #include "measurements.h"
 #include "progress/frmGeneralProgress.h"
+#include "quickadd/frmQuickAdd.h"
 #include "session/session.h"
 #include "table.h"
 #include "testjournal.h"
@@ -224,6 +225,38 @@ void measureAddMode(Table &table, Program &program)
                    measured);
 }
 
+// With a catalogue that nobody's outgrows. Of the keys the first letter finds most.
+void measureQuickAdd(Table &table, Program &program)
+{
+    growCatalogue(program.data, 5000, 500);
+    program.session.setCurrentDate(lastDay);
+    const auto open = [&](const std::function<void(QWidget &)> &steps) {
+        frmQuickAdd window(program.session, program.messages, program.window.get());
+        inDialog(
+            "frmQuickAdd", [&] { window.exec(); }, steps);
+    };
+    auto opening = repeated(20, [&] {
+        return timeToPicture(
+            [&] { frmQuickAdd(program.session, program.messages, program.window.get()).exec(); });
+    });
+    table.addTime(u"Quick Add opened and painted, 5,000 meals"_qs, median(opening), 2 * frame);
+    std::vector<double> keys;
+    open([&](QWidget &window) {
+        auto &box = control<QLineEdit>(window, "txtEntry");
+        for (const QString &line : {u"e"_qs, u"2 rye bread"_qs, u"number 12 150 g"_qs}) {
+            box.clear();
+            for (const QChar letter : line) {
+                keys.push_back(timed([&] {
+                    QTest::keyClick(&box, letter.toLatin1());
+                    window.repaint();
+                }));
+            }
+        }
+    });
+    table.addTime(u"a key in Quick Add answered, median"_qs, median(keys), frame / 2);
+    table.addTime(u"a key in Quick Add answered, slowest"_qs, keys.back());
+}
+
 } // namespace
 
 // A further window gets a function above and a line here.
@@ -236,4 +269,5 @@ void measureWindows(Table &table, const QString &fullJournal)
     measureDayList(table, program);
     measureAddMode(table, program);
     measureProgress(table, program);
+    measureQuickAdd(table, program);
 }

@@ -20,6 +20,7 @@
 #include "journal/frmUserNote.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
+#include "quickadd/frmQuickAdd.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
@@ -208,6 +209,11 @@ void frmMain::redraw()
     attempt(
         this, m_messages, [this] { RePaintGraph(); },
         tr("The chart can't be drawn anew. What was stored before is stored"));
+}
+
+void frmMain::quickAdd()
+{
+    frmQuickAdd(m_session, m_messages, this).exec();
 }
 
 void frmMain::showToday()

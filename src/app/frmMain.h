@@ -56,6 +56,7 @@ private:
     void redo();
     void takeStep(Direction direction, const QString &refusal);
     void showStep(const UndoHistory::Step &step);
+    void quickAdd();
     void showToday();
     void showPreviousDay();
     void showNextDay();

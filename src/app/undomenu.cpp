@@ -50,13 +50,16 @@ void frmMain::takeStep(Direction direction, const QString &refusal)
     if (!next)
         return;
     const QString description = next->description;
+    UndoHistory::Step taken;
     try {
-        showStep(m_session.history().take(direction));
+        taken = m_session.history().take(direction);
     } catch (const StoreError &error) {
         redraw(); // another program's changes may be the cause
         showHistory();
         m_messages.error(this, refusal.arg(description), causeOfRefusedStep(error));
+        return;
     }
+    showStep(taken);
 }
 
 // The day where it was done is shown, so that it is seen to be taken back.
@@ -64,7 +67,9 @@ void frmMain::showStep(const UndoHistory::Step &step)
 {
     const StoredChange change{step.tables, StoredChange::Kind::Changed};
     if (change.touches(schema::Common::table))
-        m_session.readCommonParameters();
+        attempt(
+            this, m_messages, [this] { m_session.readCommonParameters(); },
+            tr("The common parameters can't be read anew. What was stored is stored"));
     if (touchesDay(step))
         m_session.setCurrentDate(step.day);
     m_session.announce(change);

@@ -149,6 +149,15 @@ inline constexpr Command ExercisePerform{"ExercisePerform",
                                          &schema::ExercisePerform::table,
                                          &schema::ExercisePerform::ExercisePerformID};
 
+// The last 2,000 entries tell what somebody is used to; the latest come first.
+inline constexpr Command RecentMeals{"RecentMeals",
+                                     "select MealID, ConsumeDate, ConsumeTime, Qty from MealConsume"
+                                     " order by ConsumeDate desc, ConsumeTime desc limit 2000"};
+
+inline constexpr Command RecentActivities{
+    "RecentActivities", "select ExerciseID, PerformDate, timeBeg, timeEnd, Qty from ExercisePerform"
+                        " order by PerformDate desc, timeBeg desc limit 2000"};
+
 inline constexpr Command DaysWithEntries{
     "DaysWithEntries",
     "select ConsumeDate as curDate from MealConsume where ConsumeDate between :begDate and :endDate"

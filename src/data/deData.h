@@ -33,6 +33,8 @@ public:
     Recordset rsExercisePerformSorted{Con, commands::ExercisePerformSorted};
     Recordset rsExercisePerform{Con, commands::ExercisePerform};
 
+    Recordset rsRecentMeals{Con, commands::RecentMeals};
+    Recordset rsRecentActivities{Con, commands::RecentActivities};
     Recordset rsDaysWithEntries{Con, commands::DaysWithEntries};
 
     Recordset rsBodySorted{Con, commands::BodySorted};

@@ -15,6 +15,7 @@
 #include "journal/frmMealConsumes.h"
 #include "journal/frmMeasurements.h"
 #include "journal/frmUserNote.h"
+#include "quickadd/frmQuickAdd.h"
 #include "session/samplejournal.h"
 #include "settings/frmCommon.h"
 #include "ui/attempt.h"
@@ -26,6 +27,7 @@
 #include <QRegularExpression>
 
 using namespace Qt::Literals;
+using namespace std::string_literals;
 using faultyfiles::Fault;
 
 namespace {
@@ -214,6 +216,52 @@ Action movingTheSample()
             u"^\\w+: "_s};
 }
 
+Action quickAdding()
+{
+    return {"a quick entry", u"The entry can't be stored"_s, [](Try &attempt) {
+                frmQuickAdd window(*attempt.journal.session, attempt.journal.messages);
+                inDialog(
+                    "frmQuickAdd", [&] { window.exec(); },
+                    [&](QWidget &) {
+                        auto &entry = control<QLineEdit>(window, "txtEntry");
+                        entry.setText(u"350 kcal 8:15"_s); // with a meal made for it
+                        attempt.act([&] { press(window, "btnAdd"); });
+                        // Stored is stored, whether the list can be read afterwards or not.
+                        const auto &said = attempt.journal.messages.said;
+                        const bool isRefused =
+                            !said.empty() && said.front().text == u"The entry can't be stored"_s;
+                        QCOMPARE(entry.text().isEmpty(), !isRefused);
+                    });
+            }};
+}
+
+// A step that has changed rows of several tables, done and then taken back by another one, so that
+// taking that one back, or doing the first again, begins with the rows as they are.
+Action takingAStep(const char *name, const char *entry, const QString &refusal)
+{
+    return {name, refusal, [entry](Try &attempt) {
+                Session &session = *attempt.journal.session;
+                const auto record = [&](const char *sign) {
+                    const UndoHistory::Recording recording(session.history(), u"Recounting"_s,
+                                                           session.currentDate());
+                    WriteTransaction transaction(session.data().Con);
+                    for (const char *column :
+                         {"MealConsume set Qty = Qty", "Body set Waist = Waist",
+                          "Common set weight = weight"})
+                        attempt.journal.data->run(("update "s + column + sign + " 1").c_str());
+                    transaction.commit();
+                };
+                record("+");
+                if (QByteArray(entry) == "mnuUndo")
+                    record("-");
+                else
+                    session.history().take(Direction::Backward);
+                frmMain window(session, attempt.journal.messages);
+                window.show();
+                attempt.act([&] { control<QAction>(window, entry).trigger(); });
+            }};
+}
+
 std::vector<Action> allActions()
 {
     const Fields meal = {{"dcbMealCategory", u"Fruit"_s},
@@ -271,6 +319,9 @@ std::vector<Action> allActions()
         deleting<frmMealCategories>("deleting a category", catalogueDeletion),
         deleting<frmMeals>("deleting a meal", catalogueDeletion),
         deleting<frmExercises>("deleting an activity", catalogueDeletion),
+        quickAdding(),
+        takingAStep("undo", "mnuUndo", u"Recounting can't be undone"_s),
+        takingAStep("redo", "mnuRedo", u"Recounting can't be redone"_s),
         deletingTrialData(),
         movingTheSample(),
     };

@@ -107,7 +107,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuMeasurement frmMeasurements btnNotetNew frmUserNote", "mnuSetDate frmDate",
           "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
-          "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
+          "mnuQuickAdd frmQuickAdd", "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
           "mnuGeneralProgress frmGeneralProgressSettings"})
         open(*mainWindow, path.split(u' '));
 }

@@ -1,4 +1,5 @@
 // The database as it is delivered: what its rows keep to, beyond what the builder refuses.
+#include "quickadd/plaincalories.h"
 #include "settings/units.h"
 #include "testjournal.h"
 
@@ -13,6 +14,7 @@ class tst_delivered : public QObject
 private slots:
     void hasNone();
     void everyDayIsLived();
+    void plainCaloriesAreThere();
 
 private:
     Connection m_connection{QStringLiteral(CORVANA_DELIVERED_DATABASE)};
@@ -56,6 +58,18 @@ void tst_delivered::everyDayIsLived()
     const QString balance = queryRows(m_connection, "select avg(eaten - burnt)" + days)[0];
     const double perDay = balance.toDouble() - 24 * units::backgroundCalories(74, true);
     QVERIFY2(perDay > -350 && perDay < -100, qPrintable(balance));
+}
+
+// As Quick Add makes them in a journal that lacks them.
+void tst_delivered::plainCaloriesAreThere()
+{
+    const char *const query = "select Meal.Name, MealCategory.Name, Unit, DefaultQty, Increment,"
+                              " Calories, Fat, Carbohydrate, Protein, FatBC, CarbohydrateBC,"
+                              " ProteinBC from Meal join MealCategory using (MealCategoryID)"
+                              " where Unit = 'kcal'";
+    TestJournal journal;
+    plaincalories::addTo(*journal.data);
+    QCOMPARE(queryRows(m_connection, query), journal.rows(query));
 }
 
 QTEST_APPLESS_MAIN(tst_delivered)

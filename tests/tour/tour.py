@@ -44,6 +44,10 @@ def meals_in_chart(program):
     return [meal.name for meal in chart.find_all("push button") if meal.name.startswith("Meal at ")]
 
 
+def items_in_chart(program):
+    return len(main_window(program).find("chart", "Daily calorie chart").find_all("push button"))
+
+
 def progress_chart_in(window):
     return wait_for(lambda: [e for e in window.descendants()
                              if e.name.startswith("General progress chart")],
@@ -115,9 +119,42 @@ def menu_of_a_meal(program):
 
 
 @step
-def measurements_and_notes(program):
+def quick_add(program):
     program.keys("Down", "Return")  # Edit Meal
     leave_window(program, "Meal Consumed")
+    program.keys("ctrl+k")
+    window = program.window("Quick Add")
+    xdotool("type", "--delay", 20, "150 g oat 7:30")
+    entry = window.find("text", "What was eaten or done")
+    wait_for(lambda: "weight 150 g" in entry.description and "07:30" in entry.description,
+             lambda: f"the line is read as {entry.description!r}")
+
+
+@step
+def three_meals_by_fifteen_keys(program):
+    leave_window(program, "Quick Add")
+    before = items_in_chart(program)
+    keys = ["ctrl+k", *"oat", "Return", *"ban", "Return", *"cof", "Return", "Escape"]
+    check(len(keys) <= 15, f"{len(keys)} keys")
+    program.keys(*keys)
+    wait_for(lambda: items_in_chart(program) == before + 3, "three more meals in the chart")
+    program.keys("ctrl+k", "Return")
+    wait_for(lambda: items_in_chart(program) == before + 4, "a habit by two keys")
+
+
+@step
+def undo(program):
+    leave_window(program, "Quick Add")
+    before = items_in_chart(program)
+    for _ in range(4):
+        program.keys("ctrl+z")
+    wait_for(lambda: items_in_chart(program) == before - 4, "four items fewer in the chart")
+    program.keys("alt+j")
+
+
+@step
+def measurements_and_notes(program):
+    program.keys("Escape", "Escape")
     program.menu("Operate", "Body Measurement and Notes")
     window = program.window("Body Measurement and Notes")
     check(window.find_all("label", "Weight (kg)"), f"no kilograms:\n{window.outline()}")
