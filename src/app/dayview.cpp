@@ -26,6 +26,7 @@ DayView::DayView(QWidget *parent)
     , btnPrev(new QPushButton(tr("&Previous"), this))
     , btnNext(new QPushButton(tr("&Next"), this))
     , txtDate(new QLineEdit(this))
+    , lblWeekday(new QLabel(this))
     , btnHelp(new QPushButton(tr("H&elp"), this))
     , m_sampleNotice(makeSampleNotice())
 {
@@ -34,6 +35,8 @@ DayView::DayView(QWidget *parent)
     btnPrev->setObjectName(QStringLiteral("btnPrev"));
     btnNext->setObjectName(QStringLiteral("btnNext"));
     txtDate->setObjectName(QStringLiteral("txtDate"));
+    lblWeekday->setObjectName(QStringLiteral("lblWeekday"));
+    lblWeekday->setTextFormat(Qt::PlainText);
     btnHelp->setObjectName(QStringLiteral("btnHelp"));
     txtDate->setAccessibleName(tr("Current date"));
     txtDate->setReadOnly(true);
@@ -79,7 +82,29 @@ void DayView::setNavigationVisible(bool visible)
     for (QWidget *part : {static_cast<QWidget *>(btnPrev), static_cast<QWidget *>(btnNext),
                           static_cast<QWidget *>(txtDate), static_cast<QWidget *>(btnHelp)})
         part->setVisible(visible);
+    placeWeekday();
     m_sampleNotice->setEnabled(visible);
+}
+
+void DayView::setWeekday(const QString &name, const QString &abbreviation)
+{
+    m_weekday = name;
+    m_weekdayAbbreviation = abbreviation;
+    lblWeekday->setAccessibleName(name);
+    placeWeekday();
+}
+
+void DayView::placeWeekday()
+{
+    const int gap = btnNext->x() - btnPrev->geometry().right() - 1;
+    QRect place = txtDate->geometry();
+    place.setLeft(place.right() + 1 + gap);
+    place.setRight(btnHelp->x() - 1 - gap);
+    lblWeekday->setText(m_weekday);
+    if (lblWeekday->sizeHint().width() > place.width())
+        lblWeekday->setText(m_weekdayAbbreviation);
+    lblWeekday->setGeometry(place);
+    lblWeekday->setVisible(!txtDate->isHidden() && lblWeekday->sizeHint().width() <= place.width());
 }
 
 double DayView::pixelsPerTwip() const
@@ -132,5 +157,6 @@ void DayView::layOut()
     place(txtDate, txtDate->fontMetrics().averageCharWidth() * 22, layout.dateTop);
     left = layout.graph.right() + 1 - buttonWidth;
     place(btnHelp, buttonWidth, layout.buttonTop);
+    placeWeekday();
     graph->repaintChart();
 }

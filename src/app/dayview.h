@@ -20,6 +20,8 @@ public:
     void setNavigationVisible(bool visible);
     /// Says beside the heading that there is sample data, with a button to delete it.
     void setSampleNoticeVisible(bool visible);
+    /// Names the date's day of the week beside it, by the abbreviation where there is no room.
+    void setWeekday(const QString &name, const QString &abbreviation);
     double pixelsPerTwip() const;
 
     QLabel *Label1;
@@ -27,6 +29,7 @@ public:
     QPushButton *btnPrev;
     QPushButton *btnNext;
     QLineEdit *txtDate;
+    QLabel *lblWeekday;
     QPushButton *btnHelp;
     QPushButton *btnDeleteSample;
 
@@ -40,6 +43,9 @@ protected:
 private:
     QWidget *makeSampleNotice();
     void layOut();
+    void placeWeekday();
 
     QWidget *m_sampleNotice;
+    QString m_weekday;
+    QString m_weekdayAbbreviation;
 };

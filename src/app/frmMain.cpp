@@ -4,6 +4,7 @@
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmDate.h"
+#include "app/itemwords.h"
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
@@ -57,6 +58,7 @@ frmMain::frmMain(Session &session, Messages &messages)
     , m_messages(messages)
     , m_view(new DayView(this))
     , tlbToolBar(new QToolBar(this))
+    , m_nextMinute(new QTimer(this))
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Corvana"));
@@ -104,6 +106,9 @@ void frmMain::makeConnections()
             handler(&frmMain::addActivityAt));
     connect(m_view->graph, &TrellumGraph::mealMenuWanted, this, &frmMain::showMealMenu);
     connect(m_view->graph, &TrellumGraph::activityMenuWanted, this, &frmMain::showActivityMenu);
+    m_nextMinute->setObjectName(QStringLiteral("tmrNextMinute"));
+    m_nextMinute->setSingleShot(true);
+    connect(m_nextMinute, &QTimer::timeout, this, &frmMain::showNow);
     connect(&m_session, &Session::dayChanged, this, &frmMain::followDay);
     connect(&m_session, &Session::recordsChanged, this, &frmMain::followRecords);
 }
@@ -122,7 +127,10 @@ void frmMain::LoadGraph()
     m_missing = whatIsMissing(meals.leftOut() + activities.leftOut(),
                               meals.isCutShort() || activities.isCutShort());
 
-    m_view->txtDate->setText(m_session.text().mediumDate(day));
+    const LocaleText &text = m_session.text();
+    m_view->txtDate->setText(text.mediumDate(day));
+    m_view->setWeekday(text.locale().standaloneDayName(day.dayOfWeek(), QLocale::LongFormat),
+                       text.locale().standaloneDayName(day.dayOfWeek(), QLocale::ShortFormat));
     m_shownDate = day;
     graph.clear();
     graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
@@ -130,14 +138,21 @@ void frmMain::LoadGraph()
         graph.addMeal(meals.integer(schema::MealConsume::MealConsumeID),
                       meals.time(schema::MealConsume::ConsumeTime),
                       commands::consumed.map(
-                          [&meals](auto column) { return chartFigure(meals.number(column)); }));
+                          [&meals](auto column) { return chartFigure(meals.number(column)); }),
+                      itemWords(text, meals.text(schema::Meal::Name),
+                                meals.value(schema::MealConsume::Qty),
+                                meals.text(schema::Meal::Unit)));
     meals.close();
     for (; !activities.isEof(); activities.moveNext())
         graph.addActivity(activities.integer(schema::ExercisePerform::ExercisePerformID),
                           activities.time(schema::ExercisePerform::timeBeg),
                           activities.time(schema::ExercisePerform::timeEnd),
-                          chartFigure(activities.number(commands::sCalories)));
+                          chartFigure(activities.number(commands::sCalories)),
+                          itemWords(text, activities.text(schema::Exercise::Name),
+                                    activities.value(schema::ExercisePerform::Qty),
+                                    activities.text(schema::Exercise::Unit)));
     activities.close();
+    showNow();
 }
 
 void frmMain::RePaintGraph()
@@ -145,6 +160,19 @@ void frmMain::RePaintGraph()
     LoadGraph();
     m_view->graph->repaintChart();
     tellMissing();
+}
+
+// Comes again with every minute, for as long as the day shown is today.
+void frmMain::showNow()
+{
+    constexpr int minute = 60000;
+    const QDateTime now = m_session.clock().now();
+    const bool isToday = now.date() == m_shownDate;
+    m_view->graph->setNow(isToday ? now.time() : QTime());
+    if (isToday)
+        m_nextMinute->start(minute - now.time().msecsSinceStartOfDay() % minute);
+    else
+        m_nextMinute->stop();
 }
 
 // Once for a day, and not at every repainting.
@@ -339,7 +367,11 @@ void frmMain::printChart()
         });
         QApplication::setOverrideCursor(Qt::WaitCursor);
         const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-        printed = printDailyChart(*m_view->graph, m_view->Label1->text(), m_view->txtDate->text());
+        printed =
+            printDailyChart(*m_view->graph, m_view->Label1->text(),
+                            tr("%1, %2").arg(m_session.text().locale().dayName(
+                                                 m_shownDate.dayOfWeek(), QLocale::LongFormat),
+                                             m_view->txtDate->text()));
     }
     if (!printed)
         m_messages.error(
@@ -432,8 +464,10 @@ void frmMain::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         showPictures();
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        showNow(); // after a sleep of the machine, during which no timer ran
         followOtherPrograms();
+    }
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

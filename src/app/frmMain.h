@@ -10,6 +10,7 @@
 
 class DayView;
 class Messages;
+class QTimer;
 class Session;
 struct Removal;
 struct StoredChange;
@@ -51,6 +52,7 @@ private:
     void followRecords(const StoredChange &change);
     void followOtherPrograms();
     void redraw();
+    void showNow();
     void tellMissing();
     void undo();
     void redo();
@@ -99,6 +101,7 @@ private:
     QToolBar *tlbToolBar;
     QAction *mnuUndo = nullptr;
     QAction *mnuRedo = nullptr;
+    QTimer *m_nextMinute;             ///< runs while today is shown
     std::vector<QAction *> m_entries; ///< of the menus
     QDate m_shownDate;                ///< of the chart
     qint64 m_shownVersion = 0;        ///< of the file, as other programs have changed it

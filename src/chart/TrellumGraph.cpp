@@ -31,7 +31,7 @@ TrellumGraph::TrellumGraph(QWidget *parent)
 
 void TrellumGraph::clear()
 {
-    m_held = {.backgroundRate = m_held.backgroundRate};
+    m_held = {.backgroundRate = m_held.backgroundRate, .now = m_held.now};
 }
 
 void TrellumGraph::setBackgroundRate(double caloriesPerMinute)
@@ -44,14 +44,27 @@ void TrellumGraph::set24HourClock(bool on)
     m_clock24 = on;
 }
 
-void TrellumGraph::addMeal(int id, QTime time, const Nutrients<int> &calories)
+void TrellumGraph::addMeal(int id, QTime time, const Nutrients<int> &calories,
+                           const ItemWords &words)
 {
-    m_held.add(MealItem{id, time, calories});
+    m_held.add(MealItem{id, time, calories, words});
 }
 
-void TrellumGraph::addActivity(int id, QTime begin, QTime end, int calories)
+void TrellumGraph::addActivity(int id, QTime begin, QTime end, int calories, const ItemWords &words)
 {
-    m_held.add(ActivityItem{id, begin, end, calories});
+    m_held.add(ActivityItem{id, begin, end, calories, words});
+}
+
+void TrellumGraph::setNow(QTime now)
+{
+    std::optional<int> minute;
+    if (now.isValid())
+        minute = int(minuteOf(now));
+    if (minute == m_held.now)
+        return;
+    // Not as repaintChart does it: a screen reader need not meet the same items anew each minute.
+    m_held.now = m_shown.now = minute;
+    relayout();
 }
 
 void TrellumGraph::repaintChart()

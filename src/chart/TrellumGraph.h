@@ -35,9 +35,14 @@ public:
     void setBackgroundRate(double caloriesPerMinute);
     void set24HourClock(bool on);
     /// Calories of each nutrient; all may be 0 and, like those of an activity, negative.
-    void addMeal(int id, QTime time, const Nutrients<int> &calories);
+    void addMeal(int id, QTime time, const Nutrients<int> &calories,
+                 const daychart::ItemWords &words = {});
     /// An activity that does not end after it begins is shown as one minute long.
-    void addActivity(int id, QTime begin, QTime end, int calories);
+    void addActivity(int id, QTime begin, QTime end, int calories,
+                     const daychart::ItemWords &words = {});
+    /// The present time where the day is the current one, an invalid time where it is not. Shows at
+    /// once, and outlasts clear().
+    void setNow(QTime now);
     /// Draws the items now held.
     void repaintChart();
 

@@ -9,10 +9,15 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace daychart {
 
 namespace {
+
+// Of the balance ahead, in heights of a line of text.
+constexpr double dashLength = 0.5;
+constexpr double gapLength = 0.35;
 
 class DayPainter : plot::Drawing
 {
@@ -32,6 +37,7 @@ public:
         paintBurn();
         paintMeals();
         paintAxes();
+        paintNow(medium);
         // The ground of a text keeps what is behind from running through it, but not the balance:
         // a peak of it could lie there and nowhere else.
         const bool onScreen = medium == Medium::Screen;
@@ -45,6 +51,8 @@ public:
         }
         for (const PlacedText &placed : g.texts)
             text(placed);
+        if (g.now && g.now->label)
+            text(*g.now->label);
         for (const PlacedText &hint : onScreen ? g.hints : std::vector<PlacedText>())
             text(hint);
     }
@@ -59,7 +67,11 @@ private:
     void paintBurn();
     void paintMeals();
     void paintAxes();
+    void paintNow(Medium medium);
     void paintBalance();
+    using Line = std::vector<QPointF>;
+    void stroke(const Line &line, const QColor &color, double jump, double thick);
+    void dash(const Line &line, const QColor &color, double jump, double thick);
     void paintPlates(bool withHints);
     void paintSwatch(const Swatch &swatch);
     void paintPart(Part part, const QRectF &rect);
@@ -168,24 +180,44 @@ void DayPainter::paintAxes()
         horizontal(y, right(), right() + em(0.2), c.axis);
 }
 
-/// A line with a seam of the ground's colour, so that it stays legible across the items. The jumps
-/// at meals are thin: the meal's column already says how large they are.
-void DayPainter::paintBalance()
+/// With a seam, across the items; on paper, where the hints are left out, through their places.
+void DayPainter::paintNow(Medium medium)
 {
-    const auto stroke = [this](const QColor &color, double jump, double line) {
-        for (size_t i = 1; i < g.balance.size(); ++i) {
-            const QPointF &from = g.balance[i - 1];
-            const QPointF &to = g.balance[i];
-            if (to.x() - from.x() < 1e-6)
-                vertical(to.x(), from.y(), to.y(), color, jump);
-            else
-                slope(from, to, color, line);
-        }
-    };
+    if (!g.now)
+        return;
+    std::vector<QLineF> pieces = g.now->pieces;
+    for (const PlacedText &hint : medium == Medium::Paper ? g.hints : std::vector<PlacedText>()) {
+        if (hint.rect.left() < g.now->x && g.now->x < hint.rect.right())
+            pieces.push_back({g.now->x, hint.rect.top(), g.now->x, hint.rect.bottom()});
+    }
     QColor seam = c.ground;
     seam.setAlphaF(0.7F);
-    stroke(seam, 3, 5);
-    stroke(c.balance, 1, 2.2);
+    for (const auto &[color, lines] : {std::pair(seam, 3.0), {c.now, 1.0}}) {
+        for (const QLineF &piece : pieces)
+            vertical(piece.x1(), piece.y1(), piece.y2(), color, lines);
+    }
+}
+
+/// A line with a seam of the ground's colour, so that it stays legible across the items. The jumps
+/// at meals are thin: the meal's column already says how large they are. What lies ahead is dashed.
+void DayPainter::paintBalance()
+{
+    QColor seam = c.ground;
+    seam.setAlphaF(0.7F);
+    stroke(g.balance, seam, 3, 5);
+    if (g.now) {
+        const auto ahead =
+            std::upper_bound(g.balance.begin(), g.balance.end(), g.now->x,
+                             [](double x, const QPointF &corner) { return x < corner.x(); });
+        Line before(g.balance.begin(), ahead);
+        before.push_back(g.now->balance);
+        Line after(ahead, g.balance.end());
+        after.insert(after.begin(), g.now->balance);
+        stroke(before, c.balance, 1, 2.2);
+        dash(after, c.balance, 1, 2.2);
+    } else {
+        stroke(g.balance, c.balance, 1, 2.2);
+    }
     p.setRenderHint(QPainter::Antialiasing, true);
     p.setPen(Qt::NoPen);
     p.setBrush(c.balance);
@@ -196,8 +228,46 @@ void DayPainter::paintBalance()
     text(g.balanceEnd);
 }
 
+void DayPainter::stroke(const Line &line, const QColor &color, double jump, double thick)
+{
+    for (size_t i = 1; i < line.size(); ++i) {
+        const QPointF &from = line[i - 1];
+        const QPointF &to = line[i];
+        if (to.x() - from.x() < 1e-6)
+            vertical(to.x(), from.y(), to.y(), color, jump);
+        else
+            slope(from, to, color, thick);
+    }
+}
+
+/// In dashes of one length, which run on around the corners.
+void DayPainter::dash(const Line &line, const QColor &color, double jump, double thick)
+{
+    bool isDrawn = true;
+    double left = em(dashLength); // of the dash or gap
+    for (size_t i = 1; i < line.size(); ++i) {
+        const QPointF from = line[i - 1];
+        const QPointF way = line[i] - from;
+        const double length = std::hypot(way.x(), way.y());
+        for (double at = 0; at < length;) {
+            const double end = std::min(length, at + left);
+            if (isDrawn)
+                stroke({from + way * (at / length), from + way * (end / length)}, color, jump,
+                       thick);
+            left -= end - at;
+            at = end;
+            if (at < length) {
+                isDrawn = !isDrawn;
+                left = em(isDrawn ? dashLength : gapLength);
+            }
+        }
+    }
+}
+
 void DayPainter::paintPlates(bool withHints)
 {
+    if (g.now && g.now->label)
+        plate(g.now->label->rect, c.ground);
     for (const auto &labels : {g.mealLabels, g.activityLabels}) {
         for (const auto &[item, text] : labels)
             plate(text.rect, text.tone == Tone::OnFill ? c.activity : c.ground);

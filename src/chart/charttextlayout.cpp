@@ -44,8 +44,17 @@ void DayLayout::placeFigures()
         words += width(name);
     for (const QString &value : {eaten, burnt, balance})
         words += width(value, TextRole::Figure);
-    const double units = 3 * (width(m_texts.unit(Lane::Meals)) + em(0.3));
-    const bool withUnit = words + units + em(4) <= m_figureRow.width();
+    const double unit = width(m_texts.unit(Lane::Meals)) + em(0.3);
+    const auto fits = [&](double more) { return words + more + em(4) <= m_figureRow.width(); };
+    // The balance at the present minute, where there is room for it beside that of the day's end.
+    const QString now = m_texts.balance(qRound64(m_nowBalance));
+    const double nowWords =
+        em(1.5) + width(m_texts.soFar()) + em(0.5) + width(now, TextRole::Figure);
+    const bool withNow = m_day.now && fits(nowWords);
+    if (withNow)
+        words += nowWords;
+    const double units = (withNow ? 4 : 3) * unit;
+    const bool withUnit = fits(units);
     const double apart =
         std::clamp((m_figureRow.width() - words - (withUnit ? units : 0)) / 2, 0.0, em(2));
 
@@ -62,7 +71,9 @@ void DayLayout::placeFigures()
     x = end + apart;
     g.swatches.push_back(
         {QRectF(x, m_figureRow.top(), em(1.3), m_figureRow.height()), Part::Balance});
-    placeFigure(x + em(1.7), m_texts.part(Part::Balance), balance, withUnit);
+    end = placeFigure(x + em(1.7), m_texts.part(Part::Balance), balance, withUnit);
+    if (withNow)
+        placeFigure(end + em(1.5), m_texts.soFar(), now, withUnit);
 }
 
 /// Name, figure and unit on one base line; returns where they end.

@@ -69,24 +69,43 @@ QString ChartTexts::burnt() const
     return tr("Burnt");
 }
 
+QString ChartTexts::soFar() const
+{
+    return tr("so far");
+}
+
 QString ChartTexts::emptyHint(Lane lane) const
 {
     return lane == Lane::Meals ? tr("No meals yet. Click at a time to add one.")
                                : tr("No activities yet. Click at a time to add one.");
 }
 
+/// "Banana, 2 piece"; empty where the item has no name.
+QString ChartTexts::what(const ItemWords &words) const
+{
+    return words.name.isEmpty() || words.quantity.isEmpty()
+               ? words.name
+               : tr("%1, %2").arg(words.name, words.quantity);
+}
+
 QString ChartTexts::mealName(const MealItem &meal) const
 {
-    return tr("Meal at %1, %2: carbohydrate %3, fat %4, protein %5")
-        .arg(time(meal.time), energy(meal.calories()),
-             number(meal.byNutrient[Nutrient::Carbohydrate]),
-             number(meal.byNutrient[Nutrient::Fat]), number(meal.byNutrient[Nutrient::Protein]));
+    const QString figures = tr("Meal at %1, %2: carbohydrate %3, fat %4, protein %5")
+                                .arg(time(meal.time), energy(meal.calories()),
+                                     number(meal.byNutrient[Nutrient::Carbohydrate]),
+                                     number(meal.byNutrient[Nutrient::Fat]),
+                                     number(meal.byNutrient[Nutrient::Protein]));
+    const QString meant = what(meal.words);
+    return meant.isEmpty() ? figures : tr("%1. %2").arg(figures, meant);
 }
 
 QString ChartTexts::activityName(const ActivityItem &activity) const
 {
-    return tr("Activity from %1 to %2, %3")
-        .arg(time(activity.begin), time(activity.end), energy(activity.calories));
+    const QString figures =
+        tr("Activity from %1 to %2, %3")
+            .arg(time(activity.begin), time(activity.end), energy(activity.calories));
+    const QString meant = what(activity.words);
+    return meant.isEmpty() ? figures : tr("%1. %2").arg(figures, meant);
 }
 
 QString ChartTexts::newItemName(Lane lane, QTime at) const
@@ -99,17 +118,25 @@ QString ChartTexts::openListName(Lane lane) const
     return lane == Lane::Meals ? tr("Meals: open the list") : tr("Activities: open the list");
 }
 
+QString ChartTexts::balanceInWords(qint64 balance) const
+{
+    return balance < 0 ? tr("%1 less eaten than burnt").arg(energy(-balance))
+                       : tr("%1 more eaten than burnt").arg(energy(balance));
+}
+
 QString ChartTexts::daySummary(const DayData &day) const
 {
     const DayFigures figures = dayFigures(day);
-    const QString balance = figures.balance() < 0
-                                ? tr("%1 less eaten than burnt").arg(energy(-figures.balance()))
-                                : tr("%1 more eaten than burnt").arg(energy(figures.balance()));
-    const QString sums =
+    QStringList sentences = {
         tr("Eaten %1, burnt %2 of which %3 by activities, balance %4. Meals: %5. Activities: %6.")
             .arg(energy(figures.eaten()), energy(figures.burnt()), energy(figures.activities),
-                 balance, number(qint64(day.mealCount())), number(qint64(day.activityCount())));
-    return (QStringList(sums) + notDrawn(day)).join(u' ');
+                 balanceInWords(figures.balance()), number(qint64(day.mealCount())),
+                 number(qint64(day.activityCount())))};
+    if (day.now)
+        sentences += tr("So far, at %1, %2.")
+                         .arg(time(timeOf(*day.now)),
+                              balanceInWords(qRound64(balanceAt(balanceCurve(day), *day.now))));
+    return (sentences + notDrawn(day)).join(u' ');
 }
 
 QStringList ChartTexts::notDrawn(const DayData &day) const
@@ -125,19 +152,26 @@ QStringList ChartTexts::notDrawn(const DayData &day) const
     return sentences;
 }
 
+// A tooltip whose first line has no markup shows that of the others as it is written.
+
 QString ChartTexts::mealTip(const MealItem &meal) const
 {
-    QString tip = tr("Meal at %1\n%2").arg(time(meal.time), energy(meal.calories()));
+    QStringList lines = {tr("Meal at %1").arg(time(meal.time)), what(meal.words),
+                         energy(meal.calories())};
     for (const Nutrient n : stackedNutrients)
-        tip += tr("\n%1: %2").arg(part(partOf(n)), energy(meal.byNutrient[n]));
-    return tip;
+        lines += tr("%1: %2").arg(part(partOf(n)), energy(meal.byNutrient[n]));
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 QString ChartTexts::activityTip(const ActivityItem &activity) const
 {
     const QString rate = m_locale.toString(activity.caloriesPerMinute(), 'f', 1);
-    return tr("Activity from %1 to %2\n%3\n%4 kcal per minute")
-        .arg(time(activity.begin), time(activity.end), energy(activity.calories), rate);
+    QStringList lines = {tr("Activity from %1 to %2").arg(time(activity.begin), time(activity.end)),
+                         what(activity.words), energy(activity.calories),
+                         tr("%1 kcal per minute").arg(rate)};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 QString ChartTexts::placeTip(Lane lane, QTime at, double balanceThen) const

@@ -39,6 +39,8 @@ public:
     QString part(Part part) const;
     QString eaten() const;
     QString burnt() const;
+    /// Of the balance at the present minute.
+    QString soFar() const;
     /// What to say in a lane that has no item.
     QString emptyHint(Lane lane) const;
 
@@ -55,6 +57,9 @@ public:
     QString placeTip(Lane lane, QTime time, double balance) const;
 
 private:
+    QString what(const ItemWords &words) const;
+    QString balanceInWords(qint64 balance) const;
+
     QLocale m_locale;
     bool m_clock24;
 };

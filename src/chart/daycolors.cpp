@@ -9,6 +9,7 @@ DayColors::DayColors(const QPalette &palette)
 {
     stub = mixed(ground, ink, 0.30);
     balance = ink;
+    now = QColor(isDark ? 0xD78FD9 : 0x8A3A94);
     nutrients = {QColor(isDark ? 0x7FB6DE : 0x9CCBEB), QColor(isDark ? 0xE3AE4B : 0xEDB550),
                  QColor(isDark ? 0x4179AB : 0x2B628F)};
     fatHatch = QColor(isDark ? 0x3F6F94 : 0x4C8FBF);

@@ -18,6 +18,7 @@ struct DayColors : plot::BaseColors
     QColor band;
     QColor bandEdge;
     QColor balance;
+    QColor now; ///< the mark of the present minute
 
     explicit DayColors(const QPalette &palette);
 

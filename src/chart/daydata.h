@@ -3,9 +3,11 @@
 
 #include "data/nutrients.h"
 
+#include <QString>
 #include <QTime>
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace daychart {
@@ -24,12 +26,21 @@ inline QTime timeOf(int minute)
     return QTime(0, 0).addSecs(std::clamp(minute, 0, minutesPerDay - 1) * 60);
 }
 
+/// What an item is and how much of it, ready to be shown: one line each, whatever characters they
+/// hold; empty where it is not known.
+struct ItemWords
+{
+    QString name = {};
+    QString quantity = {}; ///< with its unit
+};
+
 /// One consumption. The calories are whole numbers and may be negative.
 struct MealItem
 {
     int id = 0;
     QTime time;
     Nutrients<int> byNutrient;
+    ItemWords words = {};
 
     qint64 calories() const { return byNutrient.sum<qint64>(); }
 };
@@ -41,6 +52,7 @@ struct ActivityItem
     QTime begin;
     QTime end;
     int calories = 0;
+    ItemWords words = {};
 
     /// Minutes from midnight at which it begins and ends. It lasts at least one minute, so that
     /// its calories per minute are always a number.
@@ -56,6 +68,7 @@ struct DayData
     std::vector<ActivityItem> activities = {};
     std::vector<MealItem> moreMeals = {}; ///< not drawn; in the totals and the balance only
     std::vector<ActivityItem> moreActivities = {};
+    std::optional<int> now = {}; ///< the present minute, 0 to 1439, on the current day only
 
     /// More items of a kind could neither be told apart nor be laid out in time.
     static constexpr size_t mostDrawn = 500;

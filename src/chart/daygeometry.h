@@ -7,10 +7,12 @@
 #include "plot/placedtext.h"
 #include "plot/scales.h"
 
+#include <QLineF>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace daychart {
@@ -62,6 +64,15 @@ struct ItemLabel
     PlacedText text;
 };
 
+/// The present minute, a line down both lanes.
+struct NowMark
+{
+    double x = 0;
+    QPointF balance;                 ///< of the balance there; what follows lies ahead
+    std::vector<QLineF> pieces;      ///< from top to bottom, with gaps for the texts in its way
+    std::optional<PlacedText> label; ///< the time beside it, where there is room
+};
+
 struct DayGeometry
 {
     QRectF area;
@@ -83,6 +94,7 @@ struct DayGeometry
     std::vector<QPointF> balance;
     std::vector<double> balanceMarks; ///< heights of the labelled balances
     PlacedText balanceEnd;
+    std::optional<NowMark> now; ///< on the current day
 
     std::vector<Swatch> swatches;
     std::vector<PlacedText> texts;

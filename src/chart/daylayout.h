@@ -33,6 +33,7 @@ public:
         , m_notDrawn(texts.notDrawn(day))
         , m_figures(dayFigures(day))
         , m_curve(balanceCurve(day))
+        , m_nowBalance(day.now ? balanceAt(m_curve, *day.now) : 0)
     {
         g.area = area;
         g.unit = metrics.lineHeight;
@@ -53,6 +54,7 @@ public:
         placeValueLabels();
         placeBalance();
         placeHints();
+        placeNow();
         placeNotDrawn();
         return std::move(g);
     }
@@ -82,6 +84,9 @@ private:
     void placeValueLabels();
     void placeBalance();
     void placeHints();
+    void placeNow();
+    std::optional<PlacedText> nowLabel(double x) const;
+    bool isFree(const QRectF &rect) const;
     void placeNotDrawn();
 
     DayGeometry g;
@@ -91,6 +96,7 @@ private:
     const QStringList m_notDrawn; ///< a line for each below the time axis
     DayFigures m_figures;
     std::vector<BalancePoint> m_curve;
+    double m_nowBalance; ///< at the present minute
     QRectF m_figureRow;
     double m_plotTop = 0;
     double m_plotBottom = 0;

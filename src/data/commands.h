@@ -113,7 +113,7 @@ inline constexpr Command MealConsumeSorted{
     "MealConsumeSorted",
     "select MealConsumeID, ConsumeTime, Qty, Round(FatBC*Qty) as sFat,"
     " Round(CarbohydrateBC*Qty) as sCarbohydrate, Round(ProteinBC*Qty) as sProtein,"
-    " Round(FatBC*Qty) + Round(CarbohydrateBC*Qty) + Round(ProteinBC*Qty) as sCalories, Name"
+    " Round(FatBC*Qty) + Round(CarbohydrateBC*Qty) + Round(ProteinBC*Qty) as sCalories, Name, Unit"
     " from MealConsume inner join Meal on MealConsume.MealID = Meal.MealID"
     " where MealConsume.ConsumeDate = :d order by ConsumeTime",
     {{{":d", Date}}},
@@ -134,7 +134,7 @@ inline constexpr Command MealConsumeDelete{
 
 inline constexpr Command ExercisePerformSorted{
     "ExercisePerformSorted",
-    "select ExercisePerform.*, Name, Round(CaloriesConsume*Qty) as sCalories"
+    "select ExercisePerform.*, Name, Round(CaloriesConsume*Qty) as sCalories, Unit"
     " from ExercisePerform inner join Exercise"
     " on ExercisePerform.ExerciseID = Exercise.ExerciseID"
     " where PerformDate = :dt order by timeBeg",

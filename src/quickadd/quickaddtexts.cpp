@@ -1,5 +1,7 @@
 #include "quickadd/quickaddtexts.h"
 
+#include "session/excerpt.h"
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -61,7 +63,8 @@ QString entryText(const Recordable &record, const QuickEntry &entry, const Local
     if (!entry.isValid())
         return entry.problem;
     return joined({QuickAddTexts::tr("%1 \u00D7 %2, %3")
-                       .arg(text.toText(entry.quantity), record.name, record.unit),
+                       .arg(text.toText(entry.quantity), excerptOf(record.name, 80),
+                            excerptOf(record.unit, 40)),
                    QuickAddTexts::tr("%1 kcal").arg(text.toText(int(entry.calories))),
                    timesText(entry, text)});
 }

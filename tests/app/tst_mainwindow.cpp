@@ -1,4 +1,5 @@
 // The main window: its menus, the way through the days, and its layout.
+#include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmMain.h"
 #include "dayjournal.h"
@@ -7,9 +8,11 @@
 #include <QCalendarWidget>
 #include <QContextMenuEvent>
 #include <QDateEdit>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPrinterInfo>
+#include <QTimer>
 
 #include <sqlite3.h>
 
@@ -59,16 +62,22 @@ private slots:
     void deletesTrialDataAfterAYes();
     void failedPrintingIsSaid();
     void keepsTheDayThatCantBeLeft();
+    void namesItsItems();
+    void marksThePresentMinute();
+    void weekdayStandsBesideTheDate();
     void laysOut();
 
 private:
     QAction &entry(const char *name) { return control<QAction>(*m_window, name); }
+    QAccessibleInterface &chart()
+    {
+        return *QAccessible::queryAccessibleInterface(&control<QWidget>(*m_window, "graph"));
+    }
     // The day that is shown, and the calories eaten that the chart tells of it: "22 Jul 2026: 300".
     QString shown()
     {
-        auto *chart = QAccessible::queryAccessibleInterface(&control<QWidget>(*m_window, "graph"));
         return textOf(*m_window, "txtDate") + u": "_qs +
-               chart->text(QAccessible::Description).section(u' ', 1, 1).remove(u',');
+               chart().text(QAccessible::Description).section(u' ', 1, 1).remove(u',');
     }
 
     std::unique_ptr<DayJournal> m_journal;
@@ -379,6 +388,103 @@ void tst_mainwindow::keepsTheDayThatCantBeLeft()
              u"23 Jul 2026 can't be shown; the chart stays as it was"_qs);
     QCOMPARE(shown(), u"22 Jul 2026: 300"_qs);
     QCOMPARE(m_journal->session->currentDate(), QDate(2026, 7, 22));
+}
+
+// In the locale's numbers, on one line however they are stored.
+void tst_mainwindow::namesItsItems()
+{
+    m_window.reset();
+    m_journal = std::make_unique<DayJournal>(QLocale(QLocale::German, QLocale::Germany));
+    m_journal->exec("update Meal set Unit = '100 g' where MealID = 1;"
+                    "update Meal set Unit = '', Name = char(10) || 'Two' || char(10) || 'lines' ||"
+                    " replace(hex(zeroblob(30)), '00', ' long') where MealID = 2;"
+                    "insert into MealConsume values (1, 1, 46225, 0.25, 1.5),"
+                    " (2, 2, 46225, 0.5, 2), (3, 3, 46225, 0.75, 0.25);"
+                    "insert into ExercisePerform values (1, 2, 46225, 0.5, 0.6, 12.5)");
+    m_window = std::make_unique<frmMain>(*m_journal->session, m_journal->messages);
+    m_window->show();
+    QStringList words;
+    for (int i = 0; i < chart().childCount(); ++i) {
+        const QString name = chart().child(i)->text(QAccessible::Name);
+        if (name.contains(u". "_qs))
+            words << name.section(u". "_qs, 1);
+    }
+    const QString longName = u"Two lines"_qs + u" long"_qs.repeated(10);
+    QCOMPARE(words, (QStringList{u"Apple, 1,5 × 100 g"_qs, longName + u" …, 2"_qs,
+                                 u"Crème brûlée, 0,25 cup"_qs, u"Walking, 12,5 minute"_qs}));
+}
+
+void tst_mainwindow::marksThePresentMinute()
+{
+    activate(*m_window);
+    const auto soFar = [&] {
+        return chart().text(QAccessible::Description).section(u"So far, at "_qs, 1).left(5);
+    };
+    auto &timer = control<QTimer>(*m_window, "tmrNextMinute");
+    const auto passTo = [&](const QDateTime &now) {
+        m_journal->clock.setNow(now);
+        timer.start(0);
+        QCoreApplication::processEvents();
+    };
+    QCOMPARE(soFar(), u"12:30"_qs);
+    const Redraws redraws(*m_journal);
+    const QDate today(2026, 7, 22);
+    passTo({today, QTime(23, 59, 50)});
+    QCOMPARE(soFar(), u"23:59"_qs);
+    QVERIFY(timer.isActive());
+    QCOMPARE(timer.interval(), 10000);
+    passTo({today.addDays(1), QTime(0, 0)});
+    QCOMPARE(soFar(), QString());
+    QVERIFY(!timer.isActive());
+    QCOMPARE(redraws.count(), 0);
+    QCOMPARE(shown(), "22 Jul 2026: 300");
+    press(*m_window, "btnNext"); // to what is today now
+    QCOMPARE(soFar(), u"00:00"_qs);
+    QVERIFY(timer.isActive());
+    press(*m_window, "btnNext");
+    QCOMPARE(soFar(), QString());
+    QVERIFY(!timer.isActive());
+}
+
+void tst_mainwindow::weekdayStandsBesideTheDate()
+{
+    const auto &label = control<QLabel>(*m_window, "lblWeekday");
+    QCOMPARE(label.text(), u"Wednesday"_qs);
+    press(*m_window, "btnPrev");
+    QCOMPARE(label.text(), u"Tuesday"_qs);
+    QCOMPARE(textOf(*m_window, "txtDate"), u"21 Jul 2026"_qs);
+    m_window->resize(800, 600);
+    QCoreApplication::processEvents();
+    QVERIFY(label.isVisible() && label.text() == u"Tuesday");
+
+    // Shorter where there is less room, and none at all rather than a part of it.
+    for (const int points : {9, 24}) {
+        DayView view;
+        QFont font = view.font();
+        font.setPointSize(points);
+        view.setFont(font);
+        view.setWeekday(u"Wednesday"_qs, u"Wed"_qs);
+        view.show();
+        QStringList texts;
+        for (int width = 150 * points; width > 20 * points; width -= points) {
+            view.resize(width, 60 * points);
+            QCoreApplication::processEvents();
+            const QLabel &day = *view.lblWeekday;
+            const QString text = day.isVisible() ? day.text() : QString();
+            if (texts.isEmpty() || texts.last() != text)
+                texts << text;
+            QVERIFY(text.isEmpty() || (day.width() >= day.sizeHint().width() &&
+                                       day.height() >= day.fontMetrics().height() &&
+                                       day.x() > view.txtDate->geometry().right() &&
+                                       day.geometry().right() < view.btnHelp->x()));
+        }
+        QCOMPARE(texts, (QStringList{u"Wednesday"_qs, u"Wed"_qs, QString()}));
+        view.resize(150 * points, 60 * points);
+        for (const bool visible : {false, true}) { // as for printing
+            view.setNavigationVisible(visible);
+            QCOMPARE(view.lblWeekday->isVisible(), visible);
+        }
+    }
 }
 
 // In twips first, then in the dots of a usual screen.

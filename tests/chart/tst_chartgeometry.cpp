@@ -10,6 +10,7 @@
 #include <numeric>
 
 using namespace daychart;
+using namespace Qt::Literals;
 using Kind = Target::Kind;
 
 namespace {
@@ -25,7 +26,8 @@ DayGeometry geometryOf(const DayData &day, const QRectF &area = {0, 0, 600, 400}
                        ChartTexts(QLocale::c(), clock24));
 }
 
-/// A day in an area of at least the control's least size, between 600 x 400 and 4K.
+/// A day in an area of at least the control's least size, between 600 x 400 and 4K; of every other
+/// sample it is the current one.
 struct Sample
 {
     explicit Sample(quint32 seed)
@@ -34,18 +36,24 @@ struct Sample
         QRandomGenerator random(seed);
         area = anyArea(random);
         lineHeight = anyLineHeight(random, area, 37, 25);
-        g = geometryOf(day, area, lineHeight, seed % 4 > 0);
+        if (seed % 2 == 0)
+            day.now = random.bounded(1440);
+        clock24 = seed % 4 > 0;
+        g = geometryOf(day, area, lineHeight, clock24);
     }
 
     DayData day;
     QRectF area;
     double lineHeight;
+    bool clock24;
     DayGeometry g;
 };
 
 std::vector<QRectF> textRects(const DayGeometry &g)
 {
     std::vector<QRectF> rects = {g.balanceEnd.rect};
+    if (g.now && g.now->label)
+        rects.push_back(g.now->label->rect);
     for (const auto &texts : {g.texts, g.hints}) {
         for (const PlacedText &text : texts)
             rects.push_back(text.rect);
@@ -446,6 +454,96 @@ bool widerShowsNoLess(const Sample &s)
            g.activityLabels.size() + 1 >= s.g.activityLabels.size();
 }
 
+/// From the top to the bottom of both lanes, but for the texts that it would run through.
+bool nowIsMarked(const Sample &s)
+{
+    if (!s.day.now || !s.g.now)
+        return !s.day.now && !s.g.now;
+    const NowMark &now = *s.g.now;
+    if (!near(now.x, s.g.time.x(*s.day.now)))
+        return false;
+    const std::vector<QRectF> texts = textRects(s.g);
+    const auto isIn = [](double y, double from, double to) { return from < y && y < to; };
+    const double top = s.g.meals.area.top();
+    const double height = s.g.activities.area.bottom() - top;
+    const int places = int(4 * height / s.lineHeight);
+    for (int i = 0; i < places; ++i) {
+        const double y = top + height * (i + 0.43) / places;
+        const auto pieces =
+            std::count_if(now.pieces.begin(), now.pieces.end(), [&](const QLineF &piece) {
+                return piece.x1() == now.x && piece.x2() == now.x &&
+                       isIn(y, piece.y1() - 1e-6, piece.y2() + 1e-6);
+            });
+        const bool isText = std::any_of(texts.begin(), texts.end(), [&](const QRectF &text) {
+            return isIn(now.x, text.left(), text.right()) && isIn(y, text.top(), text.bottom());
+        });
+        if (pieces != (isText ? 0 : 1))
+            return false;
+    }
+    return true;
+}
+
+/// Beside the mark, on nothing of the day; certainly where the upper lane is empty.
+bool nowLabelIsClear(const Sample &s)
+{
+    if (!s.g.now)
+        return true;
+    if (!s.g.now->label)
+        return !s.day.meals.empty();
+    const QRectF &rect = s.g.now->label->rect;
+    std::vector<QRectF> rects;
+    for (const MealColumn &column : s.g.columns)
+        rects.push_back(column.rect);
+    for (const ActivityBlock &block : s.g.blocks)
+        rects.insert(rects.end(), block.segments.begin(), block.segments.end());
+    for (size_t i = 1; i < s.g.balance.size(); ++i) {
+        const QPointF from = s.g.balance[i - 1];
+        for (int step = 0; step <= 20; ++step)
+            rects.push_back({from + (s.g.balance[i] - from) * (step / 20.0), QSizeF(1e-6, 1e-6)});
+    }
+    const double away = std::max(rect.left() - s.g.now->x, s.g.now->x - rect.right());
+    return s.g.now->label->text == ChartTexts(QLocale::c(), s.clock24).time(timeOf(*s.day.now)) &&
+           away > 0 && away < s.lineHeight &&
+           std::none_of(rects.begin(), rects.end(),
+                        [&](const QRectF &other) { return other.intersects(rect); });
+}
+
+/// The balance is split where the mark meets it, a meal of this minute counted.
+bool balanceIsSplitAtNow(const Sample &s)
+{
+    if (!s.g.now)
+        return true;
+    const std::vector<BalancePoint> curve = balanceCurve(s.day);
+    const auto highest =
+        std::max_element(curve.begin(), curve.end(), [](const auto &a, const auto &b) {
+            return std::abs(a.calories) < std::abs(b.calories);
+        });
+    const double height = s.g.balanceZeroY - s.g.balance[size_t(highest - curve.begin())].y();
+    return s.g.now->balance.x() == s.g.now->x &&
+           near((s.g.balanceZeroY - s.g.now->balance.y()) * highest->calories,
+                height * balanceAt(curve, *s.day.now), 1e-6 * (1 + std::abs(highest->calories)));
+}
+
+/// From one minute to the next nothing jumps: all else stands where it does on any other day.
+bool nowMovesNothing(const Sample &s)
+{
+    if (!s.g.now)
+        return true;
+    DayData past = s.day;
+    past.now.reset();
+    const DayGeometry g = geometryOf(past, s.area, s.lineHeight, s.clock24);
+    const auto same = [](const std::vector<ItemLabel> &a, const std::vector<ItemLabel> &b) {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                          [](const ItemLabel &l, const ItemLabel &r) {
+                              return l.item == r.item && l.text.rect == r.text.rect;
+                          });
+    };
+    return same(g.mealLabels, s.g.mealLabels) && same(g.activityLabels, s.g.activityLabels) &&
+           g.balance == s.g.balance && g.hints.size() == s.g.hints.size() &&
+           g.meals.area == s.g.meals.area && g.meals.header == s.g.meals.header &&
+           g.balanceEnd.rect == s.g.balanceEnd.rect;
+}
+
 constexpr std::array properties = {
     Property<Sample>{"texts fit", textsFit},
     Property<Sample>{"texts keep off the balance", textsKeepOffTheBalance},
@@ -461,6 +559,10 @@ constexpr std::array properties = {
     Property<Sample>{"items are labelled", itemsAreLabelled},
     Property<Sample>{"legends name the parts", legendsNameTheParts},
     Property<Sample>{"wider shows no less", widerShowsNoLess},
+    Property<Sample>{"now is marked", nowIsMarked},
+    Property<Sample>{"now's label is clear", nowLabelIsClear},
+    Property<Sample>{"the balance is split at now", balanceIsSplitAtNow},
+    Property<Sample>{"now moves nothing", nowMovesNothing},
 };
 
 } // namespace
@@ -497,7 +599,8 @@ private slots:
         for (const QRectF &area : {QRectF(), QRectF(5, 5, 1, 1), QRectF(0, 0, 5000, 2),
                                    QRectF(0, 0, 2, 5000), QRectF(0, 0, 100, 60)}) {
             for (quint32 seed = 1; seed <= 50; ++seed) {
-                const DayData day = samples::anyDay(seed);
+                DayData day = samples::anyDay(seed);
+                day.now = int(seed) * 28;
                 const DayGeometry g = geometryOf(day, area);
                 QCOMPARE(g.columns.size(), day.meals.size());
                 for (const QRectF &rect : textRects(g))
@@ -509,6 +612,25 @@ private slots:
                 QVERIFY(minuteAt(g, area.center().x()) <= 1439);
             }
         }
+    }
+    void headerTellsTheBalanceSoFar()
+    {
+        DayData day = samples::typicalDay();
+        const auto soFar = [&day](const QRectF &area) {
+            const DayGeometry g = geometryOf(day, area);
+            QStringList texts;
+            for (const PlacedText &text : g.texts)
+                texts << text.text;
+            return texts.value(texts.indexOf(u"so far"_s) + 1);
+        };
+        const QRectF wide(0, 0, 900, 600);
+        QCOMPARE(soFar(wide), u"Eaten"_s); // of another day nothing
+        // 1.25 a minute and 120 for an activity; 430 eaten, and 780 more in this minute.
+        day.now = 12 * 60 + 44;
+        QCOMPARE(soFar(wide), u"-645"_s);
+        day.now = 12 * 60 + 45;
+        QCOMPARE(soFar(wide), u"+134"_s);
+        QCOMPARE(soFar({0, 0, 500, 400}), u"Eaten"_s); // no room
     }
     void outlierLeavesOthersVisible()
     {

@@ -7,9 +7,12 @@
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <QToolTip>
+#include <QtMath>
 
 using namespace daychart;
 using namespace Qt::Literals;
@@ -28,9 +31,9 @@ class tst_trellumgraph : public QObject
         m_graph->clear();
         m_graph->setBackgroundRate(day.backgroundRate);
         day.forEachMeal(
-            [this](const MealItem &m) { m_graph->addMeal(m.id, m.time, m.byNutrient); });
+            [this](const MealItem &m) { m_graph->addMeal(m.id, m.time, m.byNutrient, m.words); });
         day.forEachActivity([this](const ActivityItem &a) {
-            m_graph->addActivity(a.id, a.begin, a.end, a.calories);
+            m_graph->addActivity(a.id, a.begin, a.end, a.calories, a.words);
         });
         m_graph->repaintChart();
     }
@@ -51,6 +54,18 @@ class tst_trellumgraph : public QObject
     QAccessibleInterface *chart() const
     {
         return QAccessible::queryAccessibleInterface(m_graph.get());
+    }
+    QString tipAt(QPoint point)
+    {
+        QHelpEvent event(QEvent::ToolTip, point, m_graph->mapToGlobal(point));
+        QApplication::sendEvent(m_graph.get(), &event);
+        return QToolTip::text();
+    }
+    QImage picture()
+    {
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(m_graph.get(), &leave);
+        return m_graph->grab().toImage();
     }
     QString name(int child) const { return chart()->child(child)->text(QAccessible::Name); }
 
@@ -195,9 +210,7 @@ private slots:
         fill(day);
         const DayGeometry g = geometry(day);
         const DayColors c(m_graph->palette());
-        QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(m_graph.get(), &leave);
-        const QImage image = m_graph->grab().toImage();
+        const QImage image = picture();
         const auto share = [&](const QRectF &rect, const QColor &color) {
             return ::share(image, rect, color);
         };
@@ -252,9 +265,7 @@ private slots:
     {
         const DayGeometry g = geometry();
         const QColor highlight = m_graph->palette().color(QPalette::Highlight);
-        QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(m_graph.get(), &leave);
-        const QImage before = m_graph->grab().toImage();
+        const QImage before = picture();
         const QRectF lane = g.activities.area;
         for (const auto &[point, bounds] :
              {std::pair(columnOf(1), g.columns[1].rect),
@@ -300,10 +311,80 @@ private slots:
         QCOMPARE(m_graph->cursor().shape(), Qt::CrossCursor);
         QTest::mouseMove(m_graph.get(), columnOf(1));
         QCOMPARE(m_graph->cursor().shape(), Qt::PointingHandCursor);
-        QHelpEvent event(QEvent::ToolTip, columnOf(1), m_graph->mapToGlobal(columnOf(1)));
-        QApplication::sendEvent(m_graph.get(), &event);
-        QTRY_COMPARE(QToolTip::text(), u"Meal at 12:45\n780 kcal\nCarbohydrate: 340 kcal\n"
-                                       "Fat: 260 kcal\nProtein: 180 kcal"_s);
+        QTRY_COMPARE(tipAt(columnOf(1)), u"Meal at 12:45\n780 kcal\nCarbohydrate: 340 kcal\n"
+                                         "Fat: 260 kcal\nProtein: 180 kcal"_s);
+    }
+    void itemsAreNamed()
+    {
+        DayData day = samples::typicalDay();
+        day.meals[1].words = {u"<b>Ham</b> & eggs %1"_s, u"1,5 × 100 g"_s};
+        day.meals[2].words.name = u"Soup"_s;
+        day.activities[1].words = {u"Walking"_s, u"60 minute"_s};
+        fill(day);
+        // As they are written, and where no other text stands before them.
+        QTRY_COMPARE(tipAt(columnOf(1)),
+                     u"Meal at 12:45\n<b>Ham</b> & eggs %1, 1,5 × 100 g\n780 kcal\n"
+                     "Carbohydrate: 340 kcal\nFat: 260 kcal\nProtein: 180 kcal"_s);
+        QVERIFY(!Qt::mightBeRichText(QToolTip::text()));
+        QTRY_VERIFY(tipAt(columnOf(2)).startsWith(u"Meal at 19:15\nSoup\n750 kcal\n"_s));
+        QTRY_COMPARE(tipAt(geometry().blocks[1].bounds.center().toPoint()),
+                     u"Activity from 17:30 to 18:30\nWalking, 60 minute\n480 kcal\n"
+                     "8.0 kcal per minute"_s);
+        QCOMPARE(name(2), u"Meal at 12:45, 780 kcal: carbohydrate 340, fat 260, protein 180. "
+                          "<b>Ham</b> & eggs %1, 1,5 × 100 g"_s);
+        QCOMPARE(name(7), u"Activity from 17:30 to 18:30, 480 kcal. Walking, 60 minute"_s);
+    }
+    void presentMinuteIsMarked()
+    {
+        DayData day = {0.5, {{11, QTime(6, 0), {10, 30, 10}}}};
+        fill(day);
+        const QImage before = picture();
+        const QString summary = chart()->text(QAccessible::Description);
+        const QAccessibleInterface *meal = chart()->child(1);
+        m_graph->setNow(QTime(13, 0, 59));
+        QCOMPARE(chart()->text(QAccessible::Description),
+                 summary + u" So far, at 13:00, 340 kcal less eaten than burnt."_s);
+        QCOMPARE(chart()->child(1), meal); // not one more item that is new to a screen reader
+
+        day.now = 780;
+        const DayGeometry g = geometry(day);
+        const DayColors c(m_graph->palette());
+        const QRectF atNow(g.time.x(780) - 1, g.meals.area.top(), 2.5, 0.5 * g.meals.area.height());
+        // How much of a part of the balance is seen as a line between two minutes.
+        const auto drawn = [&](const QImage &image, size_t corner, double from, double to) {
+            const QLineF line(g.balance[corner], g.balance[corner + 1]);
+            const int first = qCeil(g.time.x(from));
+            const int last = qFloor(g.time.x(to));
+            int seen = 0;
+            for (int x = first; x < last; ++x) {
+                const QPoint middle = line.pointAt((x - line.x1()) / line.dx()).toPoint();
+                bool isSeen = false;
+                for (int i = -1; i <= 1; ++i)
+                    isSeen |= image.pixelColor(middle + QPoint(0, i)) == c.balance;
+                seen += isSeen;
+            }
+            return double(seen) / (last - first);
+        };
+        QImage paper(m_graph->size(), QImage::Format_RGB32);
+        QPainter painter(&paper);
+        m_graph->paintChart(painter, paper.rect(), m_graph->palette());
+        painter.end();
+        for (const QImage &image : {picture(), paper}) {
+            QVERIFY(share(image, atNow, c.now) > 0.2);
+            QVERIFY(share(image, g.now->label->rect, c.ground) < 0.95);
+            QVERIFY(drawn(image, 2, 380, 770) > 0.95);
+            const double ahead = drawn(image, 2, 790, 1430);
+            QVERIFY2(ahead > 0.4 && ahead < 0.7, qPrintable(QString::number(ahead)));
+        }
+        m_graph->setNow(QTime(6, 0)); // at the meal
+        QVERIFY(drawn(picture(), 0, 10, 350) > 0.95);
+        QVERIFY(drawn(picture(), 2, 380, 1430) < 0.7);
+        m_graph->setNow(QTime(13, 0));
+        fill(day); // of the same day
+        QVERIFY(share(picture(), atNow, c.now) > 0.2);
+        m_graph->setNow(QTime());
+        QCOMPARE(picture(), before);
+        QCOMPARE(chart()->text(QAccessible::Description), summary);
     }
     void screenReaderIsToldTheFiguresAndPresses()
     {
