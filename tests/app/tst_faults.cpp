@@ -30,7 +30,7 @@ void storeNotes(const QString &path)
         rows.update(); // raises where the other program was given the same number
         std::printf("%d\n", id);
         std::fflush(stdout);
-        QTest::qSleep(5); // a gap for the other
+        QTest::qSleep(15); // a gap for the other
     }
 }
 
@@ -55,7 +55,7 @@ void storeAndUndoNotes(const QString &path)
         history.take(Direction::Forward);
         std::printf("%d\n", first);
         std::fflush(stdout);
-        QTest::qSleep(5);
+        QTest::qSleep(15);
     }
 }
 
