@@ -88,8 +88,8 @@ inline constexpr Command MealForCategory{
 
 inline constexpr Command MealAll{
     "MealAll",
-    "select MealID, Meal.Name as Name, Unit, DefaultQty, Increment, FatBC, CarbohydrateBC,"
-    " ProteinBC, MealCategoryID, MealCategory.Name as category"
+    "select MealID, Meal.Name as Name, Unit, DefaultQty, Increment, Calories, Fat, Carbohydrate,"
+    " Protein, FatBC, CarbohydrateBC, ProteinBC, MealCategoryID, MealCategory.Name as category"
     " from Meal inner join MealCategory using (MealCategoryID) order by Meal.Name",
     {},
     nullptr,

@@ -5,16 +5,13 @@
 
 #include <QDialog>
 
-class ListModel;
 class Messages;
 class QLabel;
-class QLineEdit;
 class QPushButton;
-class QTreeView;
+class RecordFinder;
 
-/// Quick Add: a text box, the records that its line can mean, and what Enter stores. The box keeps
-/// the focus; the arrow keys in it walk through the list. After each store it is cleared for the
-/// next entry.
+/// Quick Add: a line, the records that it can mean, and what Enter stores. After each store the
+/// line is cleared for the next entry.
 class frmQuickAdd : public QDialog
 {
     Q_OBJECT
@@ -23,43 +20,18 @@ public:
     /// Throws StoreError where catalogue or journal can't be read.
     frmQuickAdd(Session &session, Messages &messages, QWidget *parent = nullptr);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-    void makeControls();
+    void makeLabels();
     QLayout *makeButtons();
-    void layOut();
-    void load();
-    /// Reads the line anew and offers what it can mean.
-    void showLine();
-    void offer(std::vector<const Recordable *> records);
     void showEntry();
-    void followClock();
     void store();
     void write(const Recordable &record, const QuickEntry &entry);
-    void tellAdded(const QString &what);
-    /// What a screen reader says of the line, once the typing pauses.
-    void speakLater();
-
-    QTime now() const;
-    const Recordable *selected() const;
-    QString nothingFound() const;
 
     Session &m_session;
     Messages &m_messages;
-    QuickTextReader m_reader;
-    Recordables m_recordables;
-    Recordable m_plainCalories; ///< while the catalogue has none
-    QuickText m_line;
-    QTime m_now; ///< that the entries shown were made with
-    std::vector<const Recordable *> m_offered;
-    ListModel *m_model;
-    QTimer *m_pause;
+    RecordFinder *m_finder;
+    QTimer *m_pause; ///< in the typing, after which a screen reader says what would be stored
 
-    QLineEdit *txtEntry;
-    QLabel *lblUnderstood;
-    QTreeView *lvwList;
     QLabel *lblStore;
     QLabel *lblAdded;
     QPushButton *btnAdd;

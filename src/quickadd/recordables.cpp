@@ -82,6 +82,9 @@ void Recordables::load(deData &data)
     for (; !meals.isEof(); meals.moveNext()) {
         Recordable meal = recordableOf(meals, Recordable::Kind::Meal, schema::Meal::MealID);
         meal.category = meals.text(commands::category);
+        meal.calories = meals.number(schema::Meal::Calories);
+        meal.grams = schema::Meal::weights.map(
+            [&meals](const schema::Column &column) { return meals.number(column); });
         meal.shares = schema::Meal::shares.map(
             [&meals](const schema::Column &column) { return meals.number(column); });
         m_all.push_back(std::move(meal));

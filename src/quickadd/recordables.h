@@ -22,6 +22,8 @@ struct Recordable
     QString category; ///< of a meal
     QString unit;
     Currency usualQuantity;          ///< the one used last, else the catalogue's
+    double calories = 0;             ///< of a meal, per unit
+    Nutrients<double> grams;         ///< of a meal, per unit
     Nutrients<double> shares;        ///< of a meal, calories per unit
     double burned = 0;               ///< of an activity, calories per unit
     double habit = 0;                ///< 0 for what was not recorded lately, see habits.h
