@@ -21,6 +21,7 @@
 #include "journal/frmUserNote.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
+#include "quickadd/frmComposeMeal.h"
 #include "quickadd/frmQuickAdd.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
@@ -242,6 +243,11 @@ void frmMain::redraw()
 void frmMain::quickAdd()
 {
     frmQuickAdd(m_session, m_messages, this).exec();
+}
+
+void frmMain::composeMeal()
+{
+    frmComposeMeal(m_session, m_messages, this).exec();
 }
 
 void frmMain::showToday()

@@ -65,6 +65,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuRedo"_s, tr("&Redo"), &frmMain::redo, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
         {u"mnuSep10"_s},
         {u"mnuQuickAdd"_s, tr("&Quick Add"), &frmMain::quickAdd, {}, Qt::CTRL | Qt::Key_K},
+        {u"mnuComposeMeal"_s, tr("Compose a &Meal…"), &frmMain::composeMeal},
         {u"mnuSep11"_s},
         {u"mnuToday"_s, tr("Go to &Today"), &frmMain::showToday, {}, Qt::CTRL | Qt::Key_T},
         {u"mnuPreviousDay"_s,

@@ -132,6 +132,8 @@ void frmMeal::Populate()
     if (source().isEof()) {
         if (m_categoryId != 0)
             dcbMealCategory->setBoundValue(m_categoryId);
+        if (m_proposal)
+            showProposal();
         return;
     }
     dcbMealCategory->setBoundValue(source().integer(schema::Meal::MealCategoryID));
@@ -141,6 +143,17 @@ void frmMeal::Populate()
     showColumn(txtIncrement, schema::Meal::Increment);
     for (const auto &[box, column] : requiredNumbers())
         showColumn(box, column);
+}
+
+void frmMeal::showProposal()
+{
+    const LocaleText &text = session().text();
+    txtUnit->setText(m_proposal->unit);
+    txtDefaultQty->setText(text.toText(1));
+    txtCalories->setText(text.toText(m_proposal->calories));
+    for (const Nutrient n : allNutrients)
+        m_weights[n]->setText(text.toText(m_proposal->grams[n]));
+    showShares();
 }
 
 void frmMeal::Gather()
@@ -195,8 +208,12 @@ void frmMeal::showCaloriesLabel()
 
 void frmMeal::splitCalories()
 {
-    if (isLoading())
-        return;
+    if (!isLoading())
+        showShares();
+}
+
+void frmMeal::showShares()
+{
     const LocaleText &text = session().text();
     const auto calories = text.toCurrency(txtCalories->text());
     const auto grams =

@@ -18,6 +18,14 @@ public:
 
     /// To be set before the dialog is shown: the category to preselect for a new meal, 0 for none.
     void setCategoryId(qint32 id) { m_categoryId = id; }
+    /// What a new meal is filled in with, per unit; to be set before the dialog is shown.
+    struct Proposal
+    {
+        QString unit;
+        Currency calories;
+        Nutrients<Currency> grams;
+    };
+    void propose(const Proposal &proposal) { m_proposal = proposal; }
     /// After a store the stored meal's category, otherwise what was set.
     qint32 categoryId() const { return m_categoryId; }
     /// Whether a category was created from here, stored meal or not: the opener then reloads its
@@ -50,7 +58,9 @@ private:
     std::vector<Bound> requiredNumbers() const;
     void createCategory();
     void showCaloriesLabel();
+    void showProposal();
     void splitCalories();
+    void showShares();
 
     MealCategoryChooser *dcbMealCategory;
     QPushButton *btnNewCategory;
@@ -62,6 +72,7 @@ private:
     Nutrients<QLineEdit *> m_weights; ///< txtFat, txtCarboHydrate, txtProtein
     Nutrients<QLineEdit *> m_shares;  ///< txtFatBC, txtCarboHydrateBC, txtProteinBC
 
+    std::optional<Proposal> m_proposal;
     qint32 m_categoryId = 0;
     bool m_categoriesChanged = false;
     QString m_newCategoryName;

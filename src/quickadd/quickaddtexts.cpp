@@ -58,15 +58,19 @@ QString understoodText(const QuickText &line, const LocaleText &text)
     return parts.isEmpty() ? QString() : QuickAddTexts::tr("Understood: %1").arg(joined(parts));
 }
 
+QString quantityText(const Recordable &record, const QuickEntry &entry, const LocaleText &text)
+{
+    return joined({QuickAddTexts::tr("%1 \u00D7 %2, %3")
+                       .arg(text.toText(entry.quantity), excerptOf(record.name, 80),
+                            excerptOf(record.unit, 40)),
+                   QuickAddTexts::tr("%1 kcal").arg(text.toText(int(entry.calories)))});
+}
+
 QString entryText(const Recordable &record, const QuickEntry &entry, const LocaleText &text)
 {
     if (!entry.isValid())
         return entry.problem;
-    return joined({QuickAddTexts::tr("%1 \u00D7 %2, %3")
-                       .arg(text.toText(entry.quantity), excerptOf(record.name, 80),
-                            excerptOf(record.unit, 40)),
-                   QuickAddTexts::tr("%1 kcal").arg(text.toText(int(entry.calories))),
-                   timesText(entry, text)});
+    return joined({quantityText(record, entry, text), timesText(entry, text)});
 }
 
 QString storeText(const Recordable &record, const QuickEntry &entry, QDate day,

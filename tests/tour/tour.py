@@ -153,8 +153,29 @@ def undo(program):
 
 
 @step
-def measurements_and_notes(program):
+def compose_a_meal(program):
     program.keys("Escape", "Escape")
+    program.menu("Journal", "Compose a Meal…")
+    window = program.window("Compose a Meal")
+    for line in "150 g rice white", "2 egg", "10 g oil":
+        xdotool("type", "--delay", 20, line)
+        program.keys("Return")
+    window.find("text", "Portions").type("2")
+    wait_for(lambda: len(window.find_all("table cell")) + len(window.find_all("tree item")) >= 3,
+             "the ingredients in the list")
+
+
+@step
+def composed_meal(program):
+    program.window("Compose a Meal").find("push button", "Create Meal…").press()
+    editor = program.window("Meal Description - New")
+    check(editor.find("text", "Unit").text == "portion", "the meal is not filled in")
+
+
+@step
+def measurements_and_notes(program):
+    leave_window(program, "Meal Description - New")
+    leave_window(program, "Compose a Meal")
     program.menu("Operate", "Body Measurement and Notes")
     window = program.window("Body Measurement and Notes")
     check(window.find_all("label", "Weight (kg)"), f"no kilograms:\n{window.outline()}")
