@@ -211,8 +211,8 @@ void DayPainter::paintBalance()
                              [](double x, const QPointF &corner) { return x < corner.x(); });
         Line before(g.balance.begin(), ahead);
         before.push_back(g.now->balance);
-        Line after(ahead, g.balance.end());
-        after.insert(after.begin(), g.now->balance);
+        Line after{g.now->balance};
+        after.insert(after.end(), ahead, g.balance.end());
         stroke(before, c.balance, 1, 2.2);
         dash(after, c.balance, 1, 2.2);
     } else {

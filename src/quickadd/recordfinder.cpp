@@ -87,8 +87,14 @@ void RecordFinder::makeList()
     lvwList->setColumnWidth(1, 24 * character);
     lvwList->setColumnWidth(2, 28 * character);
     lvwList->setColumnWidth(3, 12 * character);
-    lvwList->setMinimumWidth(100 * character);
+    lvwList->setMinimumWidth(80 * character);
     lvwList->setMinimumHeight(6 * fontMetrics().height());
+}
+
+// With room for long names where the screen has it.
+QSize RecordFinder::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo({125 * fontMetrics().averageCharWidth(), 0});
 }
 
 void RecordFinder::layOut(const QString &caption)

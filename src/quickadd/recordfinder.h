@@ -38,6 +38,7 @@ public:
     QString understood() const;
 
     QLineEdit *box() const { return txtEntry; }
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// The line, the selection or the minute is another one.
