@@ -10,7 +10,7 @@ double habitWeight(QDate day, QTime time, const QDateTime &now)
     constexpr int minutesPerDay = 24 * 60;
     constexpr double halfLife = 14;       // days
     constexpr double reach = 180;         // minutes
-    constexpr double atOtherHours = 0.05; // of the weight at the hour
+    constexpr double atOtherHours = 0.01; // of the weight at the hour
 
     const auto age = double(std::abs(day.daysTo(now.date())));
     const int apart = std::abs(time.secsTo(now.time())) / 60;
