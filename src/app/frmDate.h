@@ -1,12 +1,10 @@
 // The Set Date dialog.
 #pragma once
 
-#include "ui/formdialog.h"
-
-class QDateEdit;
+#include "ui/daydialog.h"
 
 /// Picks the current date; OK hands it to the session.
-class frmDate : public FormDialog
+class frmDate : public DayDialog
 {
     Q_OBJECT
 
@@ -15,6 +13,4 @@ public:
 
 private:
     void accept() override;
-
-    QDateEdit *dtpDate;
 };

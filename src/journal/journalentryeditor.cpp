@@ -5,9 +5,9 @@
 #include "ui/elidedlabel.h"
 #include "ui/icons.h"
 #include "ui/pickers.h"
+#include "ui/telling.h"
 #include "ui/updownspinner.h"
 
-#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -168,8 +168,6 @@ void JournalEntryEditor::recordStored()
 void JournalEntryEditor::tellAdded()
 {
     const LocaleText &text = session().text();
-    lblAdded->setText(tr("Added: %1, %2, %3")
-                          .arg(entryName(), text.toText(*quantity()), text.listTime(entryTime())));
-    QAccessibleEvent said(lblAdded, QAccessible::Alert);
-    QAccessible::updateAccessibility(&said);
+    tell(*lblAdded, tr("Added: %1, %2, %3")
+                        .arg(entryName(), text.toText(*quantity()), text.listTime(entryTime())));
 }

@@ -84,9 +84,37 @@ QVariant ListModel::data(const QModelIndex &index, int role) const
         font.setBold(true);
         return row.isTotal ? QVariant(font) : QVariant();
     }
+    case Qt::CheckStateRole:
+        return hasBox(index) ? (*row.isChecked ? Qt::Checked : Qt::Unchecked) : QVariant();
     default:
         return {};
     }
+}
+
+bool ListModel::hasBox(const QModelIndex &index) const
+{
+    return index.column() == 0 && m_rows.at(static_cast<size_t>(index.row())).isChecked;
+}
+
+bool ListModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::CheckStateRole || !index.isValid() || !hasBox(index))
+        return false;
+    m_rows.at(static_cast<size_t>(index.row())).isChecked = value.toInt() == Qt::Checked;
+    Q_EMIT dataChanged(index, index, {role});
+    return true;
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() && hasBox(index) ? flags | Qt::ItemIsUserCheckable : flags;
+}
+
+void ListModel::setAllChecked(bool checked)
+{
+    for (int row = 0; row < rowCount(); ++row)
+        setData(index(row, 0), checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
 }
 
 QVariant ListModel::toolTip(const QModelIndex &index) const

@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 struct ListColumn
@@ -20,8 +21,9 @@ struct ListRow
 {
     qint32 tag = 0;
     QStringList texts;
-    QString toolTip = {}; ///< plain text, for one that the row itself shortens
-    bool isTotal = false; ///< stands out from the rows that it adds up
+    QString toolTip = {};               ///< plain text, for one that the row itself shortens
+    bool isTotal = false;               ///< stands out from the rows that it adds up
+    std::optional<bool> isChecked = {}; ///< of a row with a check box, which the user turns
 };
 
 /// The rows of a list, and what is known of those that can't be shown.
@@ -54,6 +56,9 @@ public:
     const ListColumn &column(int column) const { return m_columns.at(static_cast<size_t>(column)); }
     void setRows(std::vector<ListRow> rows);
     qint32 tag(int row) const { return m_rows.at(static_cast<size_t>(row)).tag; }
+    const std::vector<ListRow> &rows() const { return m_rows; }
+    /// Turns the check boxes of all rows that have one.
+    void setAllChecked(bool checked);
     /// The rows, at most so many, that have the longest texts in a column.
     std::vector<int> longestRows(int column, size_t count) const;
     /// The row of this tag or, compared in the first column, of this text; -1 where there is none.
@@ -63,10 +68,14 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     QVariant toolTip(const QModelIndex &index) const;
+    /// Whether it is the one that shows the row's check box.
+    bool hasBox(const QModelIndex &index) const;
 
     std::vector<ListColumn> m_columns;
     std::vector<ListRow> m_rows;

@@ -4,102 +4,13 @@
 #include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
-#include "ui/reportstyle.h"
-#include "ui/tooltips.h"
+#include "ui/reportview.h"
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QToolTip>
-#include <QTreeView>
 #include <QVBoxLayout>
-
-#include <algorithm>
-
-namespace {
-
-/// A list as wide as its columns, unless told otherwise, and a screenful high.
-class ReportView : public QTreeView
-{
-public:
-    using QTreeView::QTreeView;
-
-    QSize sizeHint() const override
-    {
-        constexpr int rows = 18;
-        const int width = header()->length() + verticalScrollBar()->sizeHint().width();
-        const int height = header()->sizeHint().height() + rows * fontMetrics().height() * 5 / 4;
-        return QSize(width, height) + QSize(2, 2) * frameWidth();
-    }
-
-    /// Where the columns are wider than the list, its names and units give way, the widest first.
-    void keepNumbersInSight()
-    {
-        int excess = isVisible() ? header()->length() - viewport()->width() : 0;
-        std::vector<int> texts; // widths of their columns, 0 for the others
-        for (int column = 0; column < model()->columnCount(); ++column)
-            texts.push_back(isText(column) ? columnWidth(column) : 0);
-        const int step = fontMetrics().averageCharWidth();
-        for (; excess > 0; excess -= step) {
-            const auto widest = std::max_element(texts.begin(), texts.end());
-            if (*widest <= fewestCharacters * step)
-                break;
-            *widest -= step;
-            setColumnWidth(static_cast<int>(widest - texts.begin()), *widest);
-        }
-    }
-
-protected:
-    void resizeEvent(QResizeEvent *event) override
-    {
-        QTreeView::resizeEvent(event);
-        keepNumbersInSight();
-    }
-
-    void showEvent(QShowEvent *event) override
-    {
-        QTreeView::showEvent(event);
-        keepNumbersInSight();
-    }
-
-    /// Whatever is cut off tells itself.
-    bool viewportEvent(QEvent *event) override
-    {
-        if (event->type() != QEvent::ToolTip)
-            return QTreeView::viewportEvent(event);
-        const auto *help = static_cast<QHelpEvent *>(event);
-        const QModelIndex index = indexAt(help->pos());
-        if (!index.isValid() || index.data(Qt::ToolTipRole).isValid() ||
-            sizeHintForIndex(index).width() <= columnWidth(index.column()))
-            return QTreeView::viewportEvent(event);
-        QToolTip::showText(help->globalPos(), toolTipOf(index.data().toString()), viewport(),
-                           visualRect(index));
-        return true;
-    }
-
-    void focusInEvent(QFocusEvent *event) override
-    {
-        QTreeView::focusInEvent(event);
-        // The first row is current now though not selected, and Down would pass it by.
-        if (!selectionModel()->hasSelection())
-            selectionModel()->clearCurrentIndex();
-    }
-
-private:
-    static constexpr int fewestCharacters = 12; ///< of a text, in the narrowest window
-
-    bool isText(int column) const
-    {
-        return !static_cast<ListModel *>(model())->column(column).isNumber &&
-               header()->sectionResizeMode(column) == QHeaderView::Interactive;
-    }
-};
-
-} // namespace
 
 RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Session &session,
                        Messages &messages, Actions actions, const QString &accessibleName,
@@ -110,21 +21,14 @@ RecordList::RecordList(std::vector<ListColumn> columns, ListFamily family, Sessi
     , m_family(family)
     , m_actions(std::move(actions))
     , m_model(new ListModel(std::move(columns), this))
-    , m_list(new ReportView(this))
+    , m_list(new ReportView(*m_model, this))
     , m_new(makeButton(tr("&New"), tr("New record"), &RecordList::createRecord))
     , m_edit(makeButton(tr("&Edit"), tr("Apply changes"), &RecordList::editSelected))
     , m_delete(makeButton(tr("&Delete"), tr("Delete record"), &RecordList::deleteSelected))
     , m_missing(new QLabel(this))
     , m_buttons(new QHBoxLayout)
 {
-    setReportStyle(*m_list);
-    m_list->setModel(m_model);
     m_list->setAccessibleName(accessibleName);
-    m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
-    m_list->setAllColumnsShowFocus(true);
-    m_list->setAlternatingRowColors(true);
-    arrangeColumns();
     connect(m_list, &QTreeView::doubleClicked, this, &RecordList::editSelected);
     m_missing->setObjectName(QStringLiteral("lblMissing"));
     m_missing->setWordWrap(true);
@@ -163,6 +67,11 @@ void RecordList::setAccessKeysActive(bool active)
         button->setShortcut(active ? QKeySequence::mnemonic(button->text()) : QKeySequence());
 }
 
+QTreeView *RecordList::list() const
+{
+    return m_list;
+}
+
 QPushButton *RecordList::makeButton(const QString &caption, const QString &toolTip,
                                     void (RecordList::*press)())
 {
@@ -189,12 +98,26 @@ void RecordList::makeKeys()
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
+void RecordList::addCommand(const QString &name, const QString &caption, const Command &run)
+{
+    const QList<QAction *> entries = m_list->actions();
+    if (entries.last()->objectName().isEmpty()) { // of those that press the buttons
+        auto *separator = new QAction(m_list);
+        separator->setSeparator(true);
+        m_list->addAction(separator);
+    }
+    auto *entry = new QAction(caption, m_list);
+    entry->setObjectName(name);
+    connect(entry, &QAction::triggered, this, [this, run] { runOnSelected(run); });
+    m_list->addAction(entry);
+}
+
 void RecordList::refresh(const Reselection &reselection)
 {
     ListRows loaded = m_actions.load();
     m_model->setRows(std::move(loaded.rows));
     tellMissing(loaded);
-    sizeColumns();
+    m_list->sizeColumns();
     if (!reselection.name.isEmpty())
         select(m_model->rowOfText(reselection.name));
     else if (reselection.id != 0)
@@ -231,27 +154,31 @@ qint32 RecordList::selectedTag() const
 
 void RecordList::createRecord()
 {
-    edit(0);
+    run(m_actions.edit, 0);
 }
 
 void RecordList::editSelected()
 {
+    runOnSelected(m_actions.edit);
+}
+
+void RecordList::runOnSelected(const Command &command)
+{
     const qint32 tag = selectedTag();
     if (tag != 0)
-        edit(tag);
+        run(command, tag);
     else
         m_messages.error(window(), m_family == ListFamily::Catalogue ? tr("Nothing to edit")
                                                                      : tr("No record selected"));
     m_list->setFocus();
 }
 
-void RecordList::edit(qint32 id)
+void RecordList::run(const Command &command, qint32 id)
 {
     std::optional<Reselection> stored;
     // A record that can't be opened may be gone: the list is read anew then, too.
     if (!attempt(
-            window(), m_messages, [&] { stored = m_actions.edit(id); },
-            tr("The record can't be opened")))
+            window(), m_messages, [&] { stored = command(id); }, tr("The record can't be opened")))
         stored.emplace();
     if (stored)
         refreshOrTell(*stored);
@@ -291,41 +218,4 @@ void RecordList::refreshOrTell(const Reselection &reselection)
     attempt(
         window(), m_messages, [&] { refresh(reselection); },
         tr("The list can't be read; it shows what it showed before"));
-}
-
-void RecordList::arrangeColumns()
-{
-    QHeaderView *header = m_list->header();
-    const int last = m_model->columnCount() - 1;
-    header->setSectionsMovable(false);
-    // Stretched, a last number would stand far from the others of its row.
-    header->setStretchLastSection(!m_model->column(last).isNumber);
-    for (int column = 0; column <= last; ++column) {
-        if (m_model->column(column).isLongText)
-            header->setSectionResizeMode(column, QHeaderView::Stretch);
-    }
-}
-
-// Of all rows and not only those in sight, so that nothing is cut off when it is scrolled to; but
-// measuring thousands would take longer than reading them, and the widest is among the longest.
-int RecordList::contentsWidth(int column) const
-{
-    int width = m_list->header()->sectionSizeHint(column);
-    for (const int row : m_model->longestRows(column, 60))
-        width = qMax(width, m_list->sizeHintForIndex(m_model->index(row, column)).width());
-    return width;
-}
-
-// Columns only grow, so that they stand still while one day or category after the other is shown.
-void RecordList::sizeColumns()
-{
-    const int widest = fontMetrics().averageCharWidth() * ListModel::longText;
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        if (m_model->column(column).isLongText)
-            continue;
-        const int before = m_isSized ? m_list->columnWidth(column) : 0;
-        m_list->setColumnWidth(column, qMax(before, qMin(contentsWidth(column), widest)));
-    }
-    m_isSized = true;
-    static_cast<ReportView *>(m_list)->keepNumbersInSight();
 }

@@ -16,6 +16,7 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTreeView;
+class ReportView;
 
 /// What the two families of list windows say and test.
 enum class ListFamily
@@ -32,12 +33,15 @@ class RecordList : public QWidget
     Q_OBJECT
 
 public:
+    /// Does something with a record; what to reselect where that may show in the rows.
+    using Command = std::function<std::optional<Reselection>(qint32 id)>;
+
     struct Actions
     {
         /// Reads the rows in the list command's order.
         std::function<ListRows()> load;
         /// Opens the editor, 0 for a new record; what to reselect where it stored something.
-        std::function<std::optional<Reselection>(qint32 id)> edit;
+        Command edit;
         Removal removal;
     };
     /// Object names of the controls; the defaults are those of a window with one list.
@@ -55,13 +59,15 @@ public:
     void setNames(const Names &names);
     /// Puts the window's help button beside the others.
     void addHelpButton();
+    /// Adds an entry for the selected record to the context menu, the first one behind a separator.
+    void addCommand(const QString &name, const QString &caption, const Command &run);
     /// In a window with several lists, the access keys go to the buttons of one of them.
     void setAccessKeysActive(bool active);
 
     /// Rebuilds the rows; throws StoreError and keeps the old rows where they can't be read.
     void refresh(const Reselection &reselection = {});
 
-    QTreeView *list() const { return m_list; }
+    QTreeView *list() const;
     ListModel *model() const { return m_model; }
 
 private:
@@ -72,14 +78,12 @@ private:
     void editSelected();
     void deleteSelected();
     void removeSelected();
-    void edit(qint32 id);
+    void runOnSelected(const Command &command);
+    void run(const Command &command, qint32 id);
     void refreshOrTell(const Reselection &reselection);
     void select(int row);
     int selectedRow() const;
     qint32 selectedTag() const;
-    void arrangeColumns();
-    int contentsWidth(int column) const;
-    void sizeColumns();
     void tellMissing(const ListRows &loaded);
 
     Session &m_session;
@@ -87,11 +91,10 @@ private:
     ListFamily m_family;
     Actions m_actions;
     ListModel *m_model;
-    QTreeView *m_list;
+    ReportView *m_list;
     QPushButton *m_new;
     QPushButton *m_edit;
     QPushButton *m_delete;
     QLabel *m_missing; ///< in sight only where there is something to tell
     QHBoxLayout *m_buttons;
-    bool m_isSized = false;
 };
