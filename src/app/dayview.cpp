@@ -3,6 +3,7 @@
 #include "app/dayviewlayout.h"
 #include "chart/TrellumGraph.h"
 #include "ui/elidedlabel.h"
+#include "ui/telling.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -28,7 +29,9 @@ DayView::DayView(QWidget *parent)
     , txtDate(new QLineEdit(this))
     , lblWeekday(new QLabel(this))
     , btnHelp(new QPushButton(tr("H&elp"), this))
+    , lblTold(new ElidedLabel(this))
     , m_sampleNotice(makeSampleNotice())
+    , m_besideHeading(makeBesideHeading())
 {
     Label1->setObjectName(QStringLiteral("Label1"));
     graph->setObjectName(QStringLiteral("graph"));
@@ -65,11 +68,27 @@ QWidget *DayView::makeSampleNotice()
     btnDeleteSample->setFont(link);
     auto *layout = new QHBoxLayout(notice);
     layout->setContentsMargins({});
-    layout->addStretch();
     layout->addWidget(text);
     layout->addWidget(btnDeleteSample);
     notice->hide();
     return notice;
+}
+
+QWidget *DayView::makeBesideHeading()
+{
+    auto *beside = new QWidget(this);
+    lblTold->setObjectName(QStringLiteral("lblTold"));
+    auto *layout = new QHBoxLayout(beside);
+    layout->setContentsMargins({});
+    layout->addSpacing(2 * fontMetrics().averageCharWidth());
+    layout->addWidget(lblTold, 1);
+    layout->addWidget(m_sampleNotice);
+    return beside;
+}
+
+void DayView::tell(const QString &text)
+{
+    ::tell(*lblTold, text);
 }
 
 void DayView::setSampleNoticeVisible(bool visible)
@@ -142,7 +161,7 @@ void DayView::layOut()
     QRect beside = layout.heading;
     beside.setLeft(beside.left() + Label1->sizeHint().width());
     beside.setRight(layout.graph.right());
-    m_sampleNotice->setGeometry(beside);
+    m_besideHeading->setGeometry(beside);
     graph->setGeometry(layout.graph);
 
     const int gap = qRound(90 * scale);

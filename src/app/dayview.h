@@ -22,6 +22,8 @@ public:
     void setSampleNoticeVisible(bool visible);
     /// Names the date's day of the week beside it, by the abbreviation where there is no room.
     void setWeekday(const QString &name, const QString &abbreviation);
+    /// Says beside the heading what was done, until it is called with an empty text.
+    void tell(const QString &text);
     double pixelsPerTwip() const;
 
     QLabel *Label1;
@@ -42,10 +44,13 @@ protected:
 
 private:
     QWidget *makeSampleNotice();
+    QWidget *makeBesideHeading();
     void layOut();
     void placeWeekday();
 
+    QLabel *lblTold;
     QWidget *m_sampleNotice;
     QString m_weekday;
     QString m_weekdayAbbreviation;
+    QWidget *m_besideHeading;
 };

@@ -13,6 +13,7 @@
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
 #include "journal/frmBody.h"
+#include "journal/frmCopyDay.h"
 #include "journal/frmExercisePerform.h"
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsume.h"
@@ -133,6 +134,7 @@ void frmMain::LoadGraph()
     m_view->setWeekday(text.locale().standaloneDayName(day.dayOfWeek(), QLocale::LongFormat),
                        text.locale().standaloneDayName(day.dayOfWeek(), QLocale::ShortFormat));
     m_shownDate = day;
+    m_view->tell({});
     graph.clear();
     graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
     for (; !meals.isEof(); meals.moveNext())
@@ -340,6 +342,21 @@ void frmMain::addActivityAt(QTime time)
 {
     takeTime(time);
     openEditor<frmExercisePerform>(0, false);
+}
+
+void frmMain::copyDay()
+{
+    if (const auto copies = frmCopyDay(m_session, m_messages, this).run())
+        showCopies(*copies);
+}
+
+/// Once the chart has followed what was stored. Copies on another day are told of, no more.
+void frmMain::showCopies(const EntryCopies &copies)
+{
+    if (copies.day == m_shownDate)
+        m_view->graph->select(copies.ids(entryKindOf(schema::MealConsume::table)),
+                              copies.ids(entryKindOf(schema::ExercisePerform::table)));
+    m_view->tell(copies.told);
 }
 
 void frmMain::openMeasurements()

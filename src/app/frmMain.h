@@ -12,6 +12,7 @@ class DayView;
 class Messages;
 class QTimer;
 class Session;
+struct EntryCopies;
 struct Removal;
 struct StoredChange;
 
@@ -79,6 +80,8 @@ private:
     void showMealMenu(int id, QTime time, QPoint at);
     void showActivityMenu(int id, QTime time, QPoint at);
     void showChartMenu(int id, QTime time, QPoint at, const ItemCommands &commands);
+    void copyDay();
+    void showCopies(const EntryCopies &copies);
     void removeEntry(const Removal &removal, qint32 id);
     template<typename Editor>
     void openEditor(qint32 id, bool addMode);

@@ -74,6 +74,8 @@ std::vector<frmMain::Command> frmMain::commands()
          {},
          Qt::CTRL | Qt::Key_Left},
         {u"mnuNextDay"_s, tr("&Next Day"), &frmMain::showNextDay, {}, Qt::CTRL | Qt::Key_Right},
+        {u"mnuSep11"_s},
+        {u"mnuCopyDay"_s, tr("&Copy from Another Day\u2026"), &frmMain::copyDay},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

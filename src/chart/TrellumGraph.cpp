@@ -32,6 +32,7 @@ TrellumGraph::TrellumGraph(QWidget *parent)
 void TrellumGraph::clear()
 {
     m_held = {.backgroundRate = m_held.backgroundRate, .now = m_held.now};
+    forgetSelection();
 }
 
 void TrellumGraph::setBackgroundRate(double caloriesPerMinute)
@@ -81,6 +82,26 @@ void TrellumGraph::repaintChart()
         point(mapFromGlobal(QCursor::pos()));
 }
 
+void TrellumGraph::select(const std::vector<int> &mealIds, const std::vector<int> &activityIds)
+{
+    m_selected.clear();
+    for (const Target &target : m_targets) {
+        const std::vector<int> &ids = target.lane == Lane::Meals ? mealIds : activityIds;
+        if (target.kind == Target::Kind::Item &&
+            std::find(ids.begin(), ids.end(), idOf(m_shown, target)) != ids.end())
+            m_selected.push_back(target);
+    }
+    if (!m_selected.empty())
+        m_cursor = placedOn(m_shown, m_selected.front(), m_cursor.minute);
+    update();
+}
+
+void TrellumGraph::forgetSelection()
+{
+    if (!std::exchange(m_selected, {}).empty())
+        update();
+}
+
 void TrellumGraph::paintChart(QPainter &painter, const QRectF &area, const QPalette &palette) const
 {
     const plot::Fonts fonts(font(), logicalDpiY(), painter.device());
@@ -120,6 +141,8 @@ void TrellumGraph::paintPicture(QPainter &painter)
 
 void TrellumGraph::paintEmphasis(QPainter &painter)
 {
+    for (const Target &target : m_selected)
+        daychart::paintEmphasis(painter, geometry(), m_colors, fonts(), texts(), {target}, true);
     daychart::paintEmphasis(painter, geometry(), m_colors, fonts(), texts(), m_pointed, false);
     if (showsFocus())
         daychart::paintEmphasis(painter, geometry(), m_colors, fonts(), texts(), m_cursor, true);
@@ -158,6 +181,7 @@ void TrellumGraph::leaveEvent(QEvent *)
 
 void TrellumGraph::mousePressEvent(QMouseEvent *event)
 {
+    forgetSelection();
     if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
@@ -233,6 +257,7 @@ std::optional<Cursor> TrellumGraph::cursorAfter(const QKeyEvent &key) const
 
 void TrellumGraph::keyPressEvent(QKeyEvent *event)
 {
+    forgetSelection();
     m_byKeyboard = true;
     switch (event->key()) {
     case Qt::Key_Return:

@@ -46,6 +46,10 @@ public:
     /// Draws the items now held.
     void repaintChart();
 
+    /// Lets these of the items shown stand out until the next click or key, or until the chart is
+    /// cleared, and puts the keyboard on the first of them. Ids that aren't shown are passed over.
+    void select(const std::vector<int> &mealIds, const std::vector<int> &activityIds);
+
     /// Draws the items now held on paper or into a picture, with the control's font in its size at
     /// the resolution of the painter's device. The area is in the painter's units, one for each
     /// dot of the device.
@@ -90,6 +94,7 @@ private:
     void point(QPointF position);
     void setPointed(const daychart::Cursor &pointed);
     void moveCursor(const daychart::Cursor &cursor);
+    void forgetSelection();
     void choose(const daychart::Target &target, int minute);
     int idOf(const daychart::DayData &day, const daychart::Target &target) const;
     daychart::Target sameItem(const daychart::Target &before, int id) const;
@@ -103,8 +108,9 @@ private:
     bool m_clock24 = true;
     std::optional<daychart::DayGeometry> m_geometry; ///< of what is shown, in this size
     daychart::DayColors m_colors;
-    daychart::Cursor m_cursor;  ///< of the keyboard
-    bool m_byKeyboard = false;  ///< the cursor is shown only while the keyboard is used
+    daychart::Cursor m_cursor; ///< of the keyboard
+    bool m_byKeyboard = false; ///< the cursor is shown only while the keyboard is used
+    std::vector<daychart::Target> m_selected;
     daychart::Cursor m_pointed; ///< under the pointer
     daychart::Target m_pressed;
     QPointF m_pressedAt;

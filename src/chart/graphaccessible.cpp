@@ -44,8 +44,8 @@ public:
         }
         state.focusable = true;
         state.selectable = true;
-        state.selected = m_chart->isCurrent(m_index);
-        state.focused = state.selected && m_chart->state().focused;
+        state.selected = m_chart->isSelected(m_index);
+        state.focused = m_chart->isCurrent(m_index) && m_chart->state().focused;
         return state;
     }
 
@@ -159,6 +159,13 @@ QRect GraphAccessible::childRect(int index) const
 bool GraphAccessible::isCurrent(int index) const
 {
     return targets()[size_t(index)] == graph()->m_cursor.target;
+}
+
+bool GraphAccessible::isSelected(int index) const
+{
+    const std::vector<Target> &selected = graph()->m_selected;
+    return isCurrent(index) ||
+           std::find(selected.begin(), selected.end(), targets()[size_t(index)]) != selected.end();
 }
 
 void GraphAccessible::choose(int index)

@@ -28,6 +28,7 @@ public:
     QString childName(int index) const;
     QRect childRect(int index) const; ///< on the screen
     bool isCurrent(int index) const;
+    bool isSelected(int index) const; ///< the current one, too
     void choose(int index);
     void moveTo(int index);
 

@@ -111,7 +111,7 @@ inline constexpr Command ExerciseSorted{"ExerciseSorted",
 
 inline constexpr Command MealConsumeSorted{
     "MealConsumeSorted",
-    "select MealConsumeID, ConsumeTime, Qty, Round(FatBC*Qty) as sFat,"
+    "select MealConsume.*, Round(FatBC*Qty) as sFat,"
     " Round(CarbohydrateBC*Qty) as sCarbohydrate, Round(ProteinBC*Qty) as sProtein,"
     " Round(FatBC*Qty) + Round(CarbohydrateBC*Qty) + Round(ProteinBC*Qty) as sCalories, Name, Unit"
     " from MealConsume inner join Meal on MealConsume.MealID = Meal.MealID"

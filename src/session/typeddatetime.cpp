@@ -175,3 +175,14 @@ std::optional<QTime> readTime(const QString &text, const QLocale &locale, bool i
     const QTime time(hour, numbers[1].value);
     return time.isValid() ? std::optional(time) : std::nullopt;
 }
+
+std::optional<int> readSpan(const QString &text)
+{
+    static const QRegularExpression span(QStringLiteral("^\\s*\\d{1,2}\\s*:\\s*\\d{2}\\s*$"),
+                                         QRegularExpression::UseUnicodePropertiesOption);
+    if (!text.contains(span))
+        return std::nullopt;
+    const std::vector<Number> numbers = piecesOf(text).numbers;
+    const QTime time(numbers[0].value, numbers[1].value);
+    return time.isValid() ? std::optional(time.hour() * 60 + time.minute()) : std::nullopt;
+}

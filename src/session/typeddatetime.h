@@ -19,3 +19,7 @@ std::optional<QDate> readDate(const QString &text, const QLocale &locale, const 
 /// or a beginning of the locale's own word, may follow on any clock, and has to on a 12-hour one
 /// unless the hour tells by itself.
 std::optional<QTime> readTime(const QString &text, const QLocale &locale, bool is24HourClock);
+
+/// The minutes of a span of hours and minutes, "1:30", or none: less than a day, with both digits
+/// of the minutes and without a sign, so that one and a half hours are never taken for 1:05.
+std::optional<int> readSpan(const QString &text);

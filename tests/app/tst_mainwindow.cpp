@@ -57,6 +57,7 @@ private slots:
     void goesThroughTheDays();
     void keysOpenWindows();
     void chartHasMenus();
+    void tellsOfCopies();
     void followsOtherPrograms();
     void redrawsOncePerChange();
     void deletesTrialDataAfterAYes();
@@ -231,6 +232,26 @@ void tst_mainwindow::chartHasMenus()
                  "Are you sure you want to delete the selected record?");
     }
     QCOMPARE(m_journal->row("select group_concat(MealConsumeID) from MealConsume"), "-1,2");
+}
+
+// They stand out in the chart, and a line beside its heading says how many there are.
+void tst_mainwindow::tellsOfCopies()
+{
+    m_journal->exec("insert into ExercisePerform values (-1, 1, 46224, 0.5, 0.6, 1);"
+                    "update Common set NextMealConsumeID = 2");
+    inDialog(
+        "frmCopyDay", [&] { entry("mnuCopyDay").trigger(); },
+        [](QWidget &window) { press(window, "btnOK"); });
+    QCOMPARE(shown(), "22 Jul 2026: 600");
+    auto &told = control<QLabel>(*m_window, "lblTold");
+    QCOMPARE(told.text(), "2 entries copied to 22 Jul 2026");
+    auto *chart = QAccessible::queryAccessibleInterface(&control<QWidget>(*m_window, "graph"));
+    int selected = 0;
+    for (int i = 0; i < chart->childCount(); ++i)
+        selected += chart->child(i)->state().selected ? 1 : 0;
+    QCOMPARE(selected, 2);
+    press(*m_window, "btnNext");
+    QCOMPARE(told.text(), QString());
 }
 
 // What another program stored is seen once the user is back, from a dialog that was cancelled, too.

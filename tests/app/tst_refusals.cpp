@@ -9,6 +9,7 @@
 #include "catalogue/frmMeals.h"
 #include "faultyfiles.h"
 #include "journal/frmBody.h"
+#include "journal/frmCopyDay.h"
 #include "journal/frmExercisePerform.h"
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsume.h"
@@ -191,6 +192,21 @@ Action deleting(const char *name, const QString &refusal, const char *list = "lv
             }};
 }
 
+Action copyingADay()
+{
+    return {"copying a day", u"The copy can't be stored"_s, [](Try &attempt) {
+                frmCopyDay window(*attempt.journal.session, attempt.journal.messages);
+                inDialog(
+                    "frmCopyDay", [&] { window.run(); },
+                    [&](QWidget &) {
+                        const QStringList rows = shown(window);
+                        attempt.act([&] { press(window, "btnOK"); });
+                        QCOMPARE(window.isVisible(), attempt.isRefused());
+                        QCOMPARE(shown(window), rows);
+                    });
+            }};
+}
+
 Action deletingTrialData()
 {
     return {"deleting the trial data", u"The trial data can't be deleted"_s,
@@ -322,6 +338,7 @@ std::vector<Action> allActions()
         quickAdding(),
         takingAStep("undo", "mnuUndo", u"Recounting can't be undone"_s),
         takingAStep("redo", "mnuRedo", u"Recounting can't be redone"_s),
+        copyingADay(),
         deletingTrialData(),
         movingTheSample(),
     };

@@ -83,8 +83,9 @@ void tst_screens::init()
                   " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
                   "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
                   " where ExerciseID = 1;"
-                  "insert into MealConsume values (-1, 1, 46225, 0.5, 3);"
-                  "insert into ExercisePerform values (-1, 1, 46225, 0.5, 0.6, 3);"
+                  "insert into MealConsume values (-1, 1, 46225, 0.5, 3), (-2, 1, 46224, 0.5, 3);"
+                  "insert into ExercisePerform values (-1, 1, 46225, 0.5, 0.6, 3),"
+                  " (-2, 1, 46224, 0.5, 0.6, 3);"
                   "insert into Body values (-1, 46220, 70, 90, 80, 95, 'M');"
                   "insert into UserNote values (-1, 46220, 46222,"
                   " replace(hex(zeroblob(300)), '00', 'note '))");
@@ -105,7 +106,8 @@ void tst_screens::everythingIsWithinReach()
           "mnuExercisePerformed frmExercisePerforms btnEdit frmExercisePerform",
           "mnuMeasurement frmMeasurements btnMeasurementNew frmBody",
           "mnuMeasurement frmMeasurements btnNotetNew frmUserNote", "mnuSetDate frmDate",
-          "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
+          "mnuCopyDay frmCopyDay", "mnuMealCategories frmMealCategories",
+          "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
           "mnuQuickAdd frmQuickAdd", "mnuComposeMeal frmComposeMeal", "mnuCommon frmCommon",
           "mnuHelpAbout frmAbout", "mnuGeneralProgress frmGeneralProgressSettings"})

@@ -3,6 +3,7 @@
 #include "dayjournal.h"
 #include "ui/plaintextbox.h"
 
+#include <QDateEdit>
 #include <QMenu>
 
 using namespace Qt::Literals;
@@ -99,6 +100,13 @@ void tst_undoing::takesBackWhatTheWindowsDo()
                           type(window, "txtQty", u"7"_qs);
                           press(window, "btnOK");
                       }));
+         }},
+        {"Copying 3 Entries",
+         [&] {
+             inWindow("mnuCopyDay", "frmCopyDay", [](QWidget &window) {
+                 control<QDateEdit>(window, "dtpDate").setDate(QDate(2026, 7, 22));
+                 press(window, "btnOK");
+             });
          }},
         {"Deleting Crème brûlée", [&] { inWindow("mnuMealConsume", "frmMealConsumes", remove); }},
         {"Adding Body Measurement of 22 Jul 2026",

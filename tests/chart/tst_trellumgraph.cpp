@@ -288,6 +288,50 @@ private slots:
             QVERIFY(changed.height() > bounds.height() - 12);
         }
     }
+    void selectionStandsOutForAWhile()
+    {
+        const DayGeometry g = geometry();
+        const QColor highlight = m_graph->palette().color(QPalette::Highlight);
+        const auto standsOut = [&] {
+            const QImage image = m_graph->grab().toImage();
+            const auto around = [&](const QRectF &rect) {
+                return share(image, rect.adjusted(-4, -4, 4, 4), highlight) > 0;
+            };
+            return std::vector{around(g.columns[0].rect), around(g.columns[1].rect),
+                               around(g.columns[2].rect), around(g.blocks[0].bounds),
+                               around(g.blocks[1].bounds)};
+        };
+        const auto selected = [&] {
+            QString names;
+            for (int i = 0; i < chart()->childCount(); ++i)
+                names += chart()->child(i)->state().selected ? name(i).section(u',', 0, 0) : u""_s;
+            return names;
+        };
+        const std::vector chosen{true, false, true, false, true};
+        const std::vector none(5, false);
+        const QString names = u"Meal at 07:30Meal at 19:15Activity from 17:30 to 18:30"_s;
+        const std::function<void()> ends[] = {
+            [&] { QTest::keyClick(m_graph.get(), Qt::Key_Shift); },
+            [&] {
+                QTest::mouseClick(m_graph.get(), Qt::RightButton, {}, {1, 1});
+            },
+            [&] { fill(samples::typicalDay()); }};
+        for (const auto &end : ends) {
+            m_graph->select({13, 11, 21, 999}, {22});
+            QCOMPARE(standsOut(), chosen);
+            QCOMPARE(selected(), names);
+            m_graph->repaintChart(); // as in another size
+            QCOMPARE(standsOut(), chosen);
+            end();
+            m_graph->clearFocus(); // with which the keyboard's place stands out
+            QCOMPARE(standsOut(), none);
+            m_graph->setFocus();
+        }
+        m_graph->select({13}, {});
+        QTest::keyClick(m_graph.get(), Qt::Key_Left);
+        QTest::keyClick(m_graph.get(), Qt::Key_Return);
+        QCOMPARE(raised(), QStringList("meal 12 1 12:45")); // from there on
+    }
     void tooManyItemsAreCountedButNotDrawn()
     {
         DayData day = {1, {}, {}};

@@ -156,6 +156,19 @@ private slots:
         }
     }
 
+    void spans()
+    {
+        for (const auto &[typed, minutes] : {std::pair(u"1:30"_qs, 90),
+                                             {u" 0 : 05 "_qs, 5},
+                                             {u"23:59"_qs, 1439},
+                                             {u"٢:٠٥"_qs, 125},
+                                             {u"00:00"_qs, 0}})
+            QCOMPARE(readSpan(typed).value_or(-1), minutes);
+        for (const auto &doubtful : {u""_qs, u"90"_qs, u"130"_qs, u"1:5"_qs, u"1,5"_qs, u"1.30"_qs,
+                                     u"-1:30"_qs, u"1:60"_qs, u"24:00"_qs, u"1:30 pm"_qs})
+            QVERIFY2(!readSpan(doubtful), qPrintable(doubtful));
+    }
+
     void clockFormat()
     {
         const auto time = [](const char *locale, int hour, int minute) {

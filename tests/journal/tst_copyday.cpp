@@ -1,0 +1,326 @@
+// Copies of a day's entries on another day.
+#include "dayjournal.h"
+
+#include "journal/frmCopyDay.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QRadioButton>
+#include <QSignalSpy>
+
+using namespace Qt::Literals;
+
+class tst_copyday : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { open(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
+    void copiesWhatIsChecked();
+    void shiftsWithinTheDay();
+    void worksByKeysAlone();
+    void speaksTheUsersLocale();
+    void refusesWhatItCantCopy();
+    void storesAllOrNothing();
+    void takesNothingThatChangedMeanwhile();
+    void showsWhatItCanRead();
+
+private:
+    /// Yesterday, 21 July, has three entries and the day shown none.
+    void open(const QLocale &locale)
+    {
+        journal = std::make_unique<DayJournal>(locale);
+        journal->exec("insert into MealConsume values (7, 3, 46224, 0.75, 1.5),"
+                      " (-2, 1, 46224, 0.25, 0.25);"
+                      "insert into ExercisePerform values (4, 2, 46224, 0.5, 0.53125, 45);"
+                      "update Common set NextMealConsumeID = 10, NextExercisePerformID = 20");
+    }
+    /// The steps in the window; what it says it has copied.
+    QString copyDay(const std::function<void(QWidget &)> &steps)
+    {
+        frmCopyDay window(*journal->session, journal->messages);
+        std::optional<EntryCopies> copies;
+        inDialog(
+            "frmCopyDay", [&] { copies = window.run(); }, steps);
+        return copies ? copies->told : QString();
+    }
+    static bool turn(const QWidget &window, int row)
+    {
+        QAbstractItemModel &model = *control<QTreeView>(window, "lvwList").model();
+        const QModelIndex box = model.index(row, 0);
+        const bool wasChecked = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        model.setData(box, wasChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        return wasChecked;
+    }
+    /// Presses Copy, which is refused with this message, and nothing is stored.
+    void refuses(QWidget &window, const QString &message, const char *focus)
+    {
+        const QStringList before = everything();
+        press(window, "btnOK");
+        QVERIFY(window.isVisible());
+        QCOMPARE(journal->messages.said.size(), 1u);
+        QCOMPARE(journal->messages.takeText(), message);
+        activate(window);
+        QVERIFY2(control<QWidget>(window, focus).hasFocus(), focus);
+        QCOMPARE(everything(), before);
+    }
+    QStringList everything()
+    {
+        return journal->meals() + journal->activities() +
+               journal->rows("select NextMealConsumeID, NextExercisePerformID from Common");
+    }
+
+    std::unique_ptr<DayJournal> journal;
+};
+
+void tst_copyday::copiesWhatIsChecked()
+{
+    const QSignalSpy changed(journal->session.get(), &Session::recordsChanged);
+    const QStringList before = journal->meals() + journal->activities();
+    const QString told = copyDay([](QWidget &window) {
+        QCOMPARE(control<QDateEdit>(window, "dtpDate").date(), QDate(2026, 7, 21));
+        QCOMPARE(control<QLabel>(window, "lblDay").text(), "Copied to: 22 Jul 2026");
+        QCOMPARE(shown(window), (QStringList{"06:00|Meal|Apple|0.25|piece|7",
+                                             "18:00|Meal|Crème brûlée|1.5|cup|450",
+                                             "12:00–12:45|Activity|Walking|45|minute|158"}));
+        QVERIFY(turn(window, 0)); // was checked, as all are
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(told, "2 entries copied to 22 Jul 2026");
+    QCOMPARE(journal->meals(),
+             (QStringList{"-2|1|46224|360|0.25", "7|3|46224|1080|1.5", "11|3|46225|1080|1.5"}));
+    QCOMPARE(journal->activities(), (QStringList{"4|2|46224|720|765|45", "21|2|46225|720|765|45"}));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(journal->session->history().next(Direction::Backward)->description,
+             "Copying 2 Entries");
+    journal->session->history().take(Direction::Backward);
+    QCOMPARE(journal->meals() + journal->activities(), before);
+    QVERIFY(!journal->session->history().next(Direction::Backward));
+    // Numbers that were taken back are not given once more.
+    const QString one = copyDay([](QWidget &window) {
+        press(window, "btnCheckNone");
+        QVERIFY(!turn(window, 1));
+        press(window, "btnOK");
+    });
+    QCOMPARE(one, "Crème brûlée copied to 22 Jul 2026");
+    QCOMPARE(journal->meals().last(), "12|3|46225|1080|1.5");
+    QCOMPARE(copyDay([](QWidget &window) { press(window, "btnCancel"); }), QString());
+}
+
+void tst_copyday::shiftsWithinTheDay()
+{
+    const auto shiftBy = [](QWidget &window, const QString &span, const QString &direction) {
+        typeInto(control<QLineEdit>(window, "txtSpan"), span);
+        control<QComboBox>(window, "cbxDirection").setCurrentText(direction);
+        QVERIFY(control<QRadioButton>(window, "optShift").isChecked()); // by typing
+    };
+    copyDay([&](QWidget &window) {
+        const QString illegal =
+            u"The span should be hours and minutes, such as 1:30, and less than a day"_qs;
+        for (const char *span : {"", "1,5", "24:00"}) {
+            shiftBy(window, span, "later");
+            refuses(window, illegal, "txtSpan");
+            QCOMPARE(textOf(window, "txtSpan"), QString(span));
+        }
+        const QString leaves = u"%1 would leave the day when shifted by this span. Nothing was "
+                               "copied."_qs;
+        shiftBy(window, "6:00", "later"); // to 24:00
+        refuses(window, leaves.arg("Crème brûlée at 18:00"), "txtSpan");
+        shiftBy(window, "6:01", "earlier");
+        refuses(window, leaves.arg("Apple at 06:00"), "txtSpan");
+        turn(window, 0);
+        turn(window, 1);
+        shiftBy(window, "11:15", "later"); // it would begin on the day, and end on the next
+        refuses(window, leaves.arg("Walking at 12:00"), "txtSpan");
+        shiftBy(window, "11:14", "later");
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(journal->activities().last(), "21|2|46225|1394|1439|45");
+    copyDay([&](QWidget &window) {
+        shiftBy(window, "6:00", "earlier"); // to midnight
+        press(window, "btnOK");
+    });
+    QCOMPARE(journal->meals().mid(2), (QStringList{"11|1|46225|0|0.25", "12|3|46225|720|1.5"}));
+    QCOMPARE(journal->activities().last(), "22|2|46225|360|405|45");
+    copyDay([&](QWidget &window) {
+        shiftBy(window, "1:00", "later");
+        control<QRadioButton>(window, "optKeep").click(); // whatever span is left there
+        type(window, "txtSpan", "nonsense");
+        control<QRadioButton>(window, "optKeep").click();
+        press(window, "btnOK");
+    });
+    QCOMPARE(journal->meals().last(), "14|3|46225|1080|1.5");
+}
+
+void tst_copyday::worksByKeysAlone()
+{
+    const QString told = copyDay([&](QWidget &window) {
+        auto &list = control<QTreeView>(window, "lvwList");
+        QCOMPARE(QApplication::focusWidget(), &list);
+        pressKey(Qt::Key_D, Qt::AltModifier); // to the picker
+        typeKeys("^20/07/2026");
+        pressKey(Qt::Key_Return); // shows the day, and copies nothing
+        QVERIFY(window.isVisible());
+        QCOMPARE(shown(window), QStringList());
+        QCOMPARE(control<QLabel>(window, "lblState").text(), "Nothing is recorded on 20 Jul 2026");
+        QVERIFY(control<QLabel>(window, "lblState").isVisible());
+        pressKey(Qt::Key_Return);
+        QCOMPARE(journal->messages.takeText(), "No entry is checked");
+        pressKey(Qt::Key_D, Qt::AltModifier);
+        typeKeys("^21/07/2026");
+        pressKey(Qt::Key_O, Qt::AltModifier); // Copy, and yet the day is to be seen first
+        QTRY_COMPARE(QApplication::focusWidget(), &list);
+        QVERIFY(window.isVisible());
+        QCOMPARE(shown(window).size(), 3);
+        QVERIFY(!control<QLabel>(window, "lblState").isVisible());
+        pressKey(Qt::Key_N, Qt::AltModifier);
+        const auto box = [&](int row) {
+            return list.model()->index(row, 0).data(Qt::CheckStateRole).toInt();
+        };
+        QTRY_COMPARE(box(2), int(Qt::Unchecked));
+        list.setFocus();
+        pressKey(Qt::Key_End);
+        pressKey(Qt::Key_Space);
+        QCOMPARE(box(2), int(Qt::Checked));
+        pressKey(Qt::Key_S, Qt::AltModifier);
+        QTRY_VERIFY(control<QRadioButton>(window, "optShift").isChecked());
+        pressKey(Qt::Key_Tab);
+        typeKeys("^0:30");
+        pressKey(Qt::Key_Return);
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(told, "Walking copied to 22 Jul 2026");
+    QCOMPARE(journal->activities().last(), "21|2|46225|750|795|45");
+    QCOMPARE(journal->meals().size(), 2);
+}
+
+void tst_copyday::speaksTheUsersLocale()
+{
+    open(QLocale(QLocale::German, QLocale::Germany));
+    copyDay([](QWidget &window) {
+        QCOMPARE(shown(window).at(1), "18:00|Meal|Crème brûlée|1,5|cup|450");
+        QCOMPARE(control<QDateEdit>(window, "dtpDate").text(), "21.07.2026");
+        press(window, "btnOK");
+    });
+    QCOMPARE(journal->meals().last(), "12|3|46225|1080|1.5");
+    open(QLocale(QLocale::English, QLocale::UnitedStates));
+    copyDay([&](QWidget &window) {
+        QCOMPARE(shown(window).at(1), "6:00 pm|Meal|Crème brûlée|1.5|cup|450");
+        QCOMPARE(shown(window).at(2), "12:00 pm–12:45 pm|Activity|Walking|45|minute|158");
+        type(window, "txtSpan", "12:00"); // twelve hours, and not noon
+        refuses(window,
+                "Crème brûlée at 6:00 pm would leave the day when shifted by this span. Nothing "
+                "was copied.",
+                "txtSpan");
+    });
+}
+
+void tst_copyday::refusesWhatItCantCopy()
+{
+    copyDay([&](QWidget &window) {
+        press(window, "btnCheckNone");
+        refuses(window, "No entry is checked", "lvwList");
+        auto &date = control<QDateEdit>(window, "dtpDate");
+        date.setFocus();
+        typeKeys("^21/07");
+        refuses(window, "The Day to Copy from field contains illegal data", "dtpDate");
+        QCOMPARE(date.text(), "21/07");
+    });
+    // At the end of the identifiers, with a meal before the activity that has none left.
+    journal->exec("update Common set NextExercisePerformID = 32767");
+    copyDay([&](QWidget &window) {
+        const QStringList before = everything();
+        press(window, "btnOK");
+        QVERIFY(window.isVisible());
+        QCOMPARE(journal->messages.said.front().cause,
+                 "A number is outside the range of what can be stored.");
+        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
+        QCOMPARE(everything(), before);
+        QVERIFY(!journal->data->Con.isInTransaction());
+        // What needs none is stored.
+        turn(window, 2);
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(journal->meals().size(), 4);
+}
+
+void tst_copyday::storesAllOrNothing()
+{
+    const QSignalSpy changed(journal->session.get(), &Session::recordsChanged);
+    journal->exec("create trigger late before insert on ExercisePerform"
+                  " begin select raise(abort, 'no'); end");
+    copyDay([&](QWidget &window) {
+        const QStringList before = journal->meals() + journal->activities();
+        turn(window, 0);
+        press(window, "btnOK");
+        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
+        QCOMPARE(journal->meals() + journal->activities(), before);
+        QVERIFY(!journal->session->history().next(Direction::Backward));
+        QCOMPARE(changed.count(), 0);
+        // The choice is still there.
+        QVERIFY(!turn(window, 0));
+        journal->exec("drop trigger late");
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(journal->meals().size(), 4);
+    QCOMPARE(journal->activities().size(), 2);
+}
+
+void tst_copyday::takesNothingThatChangedMeanwhile()
+{
+    Connection other(journal->path());
+    copyDay([&](QWidget &window) {
+        const std::pair<const char *, const char *> changes[] = {
+            {"update MealConsume set Qty = 2 where MealConsumeID = 7",
+             "Another program has changed an entry meanwhile."},
+            {"delete from MealConsume where MealConsumeID = 7",
+             "The record has been deleted meanwhile."}};
+        for (const auto &[change, cause] : changes) {
+            other.exec(change);
+            const QStringList before = journal->meals() + journal->activities();
+            press(window, "btnOK");
+            QCOMPARE(journal->messages.said.front().cause, QString(cause));
+            QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
+            QCOMPARE(journal->meals() + journal->activities(), before);
+        }
+        QCOMPARE(shown(window), (QStringList{"06:00|Meal|Apple|0.25|piece|7",
+                                             "12:00–12:45|Activity|Walking|45|minute|158"}));
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    QCOMPARE(journal->meals().size(), 2);
+}
+
+void tst_copyday::showsWhatItCanRead()
+{
+    journal->exec("insert into MealConsume values (3000000000, 1, 46224, 0.25, 0.25),"
+                  " (8, 3, 46224, 1.4999, 'odd'), (3000000001, 1, 46220, 0.25, 0.25)");
+    copyDay([&](QWidget &window) {
+        QCOMPARE(shown(window).size(), 4); // the first one can't be referred to
+        const auto &state = control<QLabel>(window, "lblState");
+        QVERIFY(state.text().contains("out of range: 1."));
+        control<QDateEdit>(window, "dtpDate").setDate(QDate(2026, 7, 17));
+        QVERIFY(state.text().contains("out of range: 1.") && !state.text().contains("Nothing"));
+        control<QDateEdit>(window, "dtpDate").setDate(QDate(2026, 7, 21));
+        journal->exec("alter table MealConsume rename to Unreadable");
+        control<QDateEdit>(window, "dtpDate").setDate(QDate(2026, 7, 20));
+        QCOMPARE(journal->messages.takeText(), "The day can't be shown");
+        QCOMPARE(shown(window).size(), 4);
+        QCOMPARE(control<QDateEdit>(window, "dtpDate").date(), QDate(2026, 7, 21));
+        journal->exec("alter table Unreadable rename to MealConsume");
+        press(window, "btnOK");
+        QVERIFY(!window.isVisible());
+    });
+    // As they are stored, whatever that is.
+    QCOMPARE(journal->rows("select ConsumeTime, Qty from MealConsume where MealID = 3"
+                           " and ConsumeDate = 46225 order by 1"),
+             (QStringList{"0.75|1.5", "1.4999|odd"}));
+}
+
+QTEST_MAIN(tst_copyday)
+#include "tst_copyday.moc"
