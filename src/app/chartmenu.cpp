@@ -1,6 +1,7 @@
 // The context menus of the daily chart.
 #include "app/frmMain.h"
 
+#include "journal/entrycommands.h"
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/messages.h"
@@ -52,6 +53,11 @@ void frmMain::showChartMenu(int id, QTime time, QPoint at, const ItemCommands &c
         add(commands.edit, [=, this] { (this->*choose)(id, true, time); });
         add(commands.remove, [this, removal = commands.removal, id] { removeEntry(removal, id); });
         menu->addSeparator();
+        const EntryKind &kind = entryKindOf(*commands.removal.records.command().table);
+        for (const EntryCommand &command : entryCommands(m_session, m_messages, kind)) {
+            add(command.caption, [this, command, id] { runOnEntry(command, id); });
+        }
+        menu->addSeparator();
     }
     if (time.isValid()) {
         const QString then = m_session.text().listTime(time);
@@ -61,6 +67,16 @@ void frmMain::showChartMenu(int id, QTime time, QPoint at, const ItemCommands &c
     }
     add(commands.list, [=, this] { (this->*choose)(0, false, QTime()); });
     menu->popup(at);
+}
+
+void frmMain::runOnEntry(const EntryCommand &command, qint32 id)
+{
+    std::optional<EntryCopies> copies;
+    attempt(
+        this, m_messages, [&] { copies = command.run(this, id); },
+        tr("The record can't be opened"));
+    if (copies)
+        showCopies(*copies);
 }
 
 void frmMain::removeEntry(const Removal &removal, qint32 id)

@@ -12,6 +12,7 @@ class DayView;
 class Messages;
 class QTimer;
 class Session;
+struct EntryCommand;
 struct EntryCopies;
 struct Removal;
 struct StoredChange;
@@ -82,6 +83,7 @@ private:
     void showChartMenu(int id, QTime time, QPoint at, const ItemCommands &commands);
     void copyDay();
     void showCopies(const EntryCopies &copies);
+    void runOnEntry(const EntryCommand &command, qint32 id);
     void removeEntry(const Removal &removal, qint32 id);
     template<typename Editor>
     void openEditor(qint32 id, bool addMode);

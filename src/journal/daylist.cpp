@@ -2,11 +2,14 @@
 
 #include "data/recordset.h"
 #include "journal/daytotals.h"
+#include "journal/entrycommands.h"
 #include "session/session.h"
 #include "ui/attempt.h"
+#include "ui/elidedlabel.h"
 #include "ui/fieldmessages.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
+#include "ui/telling.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,6 +18,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 DayList::DayList(Session &session, Messages &messages, const Texts &texts, const Columns &columns,
                  Recordset &records, const Command *removal, QWidget *parent)
     : QDialog(parent)
@@ -22,6 +27,7 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     , m_messages(messages)
     , m_columns(columns)
     , dtpDate(makeDatePicker(session, QStringLiteral("dtpDate"), this))
+    , lblTold(new ElidedLabel(this))
     , m_list(new RecordList(
           columns.columns, ListFamily::Journal, session, messages,
           {[this] { return load(); }, [this](qint32 id) { return edit(id); }, {records, removal}},
@@ -33,7 +39,9 @@ DayList::DayList(Session &session, Messages &messages, const Texts &texts, const
     connect(dtpDate, &QDateEdit::dateChanged, this, &DayList::showDay);
     whenRefused(*dtpDate, [this] { refuseDate(); });
 
+    lblTold->setObjectName(QStringLiteral("lblTold"));
     m_list->addHelpButton();
+    addEntryCommands(*records.command().table);
 
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(makeDateRow(texts.dateCaption));
@@ -49,8 +57,21 @@ QLayout *DayList::makeDateRow(const QString &caption)
     auto *row = new QHBoxLayout;
     row->addWidget(label);
     row->addWidget(dtpDate);
-    row->addStretch();
+    row->addWidget(lblTold, 1);
     return row;
+}
+
+void DayList::addEntryCommands(const schema::Table &table)
+{
+    for (const EntryCommand &command : entryCommands(m_session, m_messages, entryKindOf(table))) {
+        m_list->addCommand(command.name, command.caption, [this, run = command.run](qint32 id) {
+            const std::optional<EntryCopies> copies = run(this, id);
+            if (copies)
+                m_told = copies->told;
+            const bool isHere = copies && copies->day == dtpDate->date();
+            return std::optional(Reselection{.id = isHere ? copies->entries.front().id : id});
+        });
+    }
 }
 
 void DayList::run()
@@ -88,8 +109,9 @@ void DayList::refuseDate()
     });
 }
 
-ListRows DayList::load() const
+ListRows DayList::load()
 {
+    tell(*lblTold, std::exchange(m_told, {}));
     Recordset &source = rows();
     const auto close = qScopeGuard([&source] { source.close(); });
     std::vector<ListRow> list;

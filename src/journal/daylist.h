@@ -7,6 +7,7 @@
 #include <QDialog>
 
 class QDateEdit;
+class QLabel;
 class Recordset;
 class Session;
 struct Command;
@@ -54,7 +55,8 @@ protected:
 
 private:
     QLayout *makeDateRow(const QString &caption);
-    ListRows load() const;
+    void addEntryCommands(const schema::Table &table);
+    ListRows load();
     ListRow totalsRow(const class DayTotals &totals) const;
     std::optional<Reselection> edit(qint32 id);
     void showDay(QDate day);
@@ -64,5 +66,7 @@ private:
     Messages &m_messages;
     Columns m_columns;
     QDateEdit *dtpDate;
+    QLabel *lblTold; ///< of an entry that was copied to another day, until the rows are read anew
     RecordList *m_list;
+    QString m_told; ///< with the next rows
 };

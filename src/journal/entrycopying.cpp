@@ -94,9 +94,27 @@ std::vector<qint32> EntryCopies::ids(const EntryKind &kind) const
     return ids;
 }
 
+DayEntry openEntry(Session &session, const EntryKind &kind, qint32 id)
+{
+    try {
+        return readEntry(session.data(), kind, id);
+    } catch (const StoreError &error) {
+        if (error.kind() == StoreError::Kind::Gone)
+            session.announce({{kind.table}, StoredChange::Kind::Removed});
+        throw;
+    }
+}
+
 std::optional<EntryCopies> copyEntries(QWidget *parent, Session &session, Messages &messages,
                                        const std::vector<DayEntry> &entries, int minutes, QDate day)
 {
     return tryToCopy(parent, session, messages,
                      [&] { return store(session, entries, minutes, day); });
+}
+
+std::optional<EntryCopies> copyEntry(QWidget *parent, Session &session, Messages &messages,
+                                     const EntryKind &kind, qint32 id, QDate day)
+{
+    return tryToCopy(parent, session, messages,
+                     [&] { return store(session, {openEntry(session, kind, id)}, 0, day); });
 }

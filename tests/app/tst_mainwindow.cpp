@@ -58,6 +58,7 @@ private slots:
     void keysOpenWindows();
     void chartHasMenus();
     void tellsOfCopies();
+    void copiesFromTheChart();
     void followsOtherPrograms();
     void redrawsOncePerChange();
     void deletesTrialDataAfterAYes();
@@ -197,7 +198,8 @@ void tst_mainwindow::chartHasMenus()
     };
     const QRect meal = placeOf("Meal at 12:00");
     QCOMPARE(menuAt(QContextMenuEvent::Mouse, meal.center()),
-             "&Edit Meal|&Delete Meal||Add &Meal at 12:00|Add &Activity at 12:00||"
+             "&Edit Meal|&Delete Meal||&Show What Was Eaten|Copy to &Today|Copy t&o…||Add &Meal at "
+             "12:00|Add &Activity at 12:00||"
              "Meal Consumed &List");
     inDialog(
         "frmMealConsume", [] { pressKey(Qt::Key_E); },
@@ -252,6 +254,49 @@ void tst_mainwindow::tellsOfCopies()
     QCOMPARE(selected, 2);
     press(*m_window, "btnNext");
     QCOMPARE(told.text(), QString());
+}
+
+void tst_mainwindow::copiesFromTheChart()
+{
+    m_journal->exec("update Common set NextMealConsumeID = 5");
+    auto &graph = control<QWidget>(*m_window, "graph");
+    auto &told = control<QLabel>(*m_window, "lblTold");
+    const auto chooseFromMenu = [&](Qt::Key entry) {
+        activate(*m_window);
+        graph.setFocus();
+        pressKey(Qt::Key_Home);
+        pressKey(Qt::Key_Right);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(&graph, &event);
+        pressKey(entry);
+    };
+    press(*m_window, "btnPrev");
+    chooseFromMenu(Qt::Key_T);
+    QCOMPARE(told.text(), "Crème brûlée copied to 22 Jul 2026");
+    QCOMPARE(shown(), "21 Jul 2026: 300"); // it stays
+    QCOMPARE(m_journal->meals().last(), "6|3|46225|720|1");
+    inDialog(
+        "frmCopyTo", [&] { chooseFromMenu(Qt::Key_O); },
+        [](QWidget &dialog) {
+            control<QDateEdit>(dialog, "dtpDate").setDate(QDate(2026, 7, 21));
+            press(dialog, "btnOK");
+        });
+    QCOMPARE(shown(), "21 Jul 2026: 600");
+    QString name;
+    inDialog(
+        "frmMeal", [&] { chooseFromMenu(Qt::Key_S); },
+        [&](QWidget &editor) { name = textOf(editor, "txtName"); });
+    QCOMPARE(name, "Crème brûlée");
+    // The undone copy is seen going, on its day.
+    activate(*m_window);
+    pressKey(Qt::Key_Z, Qt::ControlModifier);
+    pressKey(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(shown(), "22 Jul 2026: 300");
+    // What another program has deleted meanwhile.
+    Connection(m_journal->path()).exec("delete from MealConsume");
+    chooseFromMenu(Qt::Key_S);
+    QCOMPARE(m_journal->messages.takeText(), "The record can't be opened");
+    QCOMPARE(shown(), "22 Jul 2026: 0");
 }
 
 // What another program stored is seen once the user is back, from a dialog that was cancelled, too.

@@ -207,6 +207,19 @@ Action copyingADay()
             }};
 }
 
+Action copyingAnEntry()
+{
+    return {"copying an entry", u"The copy can't be stored"_s, [](Try &attempt) {
+                frmExercisePerforms list(*attempt.journal.session, attempt.journal.messages);
+                inDialog(
+                    "frmExercisePerforms", [&] { list.run(); },
+                    [&](QWidget &) {
+                        selectRow(list, 0);
+                        attempt.act([&] { control<QAction>(list, "mnuCopyToday").trigger(); });
+                    });
+            }};
+}
+
 Action deletingTrialData()
 {
     return {"deleting the trial data", u"The trial data can't be deleted"_s,
@@ -339,6 +352,7 @@ std::vector<Action> allActions()
         takingAStep("undo", "mnuUndo", u"Recounting can't be undone"_s),
         takingAStep("redo", "mnuRedo", u"Recounting can't be redone"_s),
         copyingADay(),
+        copyingAnEntry(),
         deletingTrialData(),
         movingTheSample(),
     };

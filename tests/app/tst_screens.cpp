@@ -106,8 +106,8 @@ void tst_screens::everythingIsWithinReach()
           "mnuExercisePerformed frmExercisePerforms btnEdit frmExercisePerform",
           "mnuMeasurement frmMeasurements btnMeasurementNew frmBody",
           "mnuMeasurement frmMeasurements btnNotetNew frmUserNote", "mnuSetDate frmDate",
-          "mnuCopyDay frmCopyDay", "mnuMealCategories frmMealCategories",
-          "mnuMeal frmMeals btnEdit frmMeal",
+          "mnuCopyDay frmCopyDay", "mnuMealConsume frmMealConsumes mnuCopyTo frmCopyTo",
+          "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
           "mnuQuickAdd frmQuickAdd", "mnuComposeMeal frmComposeMeal", "mnuCommon frmCommon",
           "mnuHelpAbout frmAbout", "mnuGeneralProgress frmGeneralProgressSettings"})

@@ -108,6 +108,13 @@ void tst_undoing::takesBackWhatTheWindowsDo()
                  press(window, "btnOK");
              });
          }},
+        {"Copying Crème brûlée",
+         [&] {
+             inWindow("mnuMealConsume", "frmMealConsumes", [](QWidget &list) {
+                 selectRow(list, 0);
+                 control<QAction>(list, "mnuCopyToday").trigger();
+             });
+         }},
         {"Deleting Crème brûlée", [&] { inWindow("mnuMealConsume", "frmMealConsumes", remove); }},
         {"Adding Body Measurement of 22 Jul 2026",
          [&] { inWindow("mnuAddMeasurement", "frmBody", measure); }},

@@ -2,7 +2,10 @@
 #include "dayjournal.h"
 
 #include "journal/frmCopyDay.h"
+#include "journal/frmCopyTo.h"
+#include "journal/frmMealConsumes.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
@@ -25,6 +28,7 @@ private slots:
     void storesAllOrNothing();
     void takesNothingThatChangedMeanwhile();
     void showsWhatItCanRead();
+    void copiesToADay();
 
 private:
     /// Yesterday, 21 July, has three entries and the day shown none.
@@ -320,6 +324,62 @@ void tst_copyday::showsWhatItCanRead()
     QCOMPARE(journal->rows("select ConsumeTime, Qty from MealConsume where MealID = 3"
                            " and ConsumeDate = 46225 order by 1"),
              (QStringList{"0.75|1.5", "1.4999|odd"}));
+}
+
+// A single one, from the menu of the list of its day.
+void tst_copyday::copiesToADay()
+{
+    journal->session->setCurrentDate(QDate(2026, 7, 21));
+    journal->inList<frmMealConsumes>([&](QWidget &window) {
+        const auto choose = [&](const char *entry) { control<QAction>(window, entry).trigger(); };
+        const auto told = [&] { return control<QLabel>(window, "lblTold").text(); };
+        selectRow(window, 3); // the totals
+        for (const char *entry : {"mnuCopyToday", "mnuCopyTo", "mnuShowSubject"}) {
+            choose(entry);
+            QCOMPARE(journal->messages.takeText(), "No record selected");
+        }
+        selectRow(window, 1);
+        choose("mnuCopyToday");
+        QCOMPARE(journal->meals().last(), "11|3|46225|1080|1.5");
+        QCOMPARE(told(), "Crème brûlée copied to 22 Jul 2026");
+        QCOMPARE(selectedRow(window), 1);
+        inDialog(
+            "frmCopyTo", [&] { choose("mnuCopyTo"); },
+            [&](QWidget &dialog) {
+                QCOMPARE(dialog.windowTitle(), "Copy Crème brûlée");
+                auto &date = control<QDateEdit>(dialog, "dtpDate");
+                QCOMPARE(date.date(), QDate(2026, 7, 22));
+                QTRY_COMPARE(QApplication::focusWidget(), &date);
+                typeKeys("<"); // the day is missing
+                pressKey(Qt::Key_Return);
+                QCOMPARE(journal->messages.takeText(), "The Date field contains illegal data");
+                activate(dialog);
+                typeKeys("^21/07/2026");
+                pressKey(Qt::Key_Return);
+                QVERIFY(!dialog.isVisible());
+            });
+        QCOMPARE(journal->meals().last(), "12|3|46224|1080|1.5");
+        QCOMPARE(shown(window).size(), 5);
+        QCOMPARE(selectedRow(window), 2); // the copy, on the day shown
+        inDialog(
+            "frmMeal", [&] { choose("mnuShowSubject"); },
+            [&](QWidget &editor) {
+                QCOMPARE(textOf(editor, "txtName"), "Crème brûlée");
+                type(editor, "txtUnit", "bowl");
+                press(editor, "btnOK");
+            });
+        QCOMPARE(selectedRow(window), 2);
+        QCOMPARE(told(), QString());
+        journal->exec("delete from MealConsume where MealConsumeID = 12");
+        choose("mnuCopyToday");
+        QCOMPARE(journal->messages.said.front().cause, "The record has been deleted meanwhile.");
+        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
+        QCOMPARE(shown(window).size(), 4);
+    });
+    UndoHistory &history = journal->session->history();
+    history.take(Direction::Backward); // the unit
+    QCOMPARE(history.next(Direction::Backward)->description, "Copying Crème brûlée");
+    QCOMPARE(history.next(Direction::Backward)->day, QDate(2026, 7, 21));
 }
 
 QTEST_MAIN(tst_copyday)
