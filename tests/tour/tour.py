@@ -260,6 +260,23 @@ def meals_of_the_day(program):
 
 
 @step
+def copy_to_a_day(program):
+    program.window("Meal Consumed List").find("table cell", "Banana").click()
+    program.keys("Menu", "o")
+    program.window("Copy Banana")
+
+
+@step
+def copied_to_a_day(program):
+    dialog = program.window("Copy Banana")
+    dialog.find("push button", "Copy").press()
+    program.gone(dialog)
+    window = program.window("Meal Consumed List")
+    wait_for(lambda: [label for label in window.find_all("label")
+                      if label.name.startswith("Banana copied to ")], "the copy to be told")
+
+
+@step
 def activities_of_the_day(program):
     leave_window(program, "Meal Consumed List")
     program.menu("Operate", "Activities Performed List")
@@ -269,8 +286,30 @@ def activities_of_the_day(program):
 
 
 @step
-def previous_day(program):
+def copy_from_another_day(program):
     leave_window(program, "Activities Performed List")
+    program.menu("Journal", "Copy from Another Day\u2026")
+    dialog = program.window("Copy from Another Day")
+    times = dialog.find_all("table cell")[::6]
+    check(times and all(time.is_checked for time in times), "not all entries are checked at first")
+    dialog.find("push button", "Check None").press()
+    wait_for(lambda: not any(time.is_checked for time in times), "the entries to be unchecked")
+    program.keys("Home", "space", "Down", "space")
+
+
+@step
+def entries_copied(program):
+    before = len(meals_in_chart(program))
+    dialog = program.window("Copy from Another Day")
+    dialog.find("push button", "Copy").press()
+    program.gone(dialog)
+    wait_for(lambda: len(meals_in_chart(program)) == before + 2, "two more meals in the chart")
+    check([label for label in main_window(program).find_all("label")
+           if label.name.startswith("2 entries copied to ")], "nothing tells of the copies")
+
+
+@step
+def previous_day(program):
     before = date_shown(program)
     main_window(program).find("push button", "Previous").press()
     wait_for(lambda: date_shown(program) != before, "the day before to be shown")
