@@ -8,17 +8,15 @@
 #include "ui/elidedlabel.h"
 #include "ui/icons.h"
 #include "ui/listmodel.h"
-#include "ui/reportstyle.h"
+#include "ui/reportview.h"
+#include "ui/telling.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -77,30 +75,16 @@ void frmComposeMeal::makeControls()
     lblEntry = new ElidedLabel(this);
     lblEntry->setObjectName(u"lblEntry"_s);
     btnAdd = button(u"btnAdd"_s, tr("&Add"));
-    lvwIngredients = new QTreeView(this);
-    setReportStyle(*lvwIngredients);
+    lvwIngredients = new ReportView(*m_model, this);
     lvwIngredients->setObjectName(u"lvwIngredients"_s);
     lvwIngredients->setAccessibleName(tr("Ingredients of the meal"));
-    lvwIngredients->setModel(m_model);
-    lvwIngredients->setRootIsDecorated(false);
-    lvwIngredients->setUniformRowHeights(true);
-    lvwIngredients->setAllColumnsShowFocus(true);
-    lvwIngredients->setAlternatingRowColors(true);
     lvwIngredients->setMinimumHeight(6 * fontMetrics().height());
-    QHeaderView *header = lvwIngredients->header();
-    header->setSectionsMovable(false);
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(0, QHeaderView::Stretch);
-    const int character = fontMetrics().averageCharWidth();
-    lvwIngredients->setColumnWidth(1, 28 * character);
-    for (int column = 2; column < m_model->columnCount(); ++column)
-        lvwIngredients->setColumnWidth(column, 11 * character);
     makeListKeys();
     btnChange = button(u"btnChange"_s, tr("Chan&ge"));
     btnRemove = button(u"btnRemove"_s, tr("&Remove"));
     txtPortions = makeBox(u"txtPortions"_s, tr("Portions"));
     txtPortions->setText(session().text().toText(1));
-    txtPortions->setMaximumWidth(10 * character);
+    txtPortions->setMaximumWidth(10 * fontMetrics().averageCharWidth());
 }
 
 void frmComposeMeal::makeListKeys()
@@ -213,8 +197,7 @@ void frmComposeMeal::addIngredient()
     m_finder->setFocus();
     const Recordable *meal = m_finder->record();
     if (!meal || !problem().isEmpty()) {
-        QAccessibleEvent said(lblEntry, QAccessible::Alert);
-        QAccessible::updateAccessibility(&said);
+        tell(*lblEntry, lblEntry->text());
         return;
     }
     m_ingredients.push_back(ingredientOf(*meal, m_finder->entry().quantity));
@@ -271,6 +254,7 @@ void frmComposeMeal::showIngredients(int selected)
         rows.push_back(std::move(row));
     }
     m_model->setRows(std::move(rows));
+    lvwIngredients->sizeColumns();
     lvwIngredients->setCurrentIndex(m_model->index(selected, 0));
     btnChange->setEnabled(!m_ingredients.empty());
     btnRemove->setEnabled(!m_ingredients.empty());

@@ -6,8 +6,8 @@
 
 class ListModel;
 class QGridLayout;
-class QTreeView;
 class RecordFinder;
+class ReportView;
 
 /// Compose a Meal: ingredients are found and weighed as in Quick Add and gathered in a list; the
 /// figures of the whole and of a portion follow. OK opens the meal editor, filled in for a portion,
@@ -55,7 +55,7 @@ private:
     RecordFinder *m_finder;
     QLabel *lblEntry;
     QPushButton *btnAdd;
-    QTreeView *lvwIngredients;
+    ReportView *lvwIngredients;
     QPushButton *btnChange;
     QPushButton *btnRemove;
     QLineEdit *txtPortions;

@@ -11,8 +11,8 @@
 #include "ui/elidedlabel.h"
 #include "ui/helpbutton.h"
 #include "ui/icons.h"
+#include "ui/telling.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -20,16 +20,6 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void say(QWidget *label)
-{
-    QAccessibleEvent said(label, QAccessible::Alert);
-    QAccessible::updateAccessibility(&said);
-}
-
-} // namespace
 
 frmQuickAdd::frmQuickAdd(Session &session, Messages &messages, QWidget *parent)
     : QDialog(parent)
@@ -54,7 +44,7 @@ frmQuickAdd::frmQuickAdd(Session &session, Messages &messages, QWidget *parent)
     connect(m_finder, &RecordFinder::taken, this, &frmQuickAdd::store);
     connect(btnAdd, &QPushButton::clicked, this, &frmQuickAdd::store);
     m_pause->setSingleShot(true);
-    connect(m_pause, &QTimer::timeout, this, [this] { say(lblStore); });
+    connect(m_pause, &QTimer::timeout, this, [this] { tell(*lblStore, lblStore->text()); });
     showEntry();
 }
 
@@ -107,16 +97,14 @@ void frmQuickAdd::store()
     const Recordable *record = m_finder->record();
     const QuickEntry entry = m_finder->entry();
     if (!record || !entry.isValid()) {
-        say(lblStore);
+        tell(*lblStore, entry.problem);
         return;
     }
     const QString what = storeText(*record, entry, m_session.currentDate(), m_session.text());
     const bool stored = attempt(
         this, m_messages, [&] { write(*record, entry); }, tr("The entry can't be stored"));
-    if (stored) {
-        lblAdded->setText(tr("Added: %1").arg(what));
-        say(lblAdded);
-    }
+    if (stored)
+        tell(*lblAdded, tr("Added: %1").arg(what));
     // Where it was refused the catalogue may have changed; what is typed stays.
     attempt(
         this, m_messages, [this] { m_finder->reload(); },

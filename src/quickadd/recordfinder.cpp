@@ -5,14 +5,12 @@
 #include "session/session.h"
 #include "ui/elidedlabel.h"
 #include "ui/listmodel.h"
-#include "ui/reportstyle.h"
+#include "ui/reportview.h"
 
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -49,7 +47,7 @@ RecordFinder::RecordFinder(Session &session, Recordables::Among among, const QSt
                             this))
     , txtEntry(new QLineEdit(this))
     , lblUnderstood(new ElidedLabel(this))
-    , lvwList(new QTreeView(this))
+    , lvwList(new ReportView(*m_model, this))
 {
     txtEntry->setObjectName(u"txtEntry"_s);
     txtEntry->setPlaceholderText(example);
@@ -70,23 +68,9 @@ RecordFinder::RecordFinder(Session &session, Recordables::Among among, const QSt
 
 void RecordFinder::makeList()
 {
-    setReportStyle(*lvwList);
     lvwList->setObjectName(u"lvwList"_s);
     lvwList->setAccessibleName(tr("What it can be"));
-    lvwList->setModel(m_model);
-    lvwList->setRootIsDecorated(false);
-    lvwList->setUniformRowHeights(true);
-    lvwList->setAllColumnsShowFocus(true);
-    lvwList->setAlternatingRowColors(true);
-    lvwList->setTextElideMode(Qt::ElideRight);
-    QHeaderView *header = lvwList->header();
-    header->setSectionsMovable(false);
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(0, QHeaderView::Stretch);
     const int character = fontMetrics().averageCharWidth();
-    lvwList->setColumnWidth(1, 24 * character);
-    lvwList->setColumnWidth(2, 28 * character);
-    lvwList->setColumnWidth(3, 12 * character);
     lvwList->setMinimumWidth(80 * character);
     lvwList->setMinimumHeight(6 * fontMetrics().height());
 }
@@ -180,6 +164,7 @@ void RecordFinder::offer(const std::vector<const Recordable *> &records)
     std::move(refusedRows.begin(), refusedRows.end(), std::back_inserter(rows));
     m_offered.insert(m_offered.end(), refused.begin(), refused.end());
     m_model->setRows(std::move(rows));
+    lvwList->sizeColumns();
     {
         const QSignalBlocker once(lvwList->selectionModel());
         lvwList->setCurrentIndex(m_model->index(0, 0));

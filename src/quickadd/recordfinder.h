@@ -8,7 +8,7 @@
 class ListModel;
 class QLabel;
 class QLineEdit;
-class QTreeView;
+class ReportView;
 
 /// A text box, what was understood of its figures, and a list of the records that the line can
 /// mean, the likeliest selected. The box keeps the focus; the arrow keys in it walk through the
@@ -71,5 +71,5 @@ private:
 
     QLineEdit *txtEntry;
     QLabel *lblUnderstood;
-    QTreeView *lvwList;
+    ReportView *lvwList;
 };

@@ -36,11 +36,7 @@ private:
         activate(*m_window);
         inDialog(
             "frmComposeMeal", [&] { control<QAction>(*m_window, "mnuComposeMeal").trigger(); },
-            [&steps](QWidget &window) {
-                QTRY_VERIFY(control<QWidget>(window, "txtEntry").hasFocus());
-                QCoreApplication::processEvents();
-                steps(window);
-            });
+            steps);
     }
     static void add(const QString &line)
     {

@@ -47,12 +47,7 @@ private:
     {
         activate(*m_window);
         inDialog(
-            "frmQuickAdd", [] { pressKey(Qt::Key_K, Qt::ControlModifier); },
-            [&steps](QWidget &window) {
-                QTRY_VERIFY(control<QWidget>(window, "txtEntry").hasFocus());
-                QCoreApplication::processEvents();
-                steps(window);
-            });
+            "frmQuickAdd", [] { pressKey(Qt::Key_K, Qt::ControlModifier); }, steps);
     }
     void open(const QLocale &locale)
     {

@@ -113,7 +113,11 @@ void inDialog(const char *name, const std::function<void()> &open,
         }
         poll.stop();
         appeared = true;
-        activate(*dialog);
+        // What is still on its way could take the focus away again, or begin the text anew.
+        do {
+            activate(*dialog);
+            QCoreApplication::processEvents();
+        } while (dialog->isVisible() && QApplication::activeWindow() != dialog);
         steps(*dialog);
         if (dialog->isVisible())
             dialog->close();
