@@ -58,6 +58,7 @@ frmComposeMeal::frmComposeMeal(Session &session, Messages &messages, QWidget *pa
     showEntry();
     showIngredients(-1);
     focusFirstField();
+    resize(sizeHint().width(), minimumSizeHint().height() + 6 * fontMetrics().lineSpacing());
 }
 
 void frmComposeMeal::makeControls()

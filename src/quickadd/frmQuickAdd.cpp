@@ -39,6 +39,8 @@ frmQuickAdd::frmQuickAdd(Session &session, Messages &messages, QWidget *parent)
     layout->addWidget(lblAdded);
     layout->addLayout(makeButtons());
     m_finder->setFocus();
+    // As wide as it asks for, and no higher than leaves the chart in sight.
+    resize(sizeHint().width(), minimumSizeHint().height() + 6 * fontMetrics().lineSpacing());
 
     connect(m_finder, &RecordFinder::changed, this, &frmQuickAdd::showEntry);
     connect(m_finder, &RecordFinder::taken, this, &frmQuickAdd::store);

@@ -7,6 +7,7 @@
 #include "ui/listmodel.h"
 #include "ui/reportview.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,7 +71,11 @@ void RecordFinder::makeList()
 {
     lvwList->setObjectName(u"lvwList"_s);
     lvwList->setAccessibleName(tr("What it can be"));
+    // Of one width for all lines: columns that followed the rows would move at every key.
     const int character = fontMetrics().averageCharWidth();
+    lvwList->setColumnWidth(1, 22 * character);
+    lvwList->setColumnWidth(2, 26 * character);
+    lvwList->setColumnWidth(3, 11 * character);
     lvwList->setMinimumWidth(80 * character);
     lvwList->setMinimumHeight(6 * fontMetrics().height());
 }
@@ -164,7 +169,6 @@ void RecordFinder::offer(const std::vector<const Recordable *> &records)
     std::move(refusedRows.begin(), refusedRows.end(), std::back_inserter(rows));
     m_offered.insert(m_offered.end(), refused.begin(), refused.end());
     m_model->setRows(std::move(rows));
-    lvwList->sizeColumns();
     {
         const QSignalBlocker once(lvwList->selectionModel());
         lvwList->setCurrentIndex(m_model->index(0, 0));
