@@ -4,6 +4,9 @@
 #include "data/nutrients.h"
 #include "session/session.h"
 
+#include <QHash>
+
+#include <array>
 #include <vector>
 
 /// A meal or an activity of the catalogue, and how this person has recorded it.
@@ -58,7 +61,7 @@ public:
 private:
     Recordable *withId(Recordable::Kind kind, qint32 id);
 
-    std::vector<Recordable> m_all;     ///< meals in the order of their names, then activities
-    size_t m_meals = 0;                ///< how many of them are meals
-    QHash<qint32, size_t> m_places[2]; ///< by kind and identifier
+    std::vector<Recordable> m_all; ///< meals in the order of their names, then activities
+    size_t m_meals = 0;            ///< how many of them are meals
+    std::array<QHash<qint32, size_t>, 2> m_places; ///< by kind and identifier
 };
