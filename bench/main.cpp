@@ -18,6 +18,7 @@ int main(int argc, char **argv)
     Table table;
     measureStartUp(table);
     measureStore(table, journal);
+    measureExchange(table, journal);
     measureWindows(table, journal);
     return table.print() ? 0 : 1;
 }

@@ -9,6 +9,7 @@
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
 #include "chart/TrellumGraph.h"
+#include "exchange/frmExport.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
@@ -453,6 +454,11 @@ void frmMain::openGeneralProgress()
     settings.exec();
     if (settings.OkPressed())
         showGeneralProgress(m_session, m_messages, settings.period(), this);
+}
+
+void frmMain::exportJournalFiles()
+{
+    frmExport(m_session, m_messages, this).exec();
 }
 
 void frmMain::leave()

@@ -96,6 +96,7 @@ private:
     void openExercises();
     void openCommonParameters();
     void openGeneralProgress();
+    void exportJournalFiles();
     void leave();
     void showAbout();
     void showHelpContents();

@@ -76,6 +76,8 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuNextDay"_s, tr("&Next Day"), &frmMain::showNextDay, {}, Qt::CTRL | Qt::Key_Right},
         {u"mnuSep11"_s},
         {u"mnuCopyDay"_s, tr("&Copy from Another Day\u2026"), &frmMain::copyDay},
+        {u"mnuSep20"_s},
+        {u"mnuExport"_s, tr("&Export"), &frmMain::exportJournalFiles},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

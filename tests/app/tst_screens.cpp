@@ -109,8 +109,9 @@ void tst_screens::everythingIsWithinReach()
           "mnuCopyDay frmCopyDay", "mnuMealConsume frmMealConsumes mnuCopyTo frmCopyTo",
           "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
-          "mnuQuickAdd frmQuickAdd", "mnuComposeMeal frmComposeMeal", "mnuCommon frmCommon",
-          "mnuHelpAbout frmAbout", "mnuGeneralProgress frmGeneralProgressSettings"})
+          "mnuQuickAdd frmQuickAdd", "mnuComposeMeal frmComposeMeal", "mnuExport frmExport",
+          "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
+          "mnuGeneralProgress frmGeneralProgressSettings"})
         open(*mainWindow, path.split(u' '));
 }
 
