@@ -1,4 +1,5 @@
 #include "data/deData.h"
+#include "exchange/journalcheck.h"
 #include "exchange/journalexport.h"
 #include "fulljournal.h"
 #include "measurements.h"
@@ -68,4 +69,7 @@ void measureExchange(Table &table, const QString &fullJournal)
 {
     deData data(fullJournal);
     measureExport(table, data);
+    const LocaleText text(QLocale(u"en_GB"_qs));
+    auto times = repeated(5, [&] { return timed([&] { checkJournal(data.Con, text); }); });
+    table.addTime(u"ten years of full tables checked"_qs, median(times), 1000);
 }

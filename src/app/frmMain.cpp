@@ -9,6 +9,7 @@
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
 #include "chart/TrellumGraph.h"
+#include "exchange/frmCheckJournal.h"
 #include "exchange/frmExport.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
@@ -459,6 +460,11 @@ void frmMain::openGeneralProgress()
 void frmMain::exportJournalFiles()
 {
     frmExport(m_session, m_messages, this).exec();
+}
+
+void frmMain::checkJournalFile()
+{
+    frmCheckJournal(m_session, m_messages, this).exec();
 }
 
 void frmMain::leave()

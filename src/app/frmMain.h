@@ -97,6 +97,7 @@ private:
     void openCommonParameters();
     void openGeneralProgress();
     void exportJournalFiles();
+    void checkJournalFile();
     void leave();
     void showAbout();
     void showHelpContents();

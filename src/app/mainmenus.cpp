@@ -78,6 +78,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuCopyDay"_s, tr("&Copy from Another Day\u2026"), &frmMain::copyDay},
         {u"mnuSep20"_s},
         {u"mnuExport"_s, tr("&Export"), &frmMain::exportJournalFiles},
+        {u"mnuCheckJournal"_s, tr("Chec&k Journal"), &frmMain::checkJournalFile},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

@@ -110,7 +110,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
           "mnuQuickAdd frmQuickAdd", "mnuComposeMeal frmComposeMeal", "mnuExport frmExport",
-          "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
+          "mnuCheckJournal frmCheckJournal", "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
           "mnuGeneralProgress frmGeneralProgressSettings"})
         open(*mainWindow, path.split(u' '));
 }

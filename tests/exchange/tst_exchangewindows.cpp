@@ -1,11 +1,14 @@
-// Exporting as a person does it.
+// Exporting and checking as a person does it.
 #include "app/frmMain.h"
 #include "dayjournal.h"
+#include "exchange/frmCheckJournal.h"
 #include "exchange/frmExport.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QDateEdit>
 #include <QDir>
+#include <QLabel>
 #include <QProgressBar>
 #include <QRadioButton>
 
@@ -20,7 +23,9 @@ private slots:
     void exportsAPeriod();
     void refusesWhatCantBe();
     void cancels();
-    void damagedFileIsTold();
+    void soundJournalIsSaidToBe();
+    void listsAndCopiesFindings();
+    void damagedFileIsListed();
 
 private:
     void openExport(const std::function<void(QWidget &)> &steps)
@@ -29,6 +34,18 @@ private:
         window.show();
         inDialog(
             "frmExport", [&] { control<QAction>(window, "mnuExport").trigger(); }, steps);
+    }
+    void openCheck(const std::function<void(QWidget &)> &steps)
+    {
+        frmMain window(*m_journal->session, m_journal->messages);
+        window.show();
+        m_journal->messages.said.clear();
+        inDialog(
+            "frmCheckJournal", [&] { control<QAction>(window, "mnuCheckJournal").trigger(); },
+            [&](QWidget &check) {
+                QTRY_VERIFY(!control<QProgressBar>(check, "prgCheck").isVisible());
+                steps(check);
+            });
     }
     QStringList outNames() const
     {
@@ -129,7 +146,40 @@ void tst_exchangewindows::cancels()
     }
 }
 
-void tst_exchangewindows::damagedFileIsTold()
+void tst_exchangewindows::soundJournalIsSaidToBe()
+{
+    openCheck([this](QWidget &window) {
+        const QString said = control<QLabel>(window, "lblResult").text();
+        QVERIFY(said.startsWith("The journal is sound"));
+        QVERIFY(said.contains("the references from record to record"));
+        QCOMPARE(shown(window), QStringList());
+        press(window, "btnCopy");
+        QVERIFY(QGuiApplication::clipboard()->text().startsWith("The journal is sound"));
+        QVERIFY(m_journal->messages.said.empty());
+    });
+}
+
+void tst_exchangewindows::listsAndCopiesFindings()
+{
+    m_journal->exec("insert into MealConsume values (-1, 1, 46225, 1.5, 'viel');"
+                    "update UserNote set DateTo = 46230 where UserNoteID = 1");
+    openCheck([](QWidget &window) {
+        QVERIFY(control<QLabel>(window, "lblResult").text().startsWith("Findings: 4."));
+        const QStringList rows = shown(window);
+        QCOMPARE(rows.size(), 4);
+        QVERIFY(rows[0].startsWith("22.07.26|Meals consumed: "));
+        QVERIFY(rows[0].endsWith("|The time is outside the day: 1,5 of a day."));
+        QCOMPARE(rows[2], u"20.07.26|Notes: within|It shares days with a note before it."_qs);
+        QVERIFY(control<QWidget>(window, "lvwList").hasFocus());
+        pressKey(Qt::Key_C, Qt::ControlModifier);
+        const QString copied = QGuiApplication::clipboard()->text();
+        QVERIFY(copied.endsWith("\t" + rows[3].section(u'|', 2) + u'\n'));
+        QCOMPARE(copied.count(u'\t'), 8);
+    });
+    QCOMPARE(m_journal->row("select DateTo from UserNote where UserNoteID = 1"), u"46230"_qs);
+}
+
+void tst_exchangewindows::damagedFileIsListed()
 {
     m_journal->exec("insert into Body values (-1, 46225, 70, 90, 80, 95, 'M')");
     const qint64 page =
@@ -137,6 +187,10 @@ void tst_exchangewindows::damagedFileIsTold()
     QByteArray bytes = fileBytes(m_journal->path());
     setFileBytes(m_journal->path(), bytes.replace((page - 1) * 4096, 4096, QByteArray(4096, 'x')));
     m_journal->open(QLocale(u"de_DE"_qs));
+    openCheck([this](QWidget &window) {
+        QVERIFY(!shown(window).filter(u"damaged"_qs).isEmpty());
+        QVERIFY(m_journal->messages.said.empty());
+    });
     openExport([this](QWidget &window) {
         type(window, "txtFolder", m_out->path());
         press(window, "btnOK");
