@@ -59,6 +59,7 @@ private:
     void takeStep(Direction direction, const QString &refusal);
     void showStep(const UndoHistory::Step &step);
     void quickAdd();
+    void backUp();
     void showToday();
     void showPreviousDay();
     void showNextDay();

@@ -73,6 +73,8 @@ std::vector<frmMain::Command> frmMain::commands()
          {},
          Qt::CTRL | Qt::Key_Left},
         {u"mnuNextDay"_s, tr("&Next Day"), &frmMain::showNextDay, {}, Qt::CTRL | Qt::Key_Right},
+        {u"mnuSepBackup"_s},
+        {u"mnuBackUp"_s, tr("&Back Up\u2026"), &frmMain::backUp},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,
