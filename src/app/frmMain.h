@@ -60,6 +60,7 @@ private:
     void showStep(const UndoHistory::Step &step);
     void quickAdd();
     void backUp();
+    void restoreBackup();
     void showToday();
     void showPreviousDay();
     void showNextDay();

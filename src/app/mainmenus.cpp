@@ -75,6 +75,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuNextDay"_s, tr("&Next Day"), &frmMain::showNextDay, {}, Qt::CTRL | Qt::Key_Right},
         {u"mnuSepBackup"_s},
         {u"mnuBackUp"_s, tr("&Back Up\u2026"), &frmMain::backUp},
+        {u"mnuRestore"_s, tr("Re&store\u2026"), &frmMain::restoreBackup},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,
