@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class ElidedLabel;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -22,6 +23,8 @@ public:
     void setSampleNoticeVisible(bool visible);
     /// Names the date's day of the week beside it, by the abbreviation where there is no room.
     void setWeekday(const QString &name, const QString &abbreviation);
+    /// Tells of backups beside the weekday, where there is room.
+    void setBackupNotice(const QString &text);
     double pixelsPerTwip() const;
 
     QLabel *Label1;
@@ -30,6 +33,7 @@ public:
     QPushButton *btnNext;
     QLineEdit *txtDate;
     QLabel *lblWeekday;
+    ElidedLabel *lblBackup;
     QPushButton *btnHelp;
     QPushButton *btnDeleteSample;
 
@@ -44,6 +48,7 @@ private:
     QWidget *makeSampleNotice();
     void layOut();
     void placeWeekday();
+    void placeBackupNotice();
 
     QWidget *m_sampleNotice;
     QString m_weekday;

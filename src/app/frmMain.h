@@ -61,6 +61,8 @@ private:
     void quickAdd();
     void backUp();
     void restoreBackup();
+    void openBackupSettings();
+    void showBackupState();
     void showToday();
     void showPreviousDay();
     void showNextDay();

@@ -76,6 +76,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuSepBackup"_s},
         {u"mnuBackUp"_s, tr("&Back Up\u2026"), &frmMain::backUp},
         {u"mnuRestore"_s, tr("Re&store\u2026"), &frmMain::restoreBackup},
+        {u"mnuBackupSettings"_s, tr("Backup Settin&gs\u2026"), &frmMain::openBackupSettings},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

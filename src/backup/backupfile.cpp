@@ -1,6 +1,7 @@
 #include "backup/backupfile.h"
 
 #include "backup/backuperror.h"
+#include "backup/integrity.h"
 #include "data/pendingrollback.h"
 #include "data/schema.h"
 
@@ -169,13 +170,15 @@ void BackupFile::requireKnownTables()
 
 void BackupFile::requireWhole()
 {
+    bool isSound = false;
     try {
-        SQLite::Statement integrity(m_connection->database(), "PRAGMA integrity_check(1)");
-        if (!integrity.executeStep() || integrity.getColumn(0).getString() != "ok")
-            throw StoreError(StoreError::Kind::Damaged, "the file is not whole");
-    } catch (const StoreError &) {
-        throw BackupError(BackupError::tr("It is damaged."));
+        isSound = isWhole(*m_connection);
+    } catch (const StoreError &error) {
+        if (error.kind() != StoreError::Kind::Damaged)
+            throw;
     }
+    if (!isSound)
+        throw BackupError(BackupError::tr("It is damaged."));
     SQLite::Statement references(m_connection->database(), "PRAGMA foreign_key_check");
     if (references.executeStep())
         throw BackupError(

@@ -90,11 +90,22 @@ std::vector<Backup> backupsIn(const QString &place)
     return backups;
 }
 
-void removeOldBackups(const QString &place, int kept, const QDateTime &now)
+bool isBackupDue(const QString &place, const QDateTime &now)
+{
+    constexpr int week = 7;
+    const std::vector<Backup> backups = backupsIn(place);
+    return std::none_of(backups.begin(), backups.end(), [&](const Backup &backup) {
+        return backup.time <= now && now < backup.time.addDays(week);
+    });
+}
+
+void removeOldBackups(const QString &place, int kept, const QDateTime &now, const QString &justMade)
 {
     const std::vector<Backup> backups = backupsIn(place);
-    for (size_t i = size_t(std::max(kept, 1)); i < backups.size(); ++i)
-        removeBackup(backups[i].folder);
+    for (size_t i = size_t(std::max(kept, 1)); i < backups.size(); ++i) {
+        if (backups[i].folder != justMade)
+            removeBackup(backups[i].folder);
+    }
     for (const QString &name : foldersIn(place)) {
         if (!name.endsWith(unfinishedSuffix()))
             continue;

@@ -26,6 +26,12 @@ QString unfinishedSuffix();
 /// The finished backups in a folder, the newest first; links are none.
 std::vector<Backup> backupsIn(const QString &place);
 
+/// Whether a week has passed since the last one. One of a time to come, of a clock that was wrong,
+/// doesn't count.
+bool isBackupDue(const QString &place, const QDateTime &now);
+
 /// Removes all but the newest so many, and what was left unfinished for a day. A folder that holds
-/// anything besides the two files of a backup stays.
-void removeOldBackups(const QString &place, int kept, const QDateTime &now);
+/// anything besides the two files of a backup stays, and so does the one that was just made, which
+/// is none of the newest where the clock was wrong before.
+void removeOldBackups(const QString &place, int kept, const QDateTime &now,
+                      const QString &justMade = {});

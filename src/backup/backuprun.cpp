@@ -6,6 +6,7 @@
 #include "ui/attempt.h"
 #include "ui/messages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QProgressDialog>

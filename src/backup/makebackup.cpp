@@ -2,6 +2,7 @@
 
 #include "backup/backuperror.h"
 #include "backup/backupplace.h"
+#include "backup/integrity.h"
 #include "data/connection.h"
 #include "data/schema.h"
 #include "session/installation.h"
@@ -12,6 +13,8 @@
 
 #include <SQLiteCpp/Backup.h>
 #include <sqlite3.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -114,13 +117,10 @@ bool copyPages(Connection &from, Connection &to, const BackupProgress &progress)
 void verifyCopy(const QString &path, const std::vector<qint64> &counts)
 {
     Connection copy(path);
-    guarded([&] {
-        SQLite::Statement check(copy.database(), "PRAGMA integrity_check(1)");
-        if (!check.executeStep() || check.getColumn(0).getString() != "ok")
-            throw BackupError(BackupError::tr(
-                "The copy is not whole, since the journal's file is damaged. The help page \"Your "
-                "data\" says how to go on."));
-    });
+    if (!isWhole(copy))
+        throw BackupError(BackupError::tr(
+            "The copy is not whole, since the journal's file is damaged. The help page \"Your "
+            "data\" says how to go on."));
     if (rowCounts(copy) != counts)
         throw BackupError(BackupError::tr("The copy does not hold what the journal holds."));
 }

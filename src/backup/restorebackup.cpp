@@ -4,7 +4,7 @@
 #include "session/session.h"
 
 #include <algorithm>
-#include <ranges>
+#include <array>
 
 namespace {
 
@@ -46,7 +46,8 @@ void raiseCounters(Connection &journal, Connection &backup)
     for (const schema::Column &counter : counters) {
         const std::string name = counter.name();
         forEachRow(backup, "select " + name + " from Common", [&](const std::vector<Value> &row) {
-            journal.write("update Common set " + name + " = max(" + name + ", ?)", row);
+            const std::string greater = "max(" + name + ", ?)";
+            journal.write("update Common set " + name + " = " + greater, row);
         });
     }
     forEachRow(backup, "select name, seq from sqlite_sequence", [&](const std::vector<Value> &row) {
@@ -61,10 +62,10 @@ void raiseCounters(Connection &journal, Connection &backup)
 void deleteRows(Connection &journal)
 {
     // Those that refer to others first.
-    for (const schema::Table *table : schema::tables | std::views::reverse) {
+    std::for_each(schema::tables.rbegin(), schema::tables.rend(), [&](const schema::Table *table) {
         if (!isCommon(table))
             journal.write(std::string("delete from ") + table->name(), std::vector<Value>());
-    }
+    });
 }
 
 void copyRows(Connection &journal, Connection &backup, const schema::Table &table)

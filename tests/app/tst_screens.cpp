@@ -107,8 +107,9 @@ void tst_screens::everythingIsWithinReach()
           "mnuMeasurement frmMeasurements btnNotetNew frmUserNote", "mnuSetDate frmDate",
           "mnuMealCategories frmMealCategories", "mnuMeal frmMeals btnEdit frmMeal",
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
-          "mnuQuickAdd frmQuickAdd", "mnuRestore frmRestore", "mnuCommon frmCommon",
-          "mnuHelpAbout frmAbout", "mnuGeneralProgress frmGeneralProgressSettings"})
+          "mnuQuickAdd frmQuickAdd", "mnuRestore frmRestore", "mnuBackupSettings frmBackupSettings",
+          "mnuCommon frmCommon", "mnuHelpAbout frmAbout",
+          "mnuGeneralProgress frmGeneralProgressSettings"})
         open(*mainWindow, path.split(u' '));
 }
 
