@@ -28,6 +28,7 @@ DayView::DayView(QWidget *parent)
     , btnNext(new QPushButton(tr("&Next"), this))
     , txtDate(new QLineEdit(this))
     , lblWeekday(new QLabel(this))
+    , lblBackup(new ElidedLabel(this))
     , btnHelp(new QPushButton(tr("H&elp"), this))
     , lblTold(new ElidedLabel(this))
     , m_sampleNotice(makeSampleNotice())
@@ -40,6 +41,8 @@ DayView::DayView(QWidget *parent)
     txtDate->setObjectName(QStringLiteral("txtDate"));
     lblWeekday->setObjectName(QStringLiteral("lblWeekday"));
     lblWeekday->setTextFormat(Qt::PlainText);
+    lblBackup->setObjectName(QStringLiteral("lblBackup"));
+    lblBackup->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     btnHelp->setObjectName(QStringLiteral("btnHelp"));
     txtDate->setAccessibleName(tr("Current date"));
     txtDate->setReadOnly(true);
@@ -122,8 +125,28 @@ void DayView::placeWeekday()
     lblWeekday->setText(m_weekday);
     if (lblWeekday->sizeHint().width() > place.width())
         lblWeekday->setText(m_weekdayAbbreviation);
-    lblWeekday->setGeometry(place);
-    lblWeekday->setVisible(!txtDate->isHidden() && lblWeekday->sizeHint().width() <= place.width());
+    const int width = lblWeekday->sizeHint().width();
+    lblWeekday->setGeometry(place.left(), place.top(), width, place.height());
+    lblWeekday->setVisible(!txtDate->isHidden() && width <= place.width());
+    placeBackupNotice();
+}
+
+void DayView::setBackupNotice(const QString &text)
+{
+    lblBackup->setText(text);
+    placeBackupNotice();
+}
+
+// Set off from the weekday, since it is about something else.
+void DayView::placeBackupNotice()
+{
+    const int gap = btnNext->x() - btnPrev->geometry().right() - 1;
+    QRect place = txtDate->geometry();
+    place.setLeft(lblWeekday->geometry().right() + 1 + 3 * gap);
+    place.setRight(btnHelp->x() - 1 - gap);
+    lblBackup->setGeometry(place);
+    lblBackup->setVisible(!lblWeekday->isHidden() && !lblBackup->text().isEmpty() &&
+                          place.width() >= lblBackup->minimumSizeHint().width());
 }
 
 double DayView::pixelsPerTwip() const

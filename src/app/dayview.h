@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class ElidedLabel;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -24,6 +25,8 @@ public:
     void setWeekday(const QString &name, const QString &abbreviation);
     /// Says beside the heading what was done, until it is called with an empty text.
     void tell(const QString &text);
+    /// Tells of backups beside the weekday, where there is room.
+    void setBackupNotice(const QString &text);
     double pixelsPerTwip() const;
 
     QLabel *Label1;
@@ -32,6 +35,7 @@ public:
     QPushButton *btnNext;
     QLineEdit *txtDate;
     QLabel *lblWeekday;
+    ElidedLabel *lblBackup;
     QPushButton *btnHelp;
     QPushButton *btnDeleteSample;
 
@@ -47,6 +51,7 @@ private:
     QWidget *makeBesideHeading();
     void layOut();
     void placeWeekday();
+    void placeBackupNotice();
 
     QLabel *lblTold;
     QWidget *m_sampleNotice;

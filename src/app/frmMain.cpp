@@ -491,6 +491,7 @@ void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     m_view->graph->setFocus();
+    QTimer::singleShot(0, this, &frmMain::showBackupState);
     QTimer::singleShot(0, this, &frmMain::tellMissing); // behind its message the window is seen
 }
 

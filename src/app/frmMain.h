@@ -62,6 +62,10 @@ private:
     void showStep(const UndoHistory::Step &step);
     void quickAdd();
     void composeMeal();
+    void backUp();
+    void restoreBackup();
+    void openBackupSettings();
+    void showBackupState();
     void showToday();
     void showPreviousDay();
     void showNextDay();

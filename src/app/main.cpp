@@ -25,5 +25,9 @@ int main(int argc, char **argv)
 
     const SystemClock clock;
     StartUp startUp({folder, clock, QLocale::system(), messages});
-    return startUp.run() ? Application::exec() : 1;
+    if (!startUp.run())
+        return 1;
+    const int result = Application::exec();
+    startUp.end();
+    return result;
 }

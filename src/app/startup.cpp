@@ -1,6 +1,9 @@
 #include "app/startup.h"
 
 #include "app/frmMain.h"
+#include "backup/backupplace.h"
+#include "backup/backupsettings.h"
+#include "backup/makebackup.h"
 #include "data/pendingrollback.h"
 #include "session/installation.h"
 #include "session/samplejournal.h"
@@ -9,7 +12,8 @@
 #include "ui/attempt.h"
 #include "ui/messages.h"
 
-#include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
 
 namespace {
 
@@ -19,9 +23,9 @@ QString tr(const char *text)
 }
 
 // Why a store that was cut short can't be undone, and what to do; empty where it can.
-QString rollbackAdvice(const QString &databasePath)
+QString rollbackAdvice(PendingRollback rollback)
 {
-    switch (examineRollback(databasePath)) {
+    switch (rollback) {
     case PendingRollback::None:
     case PendingRollback::Sound:
         return {};
@@ -73,20 +77,62 @@ bool StartUp::run()
     return true;
 }
 
+void StartUp::end()
+{
+    if (!m_mainWindow)
+        return;
+    Installation installation(m_settings.programFolder);
+    const BackupSettings settings = backupSettings(installation);
+    const QDateTime now = m_settings.clock.now();
+    if (!settings.isAutomatic || !isBackupDue(settings.place, now))
+        return;
+    QGuiApplication::sync(); // nobody has to look at a closed window meanwhile
+    BackupState state = backupState(installation);
+    try {
+        const QString made = makeBackup(installation.databasePath(), settings.place, now);
+        removeOldBackups(settings.place, settings.kept, now, made);
+        state = {now, {}};
+    } catch (const std::exception &error) {
+        const QString cause = causeOf(error);
+        state.failure = cause.isEmpty() ? QString::fromUtf8(error.what()) : cause;
+    }
+    keepBackupState(installation, state);
+}
+
+// Empty where there is none.
+QString StartUp::newestBackupAdvice() const
+{
+    const std::vector<Backup> backups =
+        backupsIn(backupSettings(Installation(m_settings.programFolder)).place);
+    if (backups.empty())
+        return {};
+    return tr("Your newest backup, of %1, is in the folder %2. To bring it back, move what there "
+              "is of Corvana.mdb and Corvana.mdb-journal out of the program folder, copy "
+              "Corvana.mdb from the backup into it, and start again.")
+        .arg(LocaleText(m_settings.locale).mediumDate(backups.front().time.date()),
+             QDir::toNativeSeparators(backups.front().folder));
+}
+
 bool StartUp::openDatabase()
 {
     const QString path = Installation(m_settings.programFolder).databasePath();
-    QString cause = rollbackAdvice(path);
+    const PendingRollback rollback = examineRollback(path);
+    QString cause = rollbackAdvice(rollback);
+    bool isLost = rollback == PendingRollback::Damaged;
     if (cause.isEmpty()) {
         try {
             m_data = std::make_unique<deData>(path);
             return true;
         } catch (const StoreError &error) {
             // A missing file counts as damaged, and of that the text below says enough.
+            isLost = error.kind() == StoreError::Kind::Damaged ||
+                     error.kind() == StoreError::Kind::Other;
             if (error.kind() != StoreError::Kind::Damaged)
                 cause = causeOf(error);
         }
     }
+    if (isLost)
+        cause = QStringList{cause, newestBackupAdvice()}.join(u'\n').trimmed();
     m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
                              tr("Can't access database. Please make sure the database file "
                                 "Corvana.mdb is present in the program folder."),

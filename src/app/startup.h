@@ -33,11 +33,15 @@ public:
 
     /// False where the program can't start; what stopped it has been said.
     bool run();
+    /// Once the windows are closed: makes the weekly backup. What keeps it from being made is told
+    /// at the next start.
+    void end();
     frmMain *mainWindow() const { return m_mainWindow.get(); }
     Session *session() const { return m_session.get(); }
 
 private:
     bool openDatabase();
+    QString newestBackupAdvice() const;
     void makeSession();
     bool runFirstStart();
     bool askForParameters(Installation &installation);

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -94,6 +95,11 @@ void ChangeRecorder::Ending::operator()(sqlite3_session *session) const
 void ChangeRecorder::begin(sqlite3 *database)
 {
     forget();
+    follow(database);
+}
+
+void ChangeRecorder::follow(sqlite3 *database)
+{
     sqlite3_session *session = nullptr;
     require(sqlite3session_create(database, "main", &session));
     m_session.reset(session);
@@ -109,13 +115,19 @@ void ChangeRecorder::capture()
     require(sqlite3session_changeset(m_session.get(), &size, &bytes));
     const auto release = qScopeGuard([bytes] { sqlite3_free(bytes); });
     const auto *first = static_cast<const char *>(bytes);
-    m_captured.assign(first, first + size);
+    if (size > 0)
+        m_captured.emplace_back(first, first + size);
+}
+
+void ChangeRecorder::divide(sqlite3 *database)
+{
+    capture();
+    follow(database);
 }
 
 void ChangeRecorder::keep()
 {
-    if (!m_captured.empty())
-        m_committed.push_back(std::move(m_captured));
+    std::move(m_captured.begin(), m_captured.end(), std::back_inserter(m_committed));
     forget();
 }
 

@@ -34,6 +34,9 @@ public:
     /// After the transaction has begun, and before it is committed. Both throw StoreError.
     void begin(sqlite3 *database);
     void capture();
+    /// In between: what was changed so far and what follows become changesets of their own, for
+    /// changes that can't be taken back row by row in any order.
+    void divide(sqlite3 *database);
     /// Once it is committed; what is rolled back is forgotten.
     void keep();
     void forget();
@@ -47,7 +50,9 @@ private:
         void operator()(sqlite3_session *session) const;
     };
 
+    void follow(sqlite3 *database);
+
     std::unique_ptr<sqlite3_session, Ending> m_session;
-    Changeset m_captured;
+    std::vector<Changeset> m_captured; ///< of the open transaction
     std::vector<Changeset> m_committed;
 };

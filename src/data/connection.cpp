@@ -116,6 +116,7 @@ std::unique_ptr<Connection> Connection::create(const QString &path)
 
 void Connection::open(const QString &path, int flags)
 {
+    m_path = path;
     m_database = std::make_unique<SQLite::Database>(enginePath(path), flags, busyTimeout);
     m_database->exec(keySettings);
     registerFunctions(m_database->getHandle());

@@ -8,6 +8,8 @@
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
 
+#include <QString>
+
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -84,6 +86,8 @@ public:
     /// The statement of this text, prepared once, without bindings.
     StatementUse prepared(const std::string &sql);
     SQLite::Database &database() { return *m_database; }
+    /// Of the file, as it was opened.
+    const QString &path() const { return m_path; }
     bool isInTransaction() const;
     /// Another number whenever another program has stored something meanwhile.
     qint64 dataVersion();
@@ -101,6 +105,7 @@ private:
     void checkTables();
     void checkWritable(const QString &path);
 
+    QString m_path;
     std::unique_ptr<SQLite::Database> m_database;
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_prepared;
     ChangeRecorder *m_recorder = nullptr;

@@ -19,7 +19,9 @@ StoreError::Kind kindOf(const SQLite::Exception &error)
     default:
         break;
     }
-    switch (error.getErrorCode()) {
+    // Of what is raised by hand the code may be an extended one itself.
+    constexpr int plainCode = 0xff;
+    switch (error.getErrorCode() & plainCode) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return StoreError::Kind::Busy;

@@ -1,13 +1,10 @@
 #include "session/inifile.h"
 
+#include "session/synchronizedfolder.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 using namespace Qt::Literals;
 
@@ -20,20 +17,6 @@ const QString generalSection = u"General"_s;
 QByteArray encoded(const QString &value)
 {
     return value.toUtf8().toPercentEncoding("!#$&'()*+,/:;=?@[]");
-}
-
-// Without it a power failure could bring the old file back, or none.
-void synchronizeFolder(const QString &folder)
-{
-#ifdef Q_OS_UNIX
-    const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-#else
-    Q_UNUSED(folder)
-#endif
 }
 
 } // namespace

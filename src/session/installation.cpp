@@ -16,7 +16,7 @@ constexpr char unwritable[] = "Corvana.ini can't be written in the program folde
 
 IniFile settingsIn(const QString &folder)
 {
-    return IniFile(QDir(folder).filePath(QStringLiteral("Corvana.ini")));
+    return IniFile(Installation(folder).settingsPath());
 }
 
 Installation::FirstStart firstStartIn(IniFile &settings)
@@ -38,6 +38,11 @@ Installation::Installation(const QString &programFolder)
 QString Installation::databasePath() const
 {
     return QDir(m_folder).filePath(QStringLiteral("Corvana.mdb"));
+}
+
+QString Installation::settingsPath() const
+{
+    return QDir(m_folder).filePath(QStringLiteral("Corvana.ini"));
 }
 
 QString Installation::helpPath() const
@@ -73,11 +78,17 @@ QString Installation::value(const QString &key) const
     return settings.value(key);
 }
 
-void Installation::setValue(const QString &key, const QString &value)
+bool Installation::setValue(const QString &key, const QString &value)
+{
+    return setValues({{key, value}});
+}
+
+bool Installation::setValues(const QMap<QString, QString> &values)
 {
     IniFile settings = settingsIn(m_folder);
     const bool isPending = firstStartIn(settings) == FirstStart::Pending;
-    settings.setValue(key, value);
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        settings.setValue(value.key(), value.value());
     settings.setValue(firstStartKey, isPending ? no : yes);
-    settings.write();
+    return settings.write();
 }

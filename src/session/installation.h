@@ -1,6 +1,7 @@
 // What the installation remembers outside the database.
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 /// Kept in Corvana.ini in the program's folder, beside the database: it outlives a replaced
@@ -11,7 +12,9 @@ class Installation
 public:
     explicit Installation(const QString &programFolder);
 
+    QString folder() const { return m_folder; }
     QString databasePath() const;
+    QString settingsPath() const;
     QString helpPath() const;
 
     enum class FirstStart
@@ -32,8 +35,10 @@ public:
     /// read.
     QString value(const QString &key) const;
     /// Keeps a value as well as it can: one that can't be written is not kept. What is known of
-    /// the first start stays known.
-    void setValue(const QString &key, const QString &value);
+    /// the first start stays known. False where it was not.
+    bool setValue(const QString &key, const QString &value);
+    /// Several at once.
+    bool setValues(const QMap<QString, QString> &values);
 
 private:
     QString m_folder;

@@ -1,6 +1,9 @@
 // Every store and every deletion of every window, with each of its writes, synchronizations, locks
 // and deletions failing in turn, and the program ending there.
 #include "app/frmMain.h"
+#include "backup/backupsettings.h"
+#include "backup/frmRestore.h"
+#include "backup/makebackup.h"
 #include "catalogue/frmExercise.h"
 #include "catalogue/frmExercises.h"
 #include "catalogue/frmMeal.h"
@@ -291,6 +294,26 @@ Action takingAStep(const char *name, const char *entry, const QString &refusal)
             }};
 }
 
+// Of a backup that holds a note more.
+Action restoring()
+{
+    return {"restoring a backup", u"The backup can't be restored"_s, [](Try &attempt) {
+                DayJournal &journal = attempt.journal;
+                const QString place = usualBackupPlace(installationOf(journal.data->Con));
+                QDir(place).removeRecursively();
+                journal.exec("insert into UserNote values (77, 46000, 46000, 'Backed up')");
+                makeBackup(journal.path(), place, journal.clock.now());
+                journal.exec("delete from UserNote where UserNoteID = 77");
+                frmRestore window(*journal.session, journal.messages);
+                inDialog(
+                    "frmRestore", [&] { window.exec(); },
+                    [&](QWidget &) {
+                        attempt.act([&] { press(window, "btnOK"); });
+                        QCOMPARE(window.isVisible(), attempt.isRefused());
+                    });
+            }};
+}
+
 std::vector<Action> allActions()
 {
     const Fields meal = {{"dcbMealCategory", u"Fruit"_s},
@@ -355,6 +378,7 @@ std::vector<Action> allActions()
         copyingAnEntry(),
         deletingTrialData(),
         movingTheSample(),
+        restoring(),
     };
 }
 

@@ -1,0 +1,36 @@
+// Brings a backup back.
+#pragma once
+
+#include "ui/formdialog.h"
+
+class ElidedLabel;
+class QListWidget;
+
+/// The backups that the program keeps, the newest first, or any other file; what the chosen one
+/// holds; and OK, which puts it in the place of the journal's contents.
+class frmRestore : public FormDialog
+{
+    Q_OBJECT
+
+public:
+    frmRestore(Session &session, Messages &messages, QWidget *parent = nullptr);
+
+protected:
+    void accept() override;
+
+private:
+    QLayout *makeForm();
+    void listBackups();
+    void pickOther();
+    void choose(const QString &path);
+    /// Reads the chosen file; why it can't be restored, empty where it can.
+    QString examine(QString &contents);
+    void restore();
+    void tellAll();
+
+    QListWidget *lstBackups;
+    QPushButton *btnOther;
+    ElidedLabel *lblFile;
+    QLabel *lblContents;
+    QString m_path; ///< of the file chosen; empty where none is
+};
