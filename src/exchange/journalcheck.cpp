@@ -217,17 +217,18 @@ private:
     void checkCounters(const QString &title)
     {
         for (const char *table : {"Body", "MealConsume", "ExercisePerform", "UserNote"}) {
-            const std::string key = std::string(table) + "ID";
-            SQLite::Statement counter(m_connection.database(),
-                                      "select Next" + key + ", (select max(" + key + ") from " +
-                                          table + " where " + key + " <= 2147483647) from Common");
+            const QString key = QLatin1String(table) + QLatin1String("ID");
+            const QString sql = QStringLiteral("select Next%1, (select max(%1) from %2"
+                                               " where %1 <= 2147483647) from Common")
+                                    .arg(key, QLatin1String(table));
+            SQLite::Statement counter(m_connection.database(), sql.toStdString());
             if (!counter.executeStep() || !counter.getColumn(0).isInteger() ||
                 counter.getColumn(1).getInt64() <= counter.getColumn(0).getInt64())
                 continue;
             add({}, title,
                 CheckTexts::tr("The counter %1 is at %2, but there is a record %3: new records may "
                                "be refused.")
-                    .arg(QString::fromStdString("Next" + key))
+                    .arg(QLatin1String("Next") + key)
                     .arg(counter.getColumn(0).getInt64())
                     .arg(counter.getColumn(1).getInt64()));
         }

@@ -143,6 +143,10 @@ void tst_journalcheck::eachFaultIsFoundOnce_data()
           "2026-07-22|Body measurements: record 1|The unit system is neither M nor I: m.");
     plant("update UserNote set DateTo = 46225 where UserNoteID = 1",
           "2026-07-22|Notes: b|It shares days with a note before it.");
+    plant("insert into UserNote values (-11, 46200, 46219, 'long'), (-12, 46201, 46202, 'd'),"
+          " (-13, 46210, 46210, 'e')",
+          "2026-06-28|Notes: d|It shares days with a note before it.\n"
+          "2026-07-07|Notes: e|It shares days with a note before it.");
     plant("update UserNote set DateTo = 46219 where UserNoteID = 1",
           "2026-07-17|Notes: a|It ends before it begins.");
     plant("update UserNote set DateTo = 'x' where UserNoteID = 1",
