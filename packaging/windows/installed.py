@@ -169,8 +169,11 @@ def installed_program(folder):
     gone("^Corvana$")
     stored = rows(folder, MEALS)
     check(stored == ["Banana|2"], f"stored is {stored}")
+    # The program has ended once its first backup is whole.
+    wait_for(lambda: list(folder.glob("backups/Corvana ????-??-?? ??-??-??/Corvana.mdb")),
+             "the first backup", 60)
     check(sorted(file.name for file in folder.iterdir()) == [
-        "Corvana.exe", "Corvana.hlp", "Corvana.ini", "Corvana.mdb", "LICENSE.txt",
+        "Corvana.exe", "Corvana.hlp", "Corvana.ini", "Corvana.mdb", "LICENSE.txt", "backups",
         "uninstall.exe"], f"in the folder are {list(folder.iterdir())}")
     return program, stored
 
@@ -228,7 +231,7 @@ def removed(folder):
     picture("removed")
     keys("Return")
     running.wait(60)
-    wait_for(lambda: not folder.exists(), "the folder removed", 30)
+    check([file.name for file in folder.iterdir()] == ["backups"], "the backups are gone, too")
 
 
 def unpacked():

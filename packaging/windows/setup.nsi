@@ -110,7 +110,8 @@ Section "Uninstall"
   ${If} ${FileExists} "$INSTDIR\Corvana.mdb"
     MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 \
       "Remove your journal too?$\r$\n$\r$\n$INSTDIR\Corvana.mdb holds everything that you have \
-      recorded. It can't be brought back." /SD IDNO IDNO keep
+      recorded. It can't be brought back but from the folder backups in $INSTDIR, which stays." \
+      /SD IDNO IDNO keep
     Delete "$INSTDIR\Corvana.mdb"
     Delete "$INSTDIR\Corvana.mdb-journal"
     Delete "$INSTDIR\Corvana.ini"

@@ -44,11 +44,11 @@ void raiseCounters(Connection &journal, Connection &backup)
 {
     WriteTransaction transaction(journal);
     for (const schema::Column &counter : counters) {
-        const std::string name = counter.name();
-        forEachRow(backup, "select " + name + " from Common", [&](const std::vector<Value> &row) {
-            const std::string greater = "max(" + name + ", ?)";
-            journal.write("update Common set " + name + " = " + greater, row);
-        });
+        const QString name = QString::fromLatin1(counter.name());
+        const QString raise = QStringLiteral("update Common set %1 = max(%1, ?)").arg(name);
+        const QString select = QStringLiteral("select %1 from Common").arg(name);
+        forEachRow(backup, select.toStdString(),
+                   [&](const std::vector<Value> &row) { journal.write(raise.toStdString(), row); });
     }
     forEachRow(backup, "select name, seq from sqlite_sequence", [&](const std::vector<Value> &row) {
         journal.write("insert into sqlite_sequence (name, seq) select ?1, 0 where not exists"
