@@ -26,7 +26,8 @@ public:
         setObjectName(QStringLiteral("dlgBackupPlace"));
         setFileMode(Directory);
         setOption(ShowDirsOnly);
-        setDirectory(QDir(place).exists() ? place : QDir::homePath());
+        const bool isThere = !place.isEmpty() && QDir(place).exists();
+        setDirectory(isThere ? place : QDir::homePath());
     }
 };
 

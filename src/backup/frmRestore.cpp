@@ -110,8 +110,7 @@ void frmRestore::pickOther()
     dialog.setObjectName(u"dlgOpenBackup"_s);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({tr("Journals (*.mdb)"), tr("All files (*)")});
-    if (!m_path.isEmpty())
-        dialog.setDirectory(QFileInfo(m_path).absolutePath());
+    dialog.setDirectory(m_path.isEmpty() ? QDir::homePath() : QFileInfo(m_path).absolutePath());
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString path = dialog.selectedFiles().constFirst();

@@ -38,6 +38,9 @@ frmExport::frmExport(Session &session, Messages &messages, QWidget *parent)
 {
     makeControls();
     setForm(makeForm());
+    // Only now that each pair has a frame of its own: beside each other they would exclude all.
+    optWhole->setChecked(true);
+    optPlain->setChecked(true);
     btnOK->setText(tr("E&xport"));
     makeChecks();
     focusFirstField();
@@ -73,8 +76,6 @@ void frmExport::makeControls()
     prgExport->setSizePolicy(policy);
     prgExport->hide();
 
-    optWhole->setChecked(true);
-    optPlain->setChecked(true);
     for (QDateEdit *picker : {dtpDateFrom, dtpDateTo}) {
         picker->setEnabled(false);
         connect(optPeriod, &QRadioButton::toggled, picker, &QWidget::setEnabled);

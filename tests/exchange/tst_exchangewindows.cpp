@@ -69,6 +69,8 @@ void tst_exchangewindows::exportsAPeriod()
 {
     openExport([this](QWidget &window) {
         QVERIFY(!control<QWidget>(window, "dtpDateFrom").isEnabled());
+        for (const char *usual : {"optWhole", "optPlain"})
+            QVERIFY2(control<QRadioButton>(window, usual).isChecked(), usual);
         control<QRadioButton>(window, "optPeriod").click();
         typeInto(control<QDateEdit>(window, "dtpDateFrom"), u"20.7.26"_qs);
         typeInto(control<QDateEdit>(window, "dtpDateTo"), u"22.7.26"_qs);
