@@ -185,10 +185,11 @@ void frmRestore::restore()
     tellAll();  // refused at the very end, it may have been stored
     if (!isRestored)
         return;
-    messages().information(this, tr("The backup is restored. The journal as it was before is "
-                                    "backed up in the folder %1")
-                                     .arg(QDir::toNativeSeparators(kept)));
-    QDialog::accept();
+    QDialog::accept(); // first, or the focus would be given back to a window that goes, too
+    messages().information(parentWidget(),
+                           tr("The backup is restored. The journal as it was before is "
+                              "backed up in the folder %1")
+                               .arg(QDir::toNativeSeparators(kept)));
 }
 
 void frmRestore::tellAll()

@@ -202,9 +202,10 @@ void frmExport::accept()
         },
         tr("The journal can't be exported"));
     if (folder) {
+        FormDialog::accept(); // first, or the focus would be given back to a window that goes, too
         messages().information(
-            this, tr("The journal has been exported to %1").arg(QDir::toNativeSeparators(*folder)));
-        FormDialog::accept();
+            parentWidget(),
+            tr("The journal has been exported to %1").arg(QDir::toNativeSeparators(*folder)));
         return;
     }
     if (isDone)
