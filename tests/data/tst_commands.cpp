@@ -164,17 +164,20 @@ private slots:
     {
         using namespace commands;
         for (const Command *command :
-             {&MealForCategory, &MealAll, &MealConsumeSorted, &ExercisePerformSorted,
-              &DaysWithEntries, &BodySorted, &BodyCheck, &UserNoteSorted, &UserNoteCheck,
-              &chkMinMaxdate, &chkCaloriesDays, &GPBody, &GPCalories, &GPNotes}) {
+             {&MealForCategory, &MealAll, &MealConsumeSorted, &ExercisePerformSorted, &RecentMeals,
+              &RecentActivities, &DaysWithEntries, &BodySorted, &BodyCheck, &UserNoteSorted,
+              &UserNoteCheck, &chkMinMaxdate, &chkCaloriesDays, &GPBody, &GPCalories, &GPNotes}) {
             // Two walk the notes in their order rather than sort them: their index holds both
-            // days, so that only the notes found are read. One walks all meals by their names.
-            const bool walks =
-                command == &UserNoteSorted || command == &GPNotes || command == &MealAll;
+            // days, so that only the notes found are read. One walks all meals by their names, two
+            // the latest entries.
+            const bool walks = command == &UserNoteSorted || command == &GPNotes ||
+                               command == &MealAll || command == &RecentMeals ||
+                               command == &RecentActivities;
             const std::string explain = std::string("explain query plan ") + command->sql;
             for (const QString &line : m_journal->rows(explain.c_str())) {
                 const QString step = line.section(u'|', 3);
                 const bool scans = step.startsWith(u"SCAN "_qs) && !step.contains(u"subquery"_qs);
+                QVERIFY2(!walks || !step.contains(u"TEMP B-TREE"_qs), qPrintable(step));
                 QVERIFY2(!scans || (walks && step.contains(u" INDEX "_qs)), qPrintable(step));
             }
         }

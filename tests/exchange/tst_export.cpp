@@ -6,7 +6,6 @@
 #include "progress/progressseries.h"
 
 #include <QRandomGenerator>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <cmath>
@@ -84,7 +83,6 @@ private slots:
     void cancelledLeavesNothing();
     void refusedLeavesNothing();
     void diskFull();
-    void sampleJournalIsExported();
 };
 
 void tst_export::exactBytes()
@@ -490,25 +488,6 @@ void tst_export::diskFull()
 #else
     QSKIP("no limit on files here");
 #endif
-}
-
-void tst_export::sampleJournalIsExported()
-{
-    ExportJournal journal;
-    journal.data.reset();
-    journal.session.reset();
-    QFile::remove(journal.path());
-    QVERIFY(QFile::copy(QStringLiteral(CORVANA_DELIVERED_DATABASE), journal.path()));
-    journal.open(QLocale(u"de_DE"_qs));
-    const QList<QStringList> meals = parsed(journal.exported("MealConsume.csv"));
-    QVERIFY(meals.size() > 50);
-    const QRegularExpression time(u"^\\d\\d:\\d\\d$"_qs);
-    for (qsizetype row = 1; row < meals.size(); ++row) {
-        QVERIFY2(time.match(cellOf(meals, row, "ConsumeTime")).hasMatch(),
-                 qPrintable(cellOf(meals, row, "ConsumeTime")));
-        QVERIFY(cellOf(meals, row, "Meal").size() > 1);
-        QVERIFY(cellOf(meals, row, "MealCategory").size() > 1);
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_export)
