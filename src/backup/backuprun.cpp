@@ -5,11 +5,11 @@
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/messages.h"
+#include "ui/progressbox.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QProgressDialog>
 
 namespace {
 
@@ -35,18 +35,11 @@ public:
 
 QString runBackup(QWidget *window, const Session &session, const QString &place)
 {
-    constexpr int moment = 500; // milliseconds
-    QProgressDialog dialog(BackupPlaceDialog::tr("Backing up the journal\u2026"),
-                           BackupPlaceDialog::tr("&Cancel"), 0, 100, window);
-    dialog.setObjectName(QStringLiteral("dlgBackupProgress"));
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.setMinimumDuration(moment);
-    dialog.setValue(0);
+    ProgressBox progress(window, QStringLiteral("dlgBackupProgress"),
+                         BackupPlaceDialog::tr("Backing up the journal\u2026"));
     const QDateTime now = session.clock().now();
-    QString folder = makeBackup(session.data().Con.path(), place, now, [&](int percent) {
-        dialog.setValue(percent);
-        return !dialog.wasCanceled();
-    });
+    QString folder = makeBackup(session.data().Con.path(), place, now,
+                                [&](int percent) { return progress.advance(percent); });
     if (!folder.isEmpty()) {
         Installation installation = installationOf(session.data().Con);
         keepBackupState(installation, {now, {}});

@@ -10,6 +10,7 @@
 #include "ui/attempt.h"
 #include "ui/elidedlabel.h"
 #include "ui/messages.h"
+#include "ui/progressbox.h"
 
 #include <QApplication>
 #include <QDir>
@@ -171,18 +172,23 @@ void frmRestore::restore()
 {
     const QString place = backupSettings(installationOf(session().data().Con)).place;
     QString kept;
+    bool isCancelled = false;
     const auto replace = [&] {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
         BackupFile file(m_path); // anew: it may be another one since it was shown
         kept = runBackup(this, session(), place);
-        if (!kept.isEmpty())
-            restoreBackup(session(), file.connection(), tr("Restoring a Backup"));
+        if (kept.isEmpty())
+            return; // cancelled before anything was changed
+        ProgressBox progress(this, u"dlgRestoreProgress"_s, tr("Restoring the backup\u2026"));
+        isCancelled = !restoreBackup(session(), file.connection(), tr("Restoring a Backup"),
+                                     [&](int percent) { return progress.advance(percent); });
     };
     const bool isRestored = attempt(this, messages(), replace, tr("The backup can't be restored"));
-    if (kept.isEmpty())
-        return; // ended before anything was changed
-    tellAll();  // refused at the very end, it may have been stored
+    if (isCancelled)
+        messages().information(this,
+                               tr("The restoring was cancelled. The journal is as it was before."));
+    if (kept.isEmpty() || isCancelled)
+        return;
+    tellAll(); // refused at the very end, it may have been stored
     if (!isRestored)
         return;
     QDialog::accept(); // first, or the focus would be given back to a window that goes, too

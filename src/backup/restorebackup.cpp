@@ -59,28 +59,95 @@ void raiseCounters(Connection &journal, Connection &backup)
     transaction.commit();
 }
 
-void deleteRows(Connection &journal)
+struct Cancelled
 {
-    // Those that refer to others first.
-    std::for_each(schema::tables.rbegin(), schema::tables.rend(), [&](const schema::Table *table) {
-        if (!isCommon(table))
-            journal.write(std::string("delete from ") + table->name(), std::vector<Value>());
-    });
-}
+};
 
-void copyRows(Connection &journal, Connection &backup, const schema::Table &table)
+/// The rows of the journal go, and those of the backup come.
+class Replacing
 {
-    std::string columns;
-    std::string marks;
-    for (const schema::Column &column : table) {
-        columns += (columns.empty() ? "" : ", ") + std::string(column.name());
-        marks += marks.empty() ? "?" : ", ?";
+public:
+    Replacing(Connection &journal, Connection &backup, const RestoreProgress &progress)
+        : m_journal(journal)
+        , m_backup(backup)
+        , m_progress(progress)
+        , m_total(rowCount(journal) + rowCount(backup))
+    {
     }
-    const std::string insert =
-        std::string("insert into ") + table.name() + " (" + columns + ") values (" + marks + ")";
-    forEachRow(backup, "select " + columns + " from " + table.name(),
-               [&](const std::vector<Value> &row) { journal.write(insert, row); });
-}
+
+    void deleteRows()
+    {
+        // Those that refer to others first.
+        std::for_each(schema::tables.rbegin(), schema::tables.rend(),
+                      [this](const schema::Table *table) {
+                          if (!isCommon(table))
+                              deleteRowsOf(*table);
+                      });
+    }
+
+    void copyRows()
+    {
+        for (const schema::Table *table : schema::tables) {
+            if (!isCommon(table))
+                copyRowsOf(*table);
+        }
+    }
+
+private:
+    static constexpr int rowsAtOnce = 500;
+
+    static qint64 rowCount(Connection &connection)
+    {
+        qint64 count = 0;
+        for (const schema::Table *table : schema::tables)
+            forEachRow(connection, std::string("select count(*) from ") + table->name(),
+                       [&](const std::vector<Value> &row) { count += qint64(row[0].toDouble()); });
+        return count;
+    }
+
+    void deleteRowsOf(const schema::Table &table)
+    {
+        const std::string name = table.name();
+        const std::string some = "delete from " + name + " where rowid in (select rowid from " +
+                                 name + " limit " + std::to_string(rowsAtOnce) + ")";
+        while (const int deleted = m_journal.write(some, std::vector<Value>()))
+            advance(deleted);
+    }
+
+    void copyRowsOf(const schema::Table &table)
+    {
+        std::string columns;
+        std::string marks;
+        for (const schema::Column &column : table) {
+            columns += (columns.empty() ? "" : ", ") + std::string(column.name());
+            marks += marks.empty() ? "?" : ", ?";
+        }
+        const std::string insert = std::string("insert into ") + table.name() + " (" + columns +
+                                   ") values (" + marks + ")";
+        forEachRow(m_backup, "select " + columns + " from " + table.name(),
+                   [&](const std::vector<Value> &row) {
+                       m_journal.write(insert, row);
+                       advance(1);
+                   });
+    }
+
+    void advance(int rows)
+    {
+        m_done += rows;
+        if (!m_progress || m_done < m_next)
+            return;
+        m_next = m_done + rowsAtOnce;
+        if (!m_progress(int(100 * m_done / m_total)))
+            throw Cancelled();
+    }
+
+    Connection &m_journal;
+    Connection &m_backup;
+    const RestoreProgress &m_progress;
+    const qint64 m_total;
+    qint64 m_done = 0;
+    qint64 m_next = 0;
+};
 
 void copyParameters(Connection &journal, Connection &backup)
 {
@@ -96,21 +163,23 @@ void copyParameters(Connection &journal, Connection &backup)
 
 } // namespace
 
-void restoreBackup(Session &session, Connection &backup, const QString &description)
-{
+bool restoreBackup(Session &session, Connection &backup, const QString &description,
+                   const RestoreProgress &progress)
+try {
     Connection &journal = session.data().Con;
     raiseCounters(journal, backup);
     const UndoHistory::Recording recording(session.history(), description, session.currentDate());
     WriteTransaction transaction(journal);
-    deleteRows(journal);
+    Replacing replacing(journal, backup, progress);
+    replacing.deleteRows();
     // Taken back in two parts, too: while the one's rows are in the way of the other's, names that
     // have changed places could not be put back.
     if (ChangeRecorder *recorder = journal.recorder())
         recorder->divide(journal.database().getHandle());
-    for (const schema::Table *table : schema::tables) {
-        if (!isCommon(table))
-            copyRows(journal, backup, *table);
-    }
+    replacing.copyRows();
     copyParameters(journal, backup);
     transaction.commit();
+    return true;
+} catch (const Cancelled &) {
+    return false;
 }

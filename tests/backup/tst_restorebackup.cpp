@@ -27,6 +27,7 @@ private slots:
                    u"/Corvana.mdb"_s;
     }
     void goesThereAndBack();
+    void endedInBetweenItChangesNothing();
     void countersNeverGoBack();
     void tellsWhatItHolds();
     void refusesWhatIsNoBackup_data();
@@ -94,6 +95,33 @@ void tst_restorebackup::goesThereAndBack()
     }
     QCOMPARE(m_journal->rows("PRAGMA foreign_key_check"), QStringList());
     QCOMPARE(m_journal->row("PRAGMA integrity_check"), u"ok"_s);
+}
+
+// While rows go, and while others come.
+void tst_restorebackup::endedInBetweenItChangesNothing()
+{
+    m_journal->exec(
+        "with recursive n(i) as (select 10 union all select i + 1 from n where i < 1490)"
+        " insert into UserNote select i, i, i, 'x' from n");
+    const QStringList before = contents();
+    BackupFile file(m_backup);
+    for (const int calls : {1, 2, 3}) {
+        int left = calls;
+        int last = -1;
+        const bool isDone =
+            restoreBackup(*m_journal->session, file.connection(), u"Restoring"_s, [&](int percent) {
+                const bool rises = percent > last || left == calls;
+                last = percent;
+                return rises && --left > 0;
+            });
+        QVERIFY(!isDone);
+        QVERIFY2(left == 0, qPrintable(u"%1 of %2"_s.arg(left).arg(calls)));
+        QVERIFY(!m_journal->data->Con.isInTransaction());
+        QCOMPARE(contents(), before);
+        QVERIFY(!m_journal->session->history().next(Direction::Backward));
+    }
+    restore(m_backup);
+    QCOMPARE(m_journal->row("select count(*) from UserNote"), u"1"_s);
 }
 
 void tst_restorebackup::countersNeverGoBack()
