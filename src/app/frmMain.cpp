@@ -11,6 +11,7 @@
 #include "chart/TrellumGraph.h"
 #include "exchange/frmCheckJournal.h"
 #include "exchange/frmExport.h"
+#include "goals/frmGoals.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
@@ -53,6 +54,14 @@ int chartFigure(double value)
 {
     constexpr double limit = std::numeric_limits<int>::max();
     return static_cast<int>(qBound(-limit, value, limit));
+}
+
+std::optional<daychart::Budget> budgetOf(const Goals &goals)
+{
+    if (!goals.budget)
+        return std::nullopt;
+    return daychart::Budget{goals.budget->kind == DailyBudget::Kind::BurnLessDeficit,
+                            goals.budget->calories};
 }
 
 } // namespace
@@ -115,6 +124,7 @@ void frmMain::makeConnections()
     connect(m_nextMinute, &QTimer::timeout, this, &frmMain::showNow);
     connect(&m_session, &Session::dayChanged, this, &frmMain::followDay);
     connect(&m_session, &Session::recordsChanged, this, &frmMain::followRecords);
+    connect(&m_session, &Session::goalsChanged, this, &frmMain::redraw);
 }
 
 void frmMain::LoadGraph()
@@ -139,6 +149,7 @@ void frmMain::LoadGraph()
     m_view->tell({});
     graph.clear();
     graph.setBackgroundRate(m_session.parameters().metabolicRate / 60);
+    graph.setBudget(budgetOf(goalsOf(installationOf(m_session.data().Con))));
     for (; !meals.isEof(); meals.moveNext())
         graph.addMeal(meals.integer(schema::MealConsume::MealConsumeID),
                       meals.time(schema::MealConsume::ConsumeTime),
@@ -252,6 +263,11 @@ void frmMain::quickAdd()
 void frmMain::composeMeal()
 {
     frmComposeMeal(m_session, m_messages, this).exec();
+}
+
+void frmMain::openGoals()
+{
+    frmGoals(m_session, m_messages, this).exec();
 }
 
 void frmMain::showToday()

@@ -62,6 +62,7 @@ private:
     void showStep(const UndoHistory::Step &step);
     void quickAdd();
     void composeMeal();
+    void openGoals();
     void backUp();
     void restoreBackup();
     void openBackupSettings();

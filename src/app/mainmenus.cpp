@@ -76,6 +76,8 @@ std::vector<frmMain::Command> frmMain::commands()
          Qt::CTRL | Qt::Key_Left},
         {u"mnuNextDay"_s, tr("&Next Day"), &frmMain::showNextDay, {}, Qt::CTRL | Qt::Key_Right},
         {u"mnuSep12"_s},
+        {u"mnuGoals"_s, tr("G&oals…"), &frmMain::openGoals},
+        {u"mnuSep14"_s},
         {u"mnuBackUp"_s, tr("&Back Up…"), &frmMain::backUp},
         {u"mnuRestore"_s, tr("Re&store…"), &frmMain::restoreBackup},
         {u"mnuBackupSettings"_s, tr("Backup Settin&gs…"), &frmMain::openBackupSettings},

@@ -1,7 +1,5 @@
 #include "backup/backupsettings.h"
 
-#include "data/connection.h"
-
 #include <QDir>
 
 using namespace Qt::Literals;
@@ -15,11 +13,6 @@ const QString lastKey = u"Backup/Last"_s;
 const QString failureKey = u"Backup/Failure"_s;
 
 } // namespace
-
-Installation installationOf(const Connection &journal)
-{
-    return Installation(QFileInfo(journal.path()).absolutePath());
-}
 
 QString usualBackupPlace(const Installation &installation)
 {

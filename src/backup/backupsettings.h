@@ -5,11 +5,6 @@
 
 #include <QDateTime>
 
-class Connection;
-
-/// That the journal's file belongs to.
-Installation installationOf(const Connection &journal);
-
 /// Kept in Corvana.ini.
 struct BackupSettings
 {

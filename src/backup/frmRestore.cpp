@@ -6,6 +6,7 @@
 #include "backup/backuprun.h"
 #include "backup/backupsettings.h"
 #include "backup/restorebackup.h"
+#include "goals/goals.h"
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/elidedlabel.h"
@@ -191,6 +192,7 @@ void frmRestore::restore()
     tellAll(); // refused at the very end, it may have been stored
     if (!isRestored)
         return;
+    bringGoals();
     QDialog::accept(); // first, or the focus would be given back to a window that goes, too
     messages().information(parentWidget(),
                            tr("The backup is restored. The journal as it was before is "
@@ -205,4 +207,16 @@ void frmRestore::tellAll()
         tr("The common parameters can't be read anew. What was stored is stored"));
     session().announce(
         {{schema::tables.begin(), schema::tables.end()}, StoredChange::Kind::Changed});
+}
+
+// Into a journal without any, as on a new machine. They are in no step of Undo: what was set here
+// stays as it is.
+void frmRestore::bringGoals()
+{
+    Installation installation = installationOf(session().data().Con);
+    const Goals backedUp = goalsOf(Installation(QFileInfo(m_path).absolutePath()));
+    if (backedUp.isEmpty() || !goalsOf(installation).isEmpty())
+        return;
+    keepGoals(installation, backedUp);
+    session().announceGoals();
 }

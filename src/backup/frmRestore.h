@@ -27,6 +27,7 @@ private:
     QString examine(QString &contents);
     void restore();
     void tellAll();
+    void bringGoals();
 
     QListWidget *lstBackups;
     QPushButton *btnOther;

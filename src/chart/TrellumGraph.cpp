@@ -31,13 +31,18 @@ TrellumGraph::TrellumGraph(QWidget *parent)
 
 void TrellumGraph::clear()
 {
-    m_held = {.backgroundRate = m_held.backgroundRate, .now = m_held.now};
+    m_held = {.backgroundRate = m_held.backgroundRate, .now = m_held.now, .budget = m_held.budget};
     forgetSelection();
 }
 
 void TrellumGraph::setBackgroundRate(double caloriesPerMinute)
 {
     m_held.backgroundRate = std::isfinite(caloriesPerMinute) ? caloriesPerMinute : 0;
+}
+
+void TrellumGraph::setBudget(std::optional<daychart::Budget> budget)
+{
+    m_held.budget = budget;
 }
 
 void TrellumGraph::set24HourClock(bool on)

@@ -29,10 +29,13 @@ class TrellumGraph : public plot::ChartWidget
 public:
     explicit TrellumGraph(QWidget *parent = nullptr);
 
-    /// Forgets all items. Like the additions below, it shows from the next repaintChart on.
+    /// Forgets all items, but not the rate and the budget. Like the additions below, it shows from
+    /// the next repaintChart on.
     void clear();
     /// What the body burns without any activity; a rate that is not finite counts as none.
     void setBackgroundRate(double caloriesPerMinute);
+    /// How much may be eaten on the day; none: nothing is said of it.
+    void setBudget(std::optional<daychart::Budget> budget);
     void set24HourClock(bool on);
     /// Calories of each nutrient; all may be 0 and, like those of an activity, negative.
     void addMeal(int id, QTime time, const Nutrients<int> &calories,

@@ -44,16 +44,26 @@ void DayLayout::placeFigures()
         words += width(name);
     for (const QString &value : {eaten, burnt, balance})
         words += width(value, TextRole::Figure);
+    int count = 3;
     const double unit = width(m_texts.unit(Lane::Meals)) + em(0.3);
     const auto fits = [&](double more) { return words + more + em(4) <= m_figureRow.width(); };
-    // The balance at the present minute, where there is room for it beside that of the day's end.
-    const QString now = m_texts.balance(qRound64(m_nowBalance));
-    const double nowWords =
-        em(1.5) + width(m_texts.soFar()) + em(0.5) + width(now, TextRole::Figure);
-    const bool withNow = m_day.now && fits(nowWords);
-    if (withNow)
-        words += nowWords;
-    const double units = (withNow ? 4 : 3) * unit;
+    // Where there is room for them behind these three, what is left of the budget, and the balance
+    // at the present minute beside that of the day's end.
+    const auto takeIfFits = [&](const std::optional<NamedFigure> &figure) {
+        if (!figure)
+            return false;
+        const double more =
+            em(1.5) + width(figure->name) + em(0.5) + width(figure->value, TextRole::Figure);
+        const bool isTaken = fits(more);
+        words += isTaken ? more : 0;
+        count += isTaken ? 1 : 0;
+        return isTaken;
+    };
+    const std::optional<NamedFigure> left = leftOfBudget();
+    const std::optional<NamedFigure> now = balanceSoFar();
+    const bool withLeft = takeIfFits(left);
+    const bool withNow = takeIfFits(now);
+    const double units = count * unit;
     const bool withUnit = fits(units);
     const double apart =
         std::clamp((m_figureRow.width() - words - (withUnit ? units : 0)) / 2, 0.0, em(2));
@@ -63,21 +73,38 @@ void DayLayout::placeFigures()
         return QRectF(QPointF(from, m_figureRow.top()), QPointF(to, m_figureRow.bottom()))
             .adjusted(-em(0.3), -em(0.2), em(0.3), em(0.2));
     };
-    double end = placeFigure(x, m_texts.eaten(), eaten, withUnit);
+    double end = placeFigure(x, {m_texts.eaten(), eaten}, withUnit);
     g.meals.figure = target(x, end);
     x = end + apart;
-    end = placeFigure(x, m_texts.burnt(), burnt, withUnit);
+    end = placeFigure(x, {m_texts.burnt(), burnt}, withUnit);
     g.activities.figure = target(x, end);
     x = end + apart;
     g.swatches.push_back(
         {QRectF(x, m_figureRow.top(), em(1.3), m_figureRow.height()), Part::Balance});
-    end = placeFigure(x + em(1.7), m_texts.part(Part::Balance), balance, withUnit);
+    end = placeFigure(x + em(1.7), {m_texts.part(Part::Balance), balance}, withUnit);
     if (withNow)
-        placeFigure(end + em(1.5), m_texts.soFar(), now, withUnit);
+        end = placeFigure(end + em(1.5), *now, withUnit);
+    if (withLeft)
+        placeFigure(end + em(1.5), *left, withUnit);
+}
+
+std::optional<DayLayout::NamedFigure> DayLayout::leftOfBudget() const
+{
+    if (!m_day.budget)
+        return std::nullopt;
+    const qint64 left = caloriesOf(*m_day.budget, m_figures) - m_figures.eaten();
+    return NamedFigure{m_texts.left(left), m_texts.number(std::abs(left))};
+}
+
+std::optional<DayLayout::NamedFigure> DayLayout::balanceSoFar() const
+{
+    if (!m_day.now)
+        return std::nullopt;
+    return NamedFigure{m_texts.soFar(), m_texts.balance(qRound64(m_nowBalance))};
 }
 
 /// Name, figure and unit on one base line; returns where they end.
-double DayLayout::placeFigure(double x, const QString &name, const QString &value, bool withUnit)
+double DayLayout::placeFigure(double x, const NamedFigure &figure, bool withUnit)
 {
     const double lift = 0.2 * (m_metrics.figureHeight - m_metrics.lineHeight);
     const auto place = [&](const QString &text, TextRole role, Tone tone) {
@@ -87,9 +114,9 @@ double DayLayout::placeFigure(double x, const QString &name, const QString &valu
                            Qt::AlignLeft | Qt::AlignBottom, role, tone});
         x = rect.right();
     };
-    place(name, TextRole::Plain, Tone::Muted);
+    place(figure.name, TextRole::Plain, Tone::Muted);
     x += em(0.5);
-    place(value, TextRole::Figure, Tone::Ink);
+    place(figure.value, TextRole::Figure, Tone::Ink);
     if (withUnit) {
         x += em(0.3);
         place(m_texts.unit(Lane::Meals), TextRole::Plain, Tone::Muted);

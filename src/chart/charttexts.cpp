@@ -1,7 +1,5 @@
 #include "chart/charttexts.h"
 
-#include "chart/daybalance.h"
-
 #include <cmath>
 
 namespace daychart {
@@ -74,6 +72,11 @@ QString ChartTexts::soFar() const
     return tr("so far");
 }
 
+QString ChartTexts::left(qint64 calories) const
+{
+    return calories < 0 ? tr("Over budget") : tr("Left");
+}
+
 QString ChartTexts::emptyHint(Lane lane) const
 {
     return lane == Lane::Meals ? tr("No meals yet. Click at a time to add one.")
@@ -136,7 +139,18 @@ QString ChartTexts::daySummary(const DayData &day) const
         sentences += tr("So far, at %1, %2.")
                          .arg(time(timeOf(*day.now)),
                               balanceInWords(qRound64(balanceAt(balanceCurve(day), *day.now))));
+    if (day.budget)
+        sentences += budgetInWords(*day.budget, figures);
     return (sentences + notDrawn(day)).join(u' ');
+}
+
+QString ChartTexts::budgetInWords(const Budget &budget, const DayFigures &figures) const
+{
+    const qint64 most = caloriesOf(budget, figures);
+    const qint64 left = most - figures.eaten();
+    return left < 0
+               ? tr("Of a budget of %1, %2 too much was eaten.").arg(energy(most), energy(-left))
+               : tr("Of a budget of %1, %2 are left.").arg(energy(most), energy(left));
 }
 
 QStringList ChartTexts::notDrawn(const DayData &day) const

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chart/chartparts.h"
-#include "chart/daydata.h"
+#include "chart/daybalance.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -41,6 +41,8 @@ public:
     QString burnt() const;
     /// Of the balance at the present minute.
     QString soFar() const;
+    /// Of what is left of a budget; negative where more was eaten.
+    QString left(qint64 calories) const;
     /// What to say in a lane that has no item.
     QString emptyHint(Lane lane) const;
 
@@ -59,6 +61,7 @@ public:
 private:
     QString what(const ItemWords &words) const;
     QString balanceInWords(qint64 balance) const;
+    QString budgetInWords(const Budget &budget, const DayFigures &figures) const;
 
     QLocale m_locale;
     bool m_clock24;

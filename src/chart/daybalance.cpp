@@ -43,6 +43,11 @@ DayFigures dayFigures(const DayData &day)
     return figures;
 }
 
+qint64 caloriesOf(const Budget &budget, const DayFigures &figures)
+{
+    return budget.ofBurnt ? figures.burnt() - budget.calories : budget.calories;
+}
+
 std::vector<BalancePoint> balanceCurve(const DayData &day)
 {
     std::vector<BalancePoint> curve = {{0, 0}};

@@ -20,6 +20,9 @@ struct DayFigures
 
 DayFigures dayFigures(const DayData &day);
 
+/// What may be eaten on a day with these figures.
+qint64 caloriesOf(const Budget &budget, const DayFigures &figures);
+
 struct BalancePoint
 {
     double minute = 0; ///< 0 to 1440

@@ -61,6 +61,13 @@ struct ActivityItem
     double caloriesPerMinute() const { return calories / (endMinute() - beginMinute()); }
 };
 
+/// How much may be eaten on the day.
+struct Budget
+{
+    bool ofBurnt = false; ///< what is burnt, less the calories, instead of the calories alone
+    int calories = 0;
+};
+
 struct DayData
 {
     double backgroundRate = 0; ///< calories per minute, burnt without any activity
@@ -69,6 +76,7 @@ struct DayData
     std::vector<MealItem> moreMeals = {}; ///< not drawn; in the totals and the balance only
     std::vector<ActivityItem> moreActivities = {};
     std::optional<int> now = {}; ///< the present minute, 0 to 1439, on the current day only
+    std::optional<Budget> budget = {};
 
     /// More items of a kind could neither be told apart nor be laid out in time.
     static constexpr size_t mostDrawn = 500;

@@ -60,6 +60,12 @@ public:
     }
 
 private:
+    struct NamedFigure
+    {
+        QString name;
+        QString value;
+    };
+
     double em(double count) const { return count * g.unit; }
     /// The least distance of labelled values: fewer than eight to a lane, however high it is.
     double ticksApart() const { return std::max(em(2.2), (m_plotBottom - m_plotTop) / 16); }
@@ -77,7 +83,9 @@ private:
     void scaleBalance();
     void layColumns();
     void placeFigures();
-    double placeFigure(double x, const QString &name, const QString &value, bool withUnit);
+    double placeFigure(double x, const NamedFigure &figure, bool withUnit);
+    std::optional<NamedFigure> leftOfBudget() const;
+    std::optional<NamedFigure> balanceSoFar() const;
     void placeHeader(Lane which);
     void placeTimeAxis();
     void placeItems();

@@ -1,8 +1,10 @@
 #include "session/installation.h"
 
+#include "data/connection.h"
 #include "session/inifile.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <stdexcept>
 
@@ -91,4 +93,9 @@ bool Installation::setValues(const QMap<QString, QString> &values)
         settings.setValue(value.key(), value.value());
     settings.setValue(firstStartKey, isPending ? no : yes);
     return settings.write();
+}
+
+Installation installationOf(const Connection &journal)
+{
+    return Installation(QFileInfo(journal.path()).absolutePath());
 }

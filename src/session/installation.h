@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 
+class Connection;
+
 /// Kept in Corvana.ini in the program's folder, beside the database: it outlives a replaced
 /// database file, and a folder copied to another machine takes it along, so that no measurement is
 /// moved there again.
@@ -43,3 +45,6 @@ public:
 private:
     QString m_folder;
 };
+
+/// That the journal's file belongs to.
+Installation installationOf(const Connection &journal);

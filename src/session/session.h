@@ -93,8 +93,12 @@ public:
     /// once for each action, after it has been stored.
     void announce(const StoredChange &change) { Q_EMIT recordsChanged(change); }
 
+    /// To be called by whoever has changed the goals, which are not in the database.
+    void announceGoals() { Q_EMIT goalsChanged(); }
+
 Q_SIGNALS:
     void dayChanged();
+    void goalsChanged();
     void recordsChanged(const StoredChange &change);
     void parametersChanged();
 

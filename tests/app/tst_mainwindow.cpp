@@ -2,7 +2,7 @@
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
 #include "app/frmMain.h"
-#include "dayjournal.h"
+#include "redraws.h"
 
 #include <QAccessible>
 #include <QCalendarWidget>
@@ -14,37 +14,7 @@
 #include <QPrinterInfo>
 #include <QTimer>
 
-#include <sqlite3.h>
-
 using namespace Qt::Literals;
-
-namespace {
-
-// How often the day's activities have been read since it was made: by the chart each time that it
-// is redrawn, and by their list.
-class Redraws
-{
-public:
-    explicit Redraws(DayJournal &journal)
-        : m_handle(journal.data->Con.database().getHandle())
-    {
-        const auto trace = [](unsigned, void *self, void *, void *sql) {
-            if (QByteArrayView(static_cast<const char *>(sql)) ==
-                commands::ExercisePerformSorted.sql)
-                ++static_cast<Redraws *>(self)->m_count;
-            return 0;
-        };
-        sqlite3_trace_v2(m_handle, SQLITE_TRACE_STMT, trace, this);
-    }
-    ~Redraws() { sqlite3_trace_v2(m_handle, 0, nullptr, nullptr); }
-    int count() const { return m_count; }
-
-private:
-    sqlite3 *m_handle;
-    int m_count = 0;
-};
-
-} // namespace
 
 class tst_mainwindow : public QObject
 {

@@ -114,6 +114,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
           "mnuQuickAdd frmQuickAdd",
           "mnuComposeMeal frmComposeMeal",
+          "mnuGoals frmGoals",
           "mnuExport frmExport",
           "mnuCheckJournal frmCheckJournal",
           "mnuRestore frmRestore",

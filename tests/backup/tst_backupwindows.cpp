@@ -5,6 +5,7 @@
 #include "backup/makebackup.h"
 #include "backupsamples.h"
 #include "dayjournal.h"
+#include "goals/goals.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -91,8 +92,12 @@ void tst_backupwindows::restoresAndTakesItBack()
     const QString place = usualBackupPlace(installationOf(m_journal->data->Con));
     const QDateTime today = m_journal->clock.now();
     m_journal->clock.setNow(today.addDays(-8));
+    Installation installation = installationOf(m_journal->data->Con);
+    const Goals goals = {65.5, {}, true, {}, {}};
+    keepGoals(installation, goals);
     makeBackup(m_journal->path(), place, m_journal->clock.now());
     const QStringList backedUp = contentsOf(m_journal->data->Con);
+    keepGoals(installation, {});
     m_journal->exec("update MealConsume set Qty = 2.5; insert into Body values (9, 46100, 70, 9, 8,"
                     " 9, 'M'); update Common set weight = 90");
     m_journal->session->readCommonParameters();
@@ -126,7 +131,8 @@ void tst_backupwindows::restoresAndTakesItBack()
     });
     QCOMPARE(contentsOf(m_journal->data->Con), backedUp);
     QCOMPARE(int(m_journal->session->parameters().weight), 70);
-    QCOMPARE(eaten(), u"300"_s); // the chart has followed
+    QCOMPARE(eaten(), u"300"_s);             // the chart has followed
+    QVERIFY(goalsOf(installation) == goals); // there were none any more
     // What was there is told of, lies in a backup of its own, and comes back.
     const Backup kept = backupsIn(place).front();
     QCOMPARE(kept.time, today);

@@ -39,6 +39,8 @@ inline daychart::DayData anyDay(quint32 seed)
         day.add(daychart::ActivityItem{id, timeOf(begin), timeOf(begin + random.bounded(90)),
                                        calories(500)});
     }
+    if (seed % 5 < 2)
+        day.budget = daychart::Budget{seed % 5 == 0, random.bounded(4000)};
     return day;
 }
 

@@ -49,6 +49,15 @@ struct Sample
     DayGeometry g;
 };
 
+/// What stands behind a name in the line of figures; empty where it is not there.
+QString figureNamed(const QString &name, const DayData &day, const QRectF &area)
+{
+    const DayGeometry g = geometryOf(day, area);
+    const auto found = std::find_if(g.texts.begin(), g.texts.end(),
+                                    [&](const PlacedText &text) { return text.text == name; });
+    return found == g.texts.end() ? QString() : std::next(found)->text;
+}
+
 std::vector<QRectF> textRects(const DayGeometry &g)
 {
     std::vector<QRectF> rects = {g.balanceEnd.rect};
@@ -613,24 +622,33 @@ private slots:
             }
         }
     }
+    void headerTellsWhatIsLeft()
+    {
+        DayData day = samples::typicalDay(); // 1960 eaten, 2400 burnt
+        day.now = 12 * 60;
+        QCOMPARE(figureNamed(u"Left"_s, day, {0, 0, 900, 600}), QString());
+        day.budget = Budget{false, 2200};
+        QCOMPARE(figureNamed(u"Left"_s, day, {0, 0, 900, 600}), u"240"_s);
+        QCOMPARE(figureNamed(u"Left"_s, day, {0, 0, 600, 400}), u"240"_s); // before the balance now
+        day.budget = Budget{true, 500};
+        QCOMPARE(figureNamed(u"Over budget"_s, day, {0, 0, 900, 600}), u"60"_s);
+        day.budget = Budget{true, 440};
+        QCOMPARE(figureNamed(u"Left"_s, day, {0, 0, 900, 600}), u"0"_s);
+    }
     void headerTellsTheBalanceSoFar()
     {
         DayData day = samples::typicalDay();
         const auto soFar = [&day](const QRectF &area) {
-            const DayGeometry g = geometryOf(day, area);
-            QStringList texts;
-            for (const PlacedText &text : g.texts)
-                texts << text.text;
-            return texts.value(texts.indexOf(u"so far"_s) + 1);
+            return figureNamed(u"so far"_s, day, area);
         };
         const QRectF wide(0, 0, 900, 600);
-        QCOMPARE(soFar(wide), u"Eaten"_s); // of another day nothing
+        QCOMPARE(soFar(wide), QString()); // of another day nothing
         // 1.25 a minute and 120 for an activity; 430 eaten, and 780 more in this minute.
         day.now = 12 * 60 + 44;
         QCOMPARE(soFar(wide), u"-645"_s);
         day.now = 12 * 60 + 45;
         QCOMPARE(soFar(wide), u"+134"_s);
-        QCOMPARE(soFar({0, 0, 500, 400}), u"Eaten"_s); // no room
+        QCOMPARE(soFar({0, 0, 500, 400}), QString()); // no room
     }
     void outlierLeavesOthersVisible()
     {
