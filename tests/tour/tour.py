@@ -463,8 +463,66 @@ def activity_listed(program):
 
 
 @step
-def delete_trial_data(program):
+def goals(program):
     leave_window(program, "Activities")
+    program.menu("Journal", "Goals\u2026")
+    window = program.window("Goals")
+    window.find("text", "Target Weight").type("66")
+    window.find("radio button", "What the day burns, less a deficit of").press()
+    window.find("text", "Daily Deficit").type("400")
+    told = window.find_all("label")
+    check([label for label in told if label.name.startswith("The deficit comes to about 0.36 kg")],
+          f"the deficit is not told of in {[label.name for label in told]}")
+
+
+@step
+def left_of_the_budget(program):
+    window = program.window("Goals")
+    window.find("push button", "OK").press()
+    program.gone(window)
+    chart = main_window(program).find("chart", "Daily calorie chart")
+    check("Of a budget of " in chart.description, f"the chart tells {chart.description!r}")
+
+
+@step
+def check_journal(program):
+    program.menu("Journal", "Check Journal\u2026")
+    window = program.window("Check Journal")
+    wait_for(lambda: [label for label in window.find_all("label")
+                      if label.name.startswith("The journal is sound")], "a sound journal", 30)
+
+
+@step
+def export_to_files(program):
+    leave_window(program, "Check Journal")
+    program.menu("Journal", "Export\u2026")
+    check(program.window("Export").find("text", "Folder").text, "no folder is proposed")
+
+
+@step
+def files_exported(program):
+    program.window("Export").find("push button", "Export").press()
+    said = program.text_of(program.message())
+    check("has been exported to" in said, f"the export said {said!r}")
+
+
+@step
+def backup_settings(program):
+    program.answer("OK")
+    program.menu("Journal", "Backup Settings\u2026")
+    program.window("Backup Settings")
+
+
+@step
+def restore(program):
+    leave_window(program, "Backup Settings")
+    program.menu("Journal", "Restore\u2026")
+    program.window("Restore a Backup")
+
+
+@step
+def delete_trial_data(program):
+    leave_window(program, "Restore a Backup")
     program.menu("Operate", "Delete Trial Data")
     question = program.message()
     check(question.name == "Are you sure?", f"the question is titled {question.name!r}")
