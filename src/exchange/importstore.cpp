@@ -145,6 +145,14 @@ private:
     size_t m_done = 0;
 };
 
+void requireVersion(Connection &connection, qint64 version)
+{
+    if (connection.dataVersion() != version)
+        throw ImportError(ImportStoreTexts::tr(
+            "Another program has changed the journal meanwhile. The numbers shown now are those "
+            "with its changes: please look at them again."));
+}
+
 } // namespace
 
 void storeImport(Session &session, const std::vector<ImportFile> &files, ImportPlan plan,
@@ -152,13 +160,17 @@ void storeImport(Session &session, const std::vector<ImportFile> &files, ImportP
 {
     Connection &connection = session.data().Con;
     ImportStore steps(session, files, plan, progress);
-    steps.takeIdentifiers();
+    {
+        WriteTransaction transaction(connection);
+        requireVersion(connection, plan.dataVersion);
+        steps.takeIdentifiers();
+        transaction.commit();
+    }
+    // Read anew: a commit that the disk made doubtful gives the file another version, too.
+    const qint64 version = connection.dataVersion();
     const UndoHistory::Recording recording(session.history(), description, session.currentDate());
     WriteTransaction transaction(connection);
-    if (connection.dataVersion() != plan.dataVersion)
-        throw ImportError(ImportStoreTexts::tr(
-            "Another program has changed the journal meanwhile. The numbers shown now are those "
-            "with its changes: please look at them again."));
+    requireVersion(connection, version);
     steps.store();
     transaction.commit();
 }
