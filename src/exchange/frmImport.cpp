@@ -83,7 +83,7 @@ frmImport::frmImport(Session &session, Messages &messages, QWidget *parent)
     connect(m_columns, &ImportColumns::changed, this, &frmImport::planSoon);
     showFiles();
     focusFirstField();
-    resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 34);
+    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 34);
 }
 
 void frmImport::makeControls()
@@ -103,7 +103,7 @@ void frmImport::makeControls()
     lvwFiles = new ReportView(*m_fileRows, this);
     lvwFiles->setObjectName(u"lvwFiles"_s);
     lvwFiles->setAccessibleName(tr("Files"));
-    lvwFiles->setFixedHeight(fontMetrics().lineSpacing() * 8);
+    lvwFiles->setFixedHeight(fontMetrics().lineSpacing() * 6);
     connect(lvwFiles->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &row) { showFile(row.row()); });
     cboHolds = new QComboBox(this);
@@ -132,6 +132,7 @@ void frmImport::makeTabs()
     tblPreview->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tblPreview->setTabKeyNavigation(false);
     tblPreview->verticalHeader()->hide();
+    tblPreview->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     tabFile->addTab(tblPreview, tr("Pre&view"));
 
     auto *faults = new QWidget(tabFile);

@@ -79,6 +79,7 @@ void ImportColumns::addLine(QGridLayout &grid, size_t field)
                  makeFormChooser(field, name)};
     QWidget *const whenEmpty = makeEmptyBox(field, name);
     line.sample = new ElidedLabel(m_grid);
+    line.sample->setMinimumWidth(longestEntry / 2 * fontMetrics().averageCharWidth());
     line.sample->setObjectName(u"lblSample"_s + name);
     auto *caption = new QLabel(shown.caption, m_grid);
     caption->setBuddy(line.column);
@@ -112,7 +113,7 @@ QComboBox *ImportColumns::makeColumnChooser(size_t field, const QString &name)
         entries += excerptOf(header.simplified(), 2 * longestEntry);
     QComboBox *chooser = makeChooser(u"cboColumn"_s + name, shown.caption, entries);
     chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    chooser->setMinimumContentsLength(longestEntry * 2 / 3);
+    chooser->setMinimumContentsLength(longestEntry / 2);
     chooser->setMaximumWidth(longestEntry * 3 / 2 * fontMetrics().averageCharWidth());
     connect(chooser, &QComboBox::activated, this,
             [this, field](int entry) { takeColumn(field, entry - 1); });
@@ -161,7 +162,7 @@ QWidget *ImportColumns::makeEmptyBox(size_t field, const QString &name)
     auto *box = new QLineEdit(m_file->matches[field].whenEmpty, m_grid);
     box->setObjectName(u"txtEmpty"_s + name);
     box->setAccessibleName(tr("%1 where it is empty").arg(m_file->table().fields[field].caption));
-    box->setMaximumWidth(longestEntry * 2 / 3 * fontMetrics().averageCharWidth());
+    box->setMaximumWidth(longestEntry / 2 * fontMetrics().averageCharWidth());
     connect(box, &QLineEdit::textEdited, this, [this, field](const QString &text) {
         m_file->matches[field].whenEmpty = text;
         Q_EMIT changed();
