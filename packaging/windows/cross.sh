@@ -64,16 +64,20 @@ END
 }
 
 # configure_windows QT: the program for Windows, with the database that a build for this machine
-# makes and the source of the library that is installed here.
+# makes and the sources of the libraries that are installed here.
 configure_windows() {
-    local qt=$1 version source
+    local qt=$1 version source csv
     [[ -f $qt/lib/cmake/Qt6/Qt6Config.cmake ]] || fail "There is no Qt in $qt."
     version=$(source_version libsqlitecpp-dev)
     source=$cache/sources/sqlitecpp-$version
     fetch_source sqlitecpp "$version" "$source"
+    version=$(source_version libcsv-dev)
+    csv=$cache/sources/libcsv-$version
+    fetch_source libcsv "$version" "$csv"
     say "Building the delivered database (release)"
     configure release
     cmake --build --preset release --target delivered_database
     cmake --preset windows -DCORVANA_WINDOWS_QT="$qt" -DCMAKE_PREFIX_PATH="$qt" \
-        -DCORVANA_SQLITECPP_SOURCE="$source" -DCORVANA_HOST_BUILD="$PWD/build/release" >/dev/null
+        -DCORVANA_SQLITECPP_SOURCE="$source" -DCORVANA_LIBCSV_SOURCE="$csv" \
+        -DCORVANA_HOST_BUILD="$PWD/build/release" >/dev/null
 }

@@ -11,6 +11,7 @@
 #include "chart/TrellumGraph.h"
 #include "exchange/frmCheckJournal.h"
 #include "exchange/frmExport.h"
+#include "exchange/frmImport.h"
 #include "goals/frmGoals.h"
 #include "help/aboutbox.h"
 #include "help/helpkey.h"
@@ -476,6 +477,11 @@ void frmMain::openGeneralProgress()
 void frmMain::exportJournalFiles()
 {
     frmExport(m_session, m_messages, this).exec();
+}
+
+void frmMain::importFiles()
+{
+    frmImport(m_session, m_messages, this).exec();
 }
 
 void frmMain::checkJournalFile()

@@ -102,6 +102,7 @@ private:
     void openCommonParameters();
     void openGeneralProgress();
     void exportJournalFiles();
+    void importFiles();
     void checkJournalFile();
     void leave();
     void showAbout();

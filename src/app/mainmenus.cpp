@@ -83,6 +83,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuBackupSettings"_s, tr("Backup Settin&gs…"), &frmMain::openBackupSettings},
         {u"mnuSep13"_s},
         {u"mnuExport"_s, tr("&Export…"), &frmMain::exportJournalFiles},
+        {u"mnuImport"_s, tr("&Import…"), &frmMain::importFiles},
         {u"mnuCheckJournal"_s, tr("Chec&k Journal…"), &frmMain::checkJournalFile},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},

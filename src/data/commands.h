@@ -1,5 +1,5 @@
 // The catalogue of named commands: every statement that the program runs on its tables, but for
-// those of the sample journal, and of the export and the check, which go through whole tables.
+// those of the sample journal, and of export, import and check, which go through whole tables.
 #pragma once
 
 #include "data/schema.h"

@@ -2,15 +2,23 @@
 
 #include "data/numbers.h"
 
+#include <algorithm>
+#include <limits>
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
-qint16 nextOf(deData &data, const schema::Column &counter)
+void requireNoRecording(const deData &data)
 {
     // Taken back with the action, a counter would hand out the number once more.
     if (data.Con.recorder())
         throw std::logic_error("identifiers are taken before an action is recorded");
+}
+
+qint16 nextOf(deData &data, const schema::Column &counter)
+{
+    requireNoRecording(data);
     Recordset &common = data.rsCommon;
     WriteTransaction transaction(data.Con);
     // Read under the lock: the row that is open may be older than another program's store.
@@ -20,6 +28,20 @@ qint16 nextOf(deData &data, const schema::Column &counter)
     common.update();
     transaction.commit();
     return toInt16(next);
+}
+
+const schema::Column &counterOf(const schema::Table &table)
+{
+    static const std::vector<std::pair<const schema::Table *, schema::Column>> counters = {
+        {&schema::MealConsume::table, schema::Common::NextMealConsumeID},
+        {&schema::ExercisePerform::table, schema::Common::NextExercisePerformID},
+        {&schema::Body::table, schema::Common::NextBodyID},
+        {&schema::UserNote::table, schema::Common::NextUserNoteID}};
+    const auto found = std::find_if(counters.begin(), counters.end(),
+                                    [&](const auto &counter) { return counter.first == &table; });
+    if (found == counters.end())
+        throw std::logic_error("no counter for the identifiers of this table");
+    return found->second;
 }
 
 } // namespace
@@ -56,4 +78,28 @@ std::optional<qint16> newIdentifier(deData &data, const schema::Table &table)
             return next(data);
     }
     return std::nullopt;
+}
+
+qint16 newIdentifiers(deData &data, const schema::Table &table, int count)
+{
+    requireNoRecording(data);
+    const schema::Column &counter = counterOf(table);
+    Recordset &common = data.rsCommon;
+    WriteTransaction transaction(data.Con);
+    common.reopen();
+    const qint64 last = qint64(common.integer(counter)) + count;
+    const qint16 first = toInt16(toInt16(last) - count + 1);
+    common.set(counter, Value(last));
+    common.update();
+    transaction.commit();
+    return first;
+}
+
+int identifiersLeft(deData &data, const schema::Table &table)
+{
+    Recordset &common = data.rsCommon;
+    common.reopen();
+    const qint64 last = common.integer(counterOf(table));
+    return int(std::clamp<qint64>(std::numeric_limits<qint16>::max() - last, 0,
+                                  std::numeric_limits<qint16>::max()));
 }

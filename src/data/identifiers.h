@@ -16,3 +16,9 @@ qint16 NewUserNoteID(deData &data);
 
 /// The same by the table; of one whose keys the database hands out itself, none.
 std::optional<qint16> newIdentifier(deData &data, const schema::Table &table);
+
+/// The first of so many in a row, at least one, of a table that has a counter; taken like a single
+/// one. Throws OverflowError where there are not as many left, and nothing is stored then.
+qint16 newIdentifiers(deData &data, const schema::Table &table, int count);
+/// How many a table that has a counter has left.
+int identifiersLeft(deData &data, const schema::Table &table);

@@ -46,10 +46,13 @@ int compareNames(QStringView a, QStringView b)
     const QString textB = b.toString();
     if (const int letters = sign(foldedForSearch(textA).compare(foldedForSearch(textB))))
         return letters;
-    const auto folded = [](const QString &text) {
-        return text.toCaseFolded().normalized(QString::NormalizationForm_C);
-    };
-    return sign(folded(textA).compare(folded(textB)));
+    return sign(nameKey(textA).compare(nameKey(textB)));
+}
+
+QString nameKey(const QString &name)
+{
+    return isAscii(name) ? name.toLower()
+                         : name.toCaseFolded().normalized(QString::NormalizationForm_C);
 }
 
 void registerNameCollation(sqlite3 *database)

@@ -13,6 +13,9 @@ inline constexpr char nameCollation[] = "CORVANA_NAME";
 /// differ in case alone.
 int compareNames(QStringView a, QStringView b);
 
+/// Equal for two names exactly where compareNames() is 0.
+QString nameKey(const QString &name);
+
 /// The text without case and accents, for finding by typing.
 QString foldedForSearch(const QString &text);
 

@@ -3,61 +3,18 @@
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/fieldmessages.h"
+#include "ui/formscroll.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
 #include "ui/screenfit.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QShowEvent>
 #include <QVBoxLayout>
-
-namespace {
-
-/// A form that is larger than the screen: the field that gets the focus comes into sight.
-class FormScroll : public QScrollArea
-{
-public:
-    FormScroll(QWidget *form, QWidget *parent)
-        : QScrollArea(parent)
-    {
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidgetResizable(true);
-        setWidget(form);
-        connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
-            if (widget()->isAncestorOf(now))
-                bringIntoSight(*now);
-        });
-    }
-
-    // The focus moves on once more while the fields are being deleted.
-    ~FormScroll() override { disconnect(qApp, nullptr, this, nullptr); }
-    FormScroll(const FormScroll &) = delete;
-    FormScroll &operator=(const FormScroll &) = delete;
-
-    QSize sizeHint() const override
-    {
-        return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(),
-                                            horizontalScrollBar()->sizeHint().height());
-    }
-
-private:
-    // All of it; ensureWidgetVisible() is content with a text box's cursor.
-    void bringIntoSight(const QWidget &field)
-    {
-        const QPoint middle = field.mapTo(widget(), field.rect().center());
-        ensureVisible(middle.x(), middle.y(), field.width() / 2 + 1, field.height() / 2 + 1);
-    }
-};
-
-} // namespace
 
 FormDialog::FormDialog(Session &session, Messages &messages, const QString &name,
                        const QString &caption, QWidget *parent)

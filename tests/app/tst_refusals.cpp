@@ -10,6 +10,7 @@
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMealCategory.h"
 #include "catalogue/frmMeals.h"
+#include "exchange/frmImport.h"
 #include "faultyfiles.h"
 #include "journal/frmBody.h"
 #include "journal/frmCopyDay.h"
@@ -314,6 +315,26 @@ Action restoring()
             }};
 }
 
+Action importing()
+{
+    return {"an import", u"The files can't be imported"_s, [](Try &attempt) {
+                DayJournal &journal = attempt.journal;
+                const QString meals = journal.folder.filePath(u"meals.csv"_s);
+                const QString notes = journal.folder.filePath(u"notes.csv"_s);
+                setFileBytes(meals, "Name,Category,Unit,kcal\nTyped,Made,g,1\n");
+                setFileBytes(notes, "Date,Note\n2026-07-20,Typed\n2026-07-21,Typed\n");
+                frmImport window(*journal.session, journal.messages);
+                inDialog(
+                    "frmImport", [&] { window.exec(); },
+                    [&](QWidget &) {
+                        window.read({meals, notes});
+                        attempt.act([&] { press(window, "btnOK"); });
+                        QCOMPARE(window.isVisible(), attempt.isRefused());
+                        QCOMPARE(shown(window, "lvwFiles").size(), 2);
+                    });
+            }};
+}
+
 std::vector<Action> allActions()
 {
     const Fields meal = {{"dcbMealCategory", u"Fruit"_s},
@@ -379,6 +400,7 @@ std::vector<Action> allActions()
         deletingTrialData(),
         movingTheSample(),
         restoring(),
+        importing(),
     };
 }
 

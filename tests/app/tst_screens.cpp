@@ -2,6 +2,7 @@
 #include "app/frmMain.h"
 #include "catalogue/frmMeal.h"
 #include "dayjournal.h"
+#include "exchange/frmImport.h"
 #include "help/helpviewer.h"
 #include "progress/frmGeneralProgress.h"
 #include "session/installation.h"
@@ -13,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
+#include <QTabWidget>
 
 using namespace Qt::Literals;
 
@@ -116,6 +118,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuComposeMeal frmComposeMeal",
           "mnuGoals frmGoals",
           "mnuExport frmExport",
+          "mnuImport frmImport",
           "mnuCheckJournal frmCheckJournal",
           "mnuRestore frmRestore",
           "mnuBackupSettings frmBackupSettings",
@@ -156,6 +159,20 @@ void tst_screens::windowsOfTheirOwn()
                             progress::periodOfMonths(QDate(2026, 7, 1), 3), mainWindow.get());
     };
     inDialog("frmGeneralProgress", showProgress, verifyWithinReach);
+    // With more lines to match than a small screen has room for, and long names.
+    const QString meals = journal->folder.filePath(u"meals.csv"_s);
+    setFileBytes(meals, "Name,kcal," + QByteArray(300, 'x') + "\nFood,1,2\nFood,x," +
+                            QByteArray(3000, 'y') + '\n');
+    frmImport import(*journal->session, journal->messages, mainWindow.get());
+    inDialog(
+        "frmImport", [&] { import.exec(); },
+        [&](QWidget &window) {
+            import.read({meals, meals});
+            for (int page : {0, 1, 2}) {
+                control<QTabWidget>(window, "tabFile").setCurrentIndex(page);
+                verifyWithinReach(window);
+            }
+        });
     HelpViewer help(QString(), mainWindow.get());
     inDialog(
         "helpViewer", [&] { help.exec(); }, verifyWithinReach);
