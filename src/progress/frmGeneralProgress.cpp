@@ -29,7 +29,7 @@ using namespace progress;
 namespace {
 
 constexpr int sideWidth = 16;          // in lines of text
-constexpr int dayLines = 9;            // of text, so that the list below stands still
+constexpr int dayLines = 10;           // of text, so that the list below stands still
 constexpr qsizetype mostOfNote = 2000; // characters
 
 QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent)

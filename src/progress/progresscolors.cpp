@@ -16,6 +16,7 @@ ProgressColors::ProgressColors(const QPalette &palette)
     : BaseColors(palette)
 {
     weight = ink;
+    trend = QColor(isDark ? 0xE58CC8 : 0xA8327F);
     breast = QColor(isDark ? 0xF0A04B : 0xC65D07);
     waist = QColor(isDark ? 0x6FB1E6 : 0x1F6FB2);
     hips = QColor(isDark ? 0x45C9A0 : 0x0B8A66);

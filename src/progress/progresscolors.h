@@ -12,6 +12,7 @@ namespace progress {
 struct ProgressColors : plot::BaseColors
 {
     QColor weight;
+    QColor trend; ///< of the weight
     QColor breast;
     QColor waist;
     QColor hips;

@@ -10,19 +10,49 @@ namespace {
 constexpr double headerHeight = 1.35;
 constexpr double laneGap = 0.45;
 constexpr double footHeight = 2.5;
-constexpr int scaleSteps = 6;
+constexpr int bodySteps = 6;
+constexpr int balanceSteps = 9; // 500 kcal each where the lane is high enough
 constexpr double noteRowHeight = 1.2;
 constexpr double leastBodyStep = 0.1;
 constexpr double leastBalanceStep = 1;
+constexpr double leastLaneOfValues = 6;
+constexpr double leastHeightOfLines = 36; // of an area with two lines for each trend
+constexpr double mostDaysOfValue = 1.35;  // that the widest one takes
 
 } // namespace
 
-double ProgressLayout::figuresWidth(const std::vector<Figure> &figures, TextRole role) const
+double ProgressLayout::figureWidth(const Figure &figure, const FigureLook &look) const
+{
+    double widest = std::max(width(figure.name), width(figure.value, look.role));
+    for (const QString &line : look.trend ? figure.trendIn(*look.trend) : QStringList())
+        widest = std::max(widest, width(line));
+    return widest;
+}
+
+double ProgressLayout::figuresWidth(const std::vector<Figure> &figures,
+                                    const FigureLook &look) const
 {
     double sum = 0;
     for (const Figure &figure : figures)
-        sum += std::max(width(figure.name), width(figure.value, role)) + em(1.2);
+        sum += figureWidth(figure, look) + em(1.2);
     return sum - em(1.2);
+}
+
+/// The first one with which the figures stand on one line; without trends they may take several.
+ProgressLayout::FigureLook ProgressLayout::figureLook(const std::vector<Figure> &figures,
+                                                      double room) const
+{
+    const bool isHigh = g.area.height() >= em(leastHeightOfLines);
+    for (const FigureLook &look : {FigureLook{TextRole::Figure, TrendForm::OneLine},
+                                   {TextRole::Caption, TrendForm::OneLine},
+                                   {TextRole::Figure, TrendForm::TwoLines},
+                                   {TextRole::Caption, TrendForm::TwoLines},
+                                   {TextRole::Figure, TrendForm::SlopeAlone},
+                                   {TextRole::Caption, TrendForm::SlopeAlone}}) {
+        if ((look.trend != TrendForm::TwoLines || isHigh) && figuresWidth(figures, look) <= room)
+            return look;
+    }
+    return {};
 }
 
 /// The line of figures, each below its name; in a narrow area it takes several lines.
@@ -31,27 +61,36 @@ void ProgressLayout::placeFigures()
     const std::vector<Figure> figures = m_texts.figures(m_summary);
     const double left = g.area.left() + em(margin);
     const double right = g.area.right() - em(margin);
-    const bool large = figuresWidth(figures, TextRole::Figure) <= right - left;
-    const TextRole role = large ? TextRole::Figure : TextRole::Caption;
-    const double valueHeight = large ? m_metrics.figureHeight : g.unit;
+    const FigureLook look = figureLook(figures, right - left);
+    const double valueHeight = look.role == TextRole::Figure ? m_metrics.figureHeight : g.unit;
+    double height = 0;
+    for (const Figure &figure : figures) {
+        const auto lines = look.trend ? figure.trendIn(*look.trend).size() : 0;
+        height = std::max(height, g.unit + valueHeight + double(lines) * g.unit);
+    }
     const double gap = std::clamp(
-        (right - left - figuresWidth(figures, role)) / double(figures.size() - 1) + em(1.2),
+        (right - left - figuresWidth(figures, look)) / double(figures.size() - 1) + em(1.2),
         em(0.8), em(2.6));
     double x = left;
     double y = g.area.top() + em(0.4);
     for (const Figure &figure : figures) {
-        const double block = std::max(width(figure.name), width(figure.value, role));
+        const double block = figureWidth(figure, look);
         if (x > left && x + block > right) {
             x = left;
-            y += g.unit + valueHeight + em(0.2);
+            y += height + em(0.2);
         }
         text(QRectF(x, y, block, g.unit), figure.name, Qt::AlignLeft | Qt::AlignVCenter,
              TextRole::Plain, Tone::Muted);
         text(QRectF(x, y + g.unit, block, valueHeight), figure.value,
-             Qt::AlignLeft | Qt::AlignVCenter, role);
+             Qt::AlignLeft | Qt::AlignVCenter, look.role);
+        QRectF line(x, y + g.unit + valueHeight, block, g.unit);
+        for (const QString &words : look.trend ? figure.trendIn(*look.trend) : QStringList()) {
+            text(line, words, Qt::AlignLeft | Qt::AlignVCenter);
+            line.translate(0, g.unit);
+        }
         x += block + gap;
     }
-    m_top = y + g.unit + valueHeight + em(0.5);
+    m_top = y + height + em(0.5);
 }
 
 void ProgressLayout::layRows()
@@ -70,26 +109,61 @@ void ProgressLayout::layRows()
         lane.area = QRectF(0, y + em(headerHeight), 0, share * left);
         y = lane.area.bottom() + em(laneGap);
     };
-    lay(g.weight, 0.27);
-    lay(g.girths, 0.37);
-    lay(g.balance, 0.36);
-    // Above the highest value there is room for the marks of values beyond the scale.
-    const auto scale = [](ProgressLane &lane, const Range &range, double leastStep, double room) {
+    lay(g.weight, 0.28);
+    lay(g.girths, 0.32);
+    lay(g.balance, 0.40);
+    layBodyScales();
+    layBalanceScale(0);
+}
+
+/// Above the highest value there is room for the marks of values beyond the scale.
+void ProgressLayout::layBodyScales()
+{
+    const auto scale = [this](ProgressLane &lane, const Range &range) {
         if (!range.isEmpty())
-            lane.scale = scaleOf(range, scaleSteps, leastStep,
-                                 lane.area.top() + std::min(room, lane.area.height() / 4),
+            lane.scale = scaleOf(range, bodySteps, leastBodyStep,
+                                 lane.area.top() + std::min(em(0.6), lane.area.height() / 4),
                                  lane.area.bottom());
     };
-    scale(g.weight, m_series.weights, leastBodyStep, em(0.6));
-    scale(g.girths, m_series.girths, leastBodyStep, em(0.6));
-    scale(g.balance, m_series.calories, leastBalanceStep, 0);
+    Range weights = m_series.weights;
+    for (qint16 day = 1; m_series.hasBody() && day <= m_series.nDays(); ++day) {
+        m_averages.push_back(averageAt(m_series.measured(Series::Weight), m_series.date(day)));
+        if (m_averages.back()) // the days before the period may have been higher or lower
+            weights.widen(float(*m_averages.back()));
+    }
+    scale(g.weight, weights);
+    scale(g.girths, m_series.girths);
+}
+
+void ProgressLayout::layBalanceScale(double valueHeight)
+{
+    const QRectF &area = g.balance.area;
+    g.balance.scale = scaleOf(m_series.calories, balanceSteps, leastBalanceStep,
+                              area.top() + valueHeight, area.bottom() - valueHeight);
+}
+
+/// Above and below the balance there is room for the values at the ends of its columns, unless they
+/// are so wide that few of them would find any.
+void ProgressLayout::layBalanceValues()
+{
+    double widest = 0;
+    for (qint16 day = 1; day <= m_series.nDays(); ++day) {
+        if (m_series.at(day).hasCalories)
+            widest = std::max(widest, width(balanceValue(day)));
+    }
+    m_hasBalanceValues = widest > 0 && widest <= mostDaysOfValue * g.days.dayWidth &&
+                         g.balance.area.height() >= em(leastLaneOfValues);
+    if (!m_hasBalanceValues)
+        return;
+    layBalanceScale(g.unit);
+    layColumns(); // whose labels may be fewer now, and narrower
 }
 
 QString ProgressLayout::lineLabel(Series series) const
 {
     for (qint16 day = m_series.nDays(); day >= 1; --day) {
         const Day &record = m_series.at(day);
-        if (!record.isKnown(series))
+        if (record.source != BodySource::Measured || !record.isKnown(series))
             continue;
         const QString value = m_texts.number(double(record.value(series)));
         return series == Series::Weight ? value

@@ -53,11 +53,15 @@ struct SeriesLine
     PlacedText label;             ///< at the end: what it is and its last value
 };
 
+/// Through the averages of days that follow each other.
+using TrendLine = std::vector<QPointF>;
+
 struct BalanceColumn
 {
     qint16 day;
     QRectF rect;
     bool isSurplus;
+    PlacedText value; ///< beyond its end, where there is room
 };
 
 /// A scale with its title and legend, the plot below them.
@@ -74,6 +78,7 @@ enum class LegendKind
     Measured,
     FilledIn,
     BeyondScale,
+    Trend,
     Surplus,
     Deficit,
     Average,
@@ -111,9 +116,11 @@ struct ProgressGeometry
     ProgressLane girths;
     ProgressLane balance;
     std::vector<SeriesLine> lines;
+    std::vector<TrendLine> trend; ///< of the weight, a line for each run of days that have one
     std::vector<BalanceColumn> columns;
     std::vector<QRectF> notRecorded; ///< strips on the zero line where calories are missing
     double averageY = 0;             ///< of the balance; drawn where hasAverage
+    std::vector<QLineF> averageLine; ///< broken where values of columns stand
     bool hasAverage = false;
 
     std::vector<NoteSpan> notes;

@@ -38,6 +38,7 @@ public:
         placeFigures();
         layRows();
         layColumns();
+        layBalanceValues();
         placeDates();
         if (g.isEmpty) {
             sayAcross(g.plot, ProgressTexts::tr("There are no measurements, meals, activities or "
@@ -46,6 +47,7 @@ public:
         }
         placeNotes();
         placeLines();
+        placeTrend();
         placeBalance();
         placeTicks();
         placeTitles();
@@ -56,21 +58,36 @@ private:
     double em(double count) const { return count * g.unit; }
     double width(const QString &text, TextRole role = TextRole::Plain) const
     {
-        return m_metrics.width(text, role);
+        return m_metrics.width(ProgressTexts::withMinus(text), role);
     }
     void text(const QRectF &rect, const QString &words, Qt::Alignment alignment,
               TextRole role = TextRole::Plain, Tone tone = Tone::Ink)
     {
-        g.texts.push_back({rect, words, alignment, role, tone});
+        g.texts.push_back({rect, ProgressTexts::withMinus(words), alignment, role, tone});
     }
     void sayAcross(const QRectF &rect, const QString &words)
     {
         text(rect, words, Qt::AlignCenter, TextRole::Plain, Tone::Muted);
     }
 
+    /// How large the figures' values are, and which words for trends stand below them, if any.
+    struct FigureLook
+    {
+        TextRole role = TextRole::Caption;
+        std::optional<TrendForm> trend;
+    };
     void placeFigures();
-    double figuresWidth(const std::vector<Figure> &figures, TextRole role) const;
+    FigureLook figureLook(const std::vector<Figure> &figures, double room) const;
+    double figureWidth(const Figure &figure, const FigureLook &look) const;
+    double figuresWidth(const std::vector<Figure> &figures, const FigureLook &look) const;
     void layRows();
+    void layBodyScales();
+    void layBalanceScale(double valueHeight);
+    void layBalanceValues();
+    QString balanceValue(qint16 day) const
+    {
+        return m_texts.plain().toText(int(m_series.at(day).calories));
+    }
     void layColumns();
     void placeDates();
     void placeDayNumber(qint16 day, double labelWidth);
@@ -84,10 +101,20 @@ private:
         const double left = g.days.right() + em(0.5);
         return {left, top, g.area.right() - left, g.unit};
     }
+    void placeTrend();
     void placeBalance();
+    void placeBalanceValues();
+    bool hasRoomForValue(const BalanceColumn &column, const QRectF &rect) const;
+    void placeAverageLine();
     void placeTicks();
     void placeTitles();
+    void placeWeightTitle();
+    double placeTrendSample(double x, double next);
+    void placeGirthsTitle();
+    void placeBalanceTitle();
     double placeTitle(const ProgressLane &lane, const QString &title);
+    double sampleWidth(LegendKind kind) const;
+    double sampleEnd(double x, LegendKind kind, const QString &name) const;
     double placeSample(const ProgressLane &lane, double x, LegendKind kind, const QString &name,
                        Series series = Series::Weight);
     QString lineLabel(Series series) const;
@@ -97,9 +124,11 @@ private:
     const TextMetrics &m_metrics;
     const ProgressTexts &m_texts;
     Summary m_summary;
-    double m_top = 0; ///< below the line of figures
-    QRectF m_strip;   ///< of the notes
+    std::vector<std::optional<double>> m_averages; ///< of the weight, a day each
+    double m_top = 0;                              ///< below the line of figures
+    QRectF m_strip;                                ///< of the notes
     int m_noteRows = 1;
+    bool m_hasBalanceValues = false;
     double m_footTop = 0;
 };
 

@@ -55,6 +55,25 @@ SeriesLine seriesLine(const DaySeries &days, Series series, const ProgressLane &
     return line;
 }
 
+std::vector<TrendLine> trendLines(const std::vector<std::optional<double>> &averages,
+                                  const ProgressLane &lane, const DayScale &scale, double longest)
+{
+    std::vector<TrendLine> lines;
+    for (size_t i = 0; i < averages.size(); ++i) {
+        if (!averages[i])
+            continue;
+        if (i == 0 || !averages[i - 1])
+            lines.emplace_back();
+        lines.back().emplace_back(scale.center(qint16(i + 1)), lane.scale.y(*averages[i]));
+    }
+    const QPointF half(std::min(longest, scale.dayWidth) / 2, 0);
+    for (TrendLine &line : lines) {
+        if (line.size() == 1)
+            line = {line.front() - half, line.front() + half};
+    }
+    return lines;
+}
+
 std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const ProgressLane &lane,
                                           const DayScale &scale, double widest)
 {
@@ -69,7 +88,8 @@ std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const ProgressL
         columns.push_back({day,
                            QRectF(scale.center(day) - width / 2, std::min(zero, end), width,
                                   std::abs(zero - end)),
-                           record.calories > 0});
+                           record.calories > 0,
+                           {}});
     }
     return columns;
 }

@@ -9,6 +9,10 @@ namespace progress {
 SeriesLine seriesLine(const DaySeries &days, Series series, const ProgressLane &lane,
                       const DayScale &scale);
 
+/// A line for each run of days that have an average; of a day alone, a dash no longer than that.
+std::vector<TrendLine> trendLines(const std::vector<std::optional<double>> &averages,
+                                  const ProgressLane &lane, const DayScale &scale, double longest);
+
 std::vector<BalanceColumn> balanceColumns(const DaySeries &days, const ProgressLane &lane,
                                           const DayScale &scale, double widest);
 

@@ -39,8 +39,14 @@ private:
     QPen bridgePen(Series series) const
     {
         QPen bridge = pen(c.line(series), 1.4);
-        bridge.setDashPattern({2, 2});
+        bridge.setDashPattern({1, 2});
         return bridge;
+    }
+    QPen trendPen() const
+    {
+        QPen trend = pen(c.trend, 2);
+        trend.setDashPattern({5, 2.5});
+        return trend;
     }
     using Drawing::horizontal;
     void horizontal(double y, const QColor &color)
@@ -53,6 +59,7 @@ private:
     void paintLane(const ProgressLane &lane);
     void paintColumns();
     void paintLine(const SeriesLine &line);
+    void paintTrend();
     void paintBeyond(const Mark &mark, double radius);
     void paintSample(const LegendEntry &entry);
     void paintStrip(const QRectF &rect);
@@ -97,6 +104,7 @@ void ProgressPainter::paint()
     }
     for (const SeriesLine &line : g.lines)
         paintLine(line);
+    paintTrend();
     for (const NoteSpan &note : g.notes)
         paintNote(note, c.note, c.noteEdge, c.ink);
     for (const LegendEntry &entry : g.legend)
@@ -105,6 +113,8 @@ void ProgressPainter::paint()
         text(placed);
     for (const SeriesLine &line : g.lines)
         text(line.label);
+    for (const BalanceColumn &column : g.columns)
+        text(column.value);
 }
 
 void ProgressPainter::paintFrame()
@@ -142,7 +152,7 @@ void ProgressPainter::paintColumns()
     horizontal(g.balance.scale.y(0), c.axis);
     if (g.hasAverage) {
         p.setPen(averagePen());
-        p.drawLine(QPointF(g.plot.left(), g.averageY), QPointF(g.plot.right(), g.averageY));
+        p.drawLines(g.averageLine.data(), int(g.averageLine.size()));
     }
 }
 
@@ -162,6 +172,15 @@ void ProgressPainter::paintLine(const SeriesLine &line)
     p.drawLines(QList<QLineF>(line.bridges.begin(), line.bridges.end()));
     for (const Mark &mark : line.marks)
         paintMark(mark, line.series);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void ProgressPainter::paintTrend()
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(trendPen());
+    for (const TrendLine &line : g.trend)
+        p.drawPolyline(line.data(), int(line.size()));
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
@@ -234,6 +253,10 @@ void ProgressPainter::paintSample(const LegendEntry &entry)
         p.drawLine(left + QPointF(0, em(0.25)), right + QPointF(0, em(0.25)));
         paintMark({0, Mark::Kind::AboveScale, rect.center() - QPointF(0, em(0.35))}, Series::Weight,
                   usual);
+        break;
+    case LegendKind::Trend:
+        p.setPen(trendPen());
+        p.drawLine(left, right);
         break;
     case LegendKind::Average:
         p.setPen(averagePen());

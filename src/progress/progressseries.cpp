@@ -48,7 +48,31 @@ void loadBody(deData &data, DaySeries &series)
             for (const float girth : {day.waist, day.breast, day.hips})
                 series.girths.widen(girth);
             series.weights.widen(day.weight);
+            for (const Series which : allSeries)
+                series.addMeasured(
+                    which, {rows.date(schema::Body::DateMeasured), double(day.value(which))});
         });
+    }
+    rows.close();
+}
+
+/// The days before the period that its trend reaches back to. A slip of the hand there must not
+/// keep the period from being shown.
+void loadEarlierBody(deData &data, DaySeries &series)
+{
+    constexpr double mostBelieved = 1e6;
+    const QDate first = series.period().dateFrom;
+    Recordset &rows = data.rsGPBody;
+    rows.reopen({Value(first.addDays(1 - slopeDays)), Value(first.addDays(-1))});
+    for (; !rows.isEof(); rows.moveNext()) {
+        for (const auto &[which, column] : {std::pair(Series::Weight, schema::Body::Weight),
+                                            {Series::Breast, schema::Body::Breast},
+                                            {Series::Waist, schema::Body::Waist},
+                                            {Series::Hips, schema::Body::Hips}}) {
+            if (rows.number(column) < mostBelieved)
+                series.addMeasured(which,
+                                   {rows.date(schema::Body::DateMeasured), rows.number(column)});
+        }
     }
     rows.close();
 }
@@ -116,6 +140,12 @@ qint16 DaySeries::dayOf(QDate date) const
     return toInt16(m_period.dateFrom.daysTo(date) + 1);
 }
 
+void DaySeries::addMeasured(Series which, const MeasuredValue &value)
+{
+    if (value.value > 0) // a measurement may leave a value at 0
+        progress::addMeasured(m_measured[size_t(which)], value);
+}
+
 size_t DaySeries::indexOf(qint16 day)
 {
     if (day < 1 || day > mostDays)
@@ -165,6 +195,7 @@ void DaySeries::ApproximateSpan(qint16 first, qint16 last)
 DaySeries loadSeries(deData &data, const Period &period, double metabolicRate)
 {
     DaySeries series(period);
+    loadEarlierBody(data, series);
     loadBody(data, series);
     loadCalories(data, series, metabolicRate);
     series.Approximate();

@@ -3,6 +3,7 @@
 
 #include "data/deData.h"
 #include "progress/progressperiod.h"
+#include "progress/progresstrend.h"
 
 #include <array>
 #include <string>
@@ -100,6 +101,11 @@ public:
     Range calories = {-2000, 2000};
     std::vector<Note> notes;
 
+    /// What was measured, in the period and in the days before it that its first averages and a
+    /// slope reach back to; a measured value stays here where a gap was filled in over it.
+    const MeasuredValues &measured(Series which) const { return m_measured[size_t(which)]; }
+    void addMeasured(Series which, const MeasuredValue &value);
+
     bool hasBody() const { return !weights.isEmpty(); }
     bool hasCalories() const;
     bool isEmpty() const { return !hasBody() && !hasCalories() && notes.empty(); }
@@ -114,6 +120,7 @@ private:
     Period m_period;
     qint16 m_nDays;
     std::array<Day, mostDays> m_days;
+    std::array<MeasuredValues, allSeries.size()> m_measured;
 };
 
 /// Reads a period. The balance of a day takes a whole day of background burn from what was

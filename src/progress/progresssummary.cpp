@@ -27,6 +27,7 @@ Summary summaryOf(const DaySeries &series)
 {
     Summary summary;
     summary.days = series.nDays();
+    summary.lastDay = series.period().dateTo;
     double total = 0;
     for (qint16 day = 1; day <= series.nDays(); ++day) {
         const Day &record = series.at(day);
@@ -37,8 +38,12 @@ Summary summaryOf(const DaySeries &series)
     }
     if (summary.calorieDays > 0)
         summary.averageBalance = total / summary.calorieDays;
-    for (const Series which : allSeries)
+    for (const Series which : allSeries) {
         summary.changes[size_t(which)] = changeOf(series, which);
+        const Trend trend = trendOf(series.measured(which));
+        if (trend.last >= series.period().dateFrom)
+            summary.trends[size_t(which)] = trend;
+    }
     return summary;
 }
 

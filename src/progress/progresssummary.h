@@ -15,8 +15,12 @@ struct Summary
     std::optional<double> averageBalance;
     int calorieDays = 0;
     int days = 0;
+    QDate lastDay;
+    /// Of those measured in the period; without days for the others.
+    std::array<Trend, allSeries.size()> trends;
 
     std::optional<double> change(Series series) const { return changes[size_t(series)]; }
+    const Trend &trend(Series series) const { return trends[size_t(series)]; }
 };
 
 Summary summaryOf(const DaySeries &series);

@@ -61,22 +61,90 @@ QString ProgressTexts::tick(double value, double step) const
     return locale().toString(value, 'f', decimals);
 }
 
+QString ProgressTexts::withMinus(QString figure)
+{
+    constexpr char16_t minusSign = 0x2212;
+    return figure.replace(u'-', QChar(minusSign));
+}
+
+QString ProgressTexts::slope(double perWeek) const
+{
+    const double rounded = roundHalfEven(perWeek, 1);
+    const QString sign = rounded > 0 ? locale().positiveSign() : QString();
+    // What rounds to no change has neither sign.
+    return withMinus(sign + locale().toString(rounded == 0 ? 0 : rounded, 'f', 1));
+}
+
+QString ProgressTexts::slopeWithUnit(Series series, const Trend &trend) const
+{
+    return tr("%1 %2 a week").arg(slope(*trend.perWeek), unit(series));
+}
+
+QString ProgressTexts::slopeWords(Series series, const Summary &summary) const
+{
+    const Trend &trend = summary.trend(series);
+    if (trend.days == 0)
+        return tr("not measured");
+    if (trend.days < leastSlopeDays)
+        return tr("measured on fewer than %1 days in four weeks")
+            .arg(locale().toString(leastSlopeDays));
+    if (!trend.perWeek)
+        return tr("measured within less than a week");
+    // Which weeks these are is plain from the period, unless it goes on without measurements.
+    const QString weeks = trend.last.daysTo(summary.lastDay) < averagedDays
+                              ? tr("the last four weeks")
+                              : tr("the four weeks to %1").arg(m_text.mediumDate(trend.last));
+    return tr("%1 over %2 (%3 days)")
+        .arg(slopeWithUnit(series, trend), weeks, locale().toString(trend.days));
+}
+
+QStringList ProgressTexts::trendNames(const Summary &summary) const
+{
+    QStringList names = {tr("trend: %1").arg(slopeWords(Series::Weight, summary))};
+    const Trend &trend = summary.trend(Series::Weight);
+    if (trend.perWeek) {
+        const QString slope = slopeWithUnit(Series::Weight, trend);
+        names += tr("trend: %1 (%2 days)").arg(slope, locale().toString(trend.days));
+        names += tr("trend: %1").arg(slope);
+    }
+    names += tr("trend");
+    return names;
+}
+
+Figure ProgressTexts::changeFigure(Series series, const Summary &summary) const
+{
+    Figure figure = {name(series), notKnown(), {}};
+    if (const auto &difference = summary.change(series))
+        figure.value = tr("%1 %2").arg(change(*difference), unit(series));
+    const Trend &trend = summary.trend(series);
+    if (trend.perWeek) {
+        const QString weekly = tr("%1 a week").arg(slope(*trend.perWeek));
+        const QString days = tr("%1 days").arg(locale().toString(trend.days));
+        figure.trend = {QStringList{tr("%1 (%2)").arg(weekly, days)}, {weekly, days}, {weekly}};
+    } else if (trend.days > 0) {
+        figure.trend = {QStringList{tr("too few days for a trend")},
+                        {tr("too few days"), tr("for a trend")},
+                        {tr("no trend")}};
+    }
+    return figure;
+}
+
 std::vector<Figure> ProgressTexts::figures(const Summary &summary) const
 {
     std::vector<Figure> figures;
-    for (const Series series : allSeries) {
-        const auto &difference = summary.change(series);
-        figures.push_back({name(series), difference
-                                             ? tr("%1 %2").arg(change(*difference), unit(series))
-                                             : notKnown()});
-    }
+    figures.reserve(allSeries.size() + 2);
+    for (const Series series : allSeries)
+        figures.push_back(changeFigure(series, summary));
     figures.push_back({tr("Average balance"),
                        summary.averageBalance
                            ? tr("%1 kcal a day").arg(change(std::round(*summary.averageBalance)))
-                           : notKnown()});
-    figures.push_back({tr("Days with calories"), tr("%1 of %2")
-                                                     .arg(locale().toString(summary.calorieDays),
-                                                          locale().toString(summary.days))});
+                           : notKnown(),
+                       {}});
+    figures.push_back(
+        {tr("Days with calories"),
+         tr("%1 of %2")
+             .arg(locale().toString(summary.calorieDays), locale().toString(summary.days)),
+         {}});
     return figures;
 }
 
@@ -87,7 +155,15 @@ QString ProgressTexts::summaryWords(const Summary &summary) const
         const bool isKnown = figure.value != notKnown();
         words += tr("%1: %2").arg(figure.name, isKnown ? figure.value : tr("not known"));
     }
-    return tr("Changes over the period: %1").arg(words.join(QStringLiteral(". ")));
+    QString sentences = tr("Changes over the period: %1").arg(words.join(QStringLiteral(". ")));
+    QStringList trends;
+    for (const Series series : allSeries) {
+        if (summary.trend(series).days > 0)
+            trends += tr("%1: %2").arg(name(series), slopeWords(series, summary));
+    }
+    if (!trends.isEmpty())
+        sentences += tr(". Trend: %1").arg(trends.join(QStringLiteral(". ")));
+    return sentences;
 }
 
 QString ProgressTexts::days(QDate first, QDate last) const
@@ -131,12 +207,25 @@ QString ProgressTexts::balanceWords(const Day &day) const
                             : tr("%1, more eaten than burnt").arg(figure);
 }
 
+QString ProgressTexts::trendWords(const DaySeries &series, QDate date) const
+{
+    const auto average = averageAt(series.measured(Series::Weight), date);
+    if (!average)
+        return {};
+    return tr("Trend %1 %2")
+        .arg(locale().toString(roundHalfEven(*average, 1), 'f', 1), unit(Series::Weight));
+}
+
 QString ProgressTexts::dayWords(const DaySeries &series, qint16 day) const
 {
     const Day &record = series.at(day);
     QStringList lines = {longDate(series.date(day))};
-    for (const Series which : allSeries)
+    for (const Series which : allSeries) {
         lines += valueWords(record, which);
+        if (which == Series::Weight)
+            lines += trendWords(series, series.date(day));
+    }
+    lines.removeAll({});
     lines += balanceWords(record);
     QStringList letters;
     for (const size_t note : notesOn(series, series.date(day)))

@@ -5,14 +5,29 @@
 #include "session/localetext.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+
+#include <array>
 
 namespace progress {
+
+/// How much is told of a trend's slope, or why there is none, and in how many lines.
+enum class TrendForm
+{
+    OneLine,
+    TwoLines,
+    SlopeAlone ///< without the days that it rests on
+};
+inline constexpr size_t trendForms = 3;
 
 /// A figure in the line of figures.
 struct Figure
 {
     QString name;
     QString value;
+    std::array<QStringList, trendForms> trend; ///< lines in each form; none for what has no trend
+
+    const QStringList &trendIn(TrendForm form) const { return trend[size_t(form)]; }
 };
 
 class ProgressTexts
@@ -44,6 +59,13 @@ public:
     /// Of a scale with that step.
     QString tick(double value, double step) const;
     QString notKnown() const { return QStringLiteral("–"); }
+    /// With a minus sign that is as wide as a plus, for what is only looked at or read out.
+    static QString withMinus(QString figure);
+
+    /// "−0.4 kg a week over the last four weeks (12 days)", or why there is no slope.
+    QString slopeWords(Series series, const Summary &summary) const;
+    /// What the line of the weight's trend is called, from the most words to the fewest.
+    QStringList trendNames(const Summary &summary) const;
 
     std::vector<Figure> figures(const Summary &summary) const;
     /// The line of figures as a sentence for a screen reader.
@@ -55,11 +77,17 @@ public:
     /// What a note says; of a longer one the first so many characters, and how many there are.
     QString noteText(const Note &note, qsizetype most) const;
 
-    /// Everything that is known of a day, a line for each figure, missing ones said to be missing.
+    /// Everything that is known of a day, a line for each figure, missing ones said to be missing;
+    /// the weight's trend only where there is one.
     QString dayWords(const DaySeries &series, qint16 day) const;
 
 private:
+    QString slope(double perWeek) const;
+    QString slopeWithUnit(Series series, const Trend &trend) const;
+    Figure changeFigure(Series series, const Summary &summary) const;
     QString valueWords(const Day &day, Series series) const;
+    /// Empty where there is none.
+    QString trendWords(const DaySeries &series, QDate date) const;
     QString balanceWords(const Day &day) const;
 
     const LocaleText &m_text;

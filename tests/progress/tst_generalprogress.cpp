@@ -96,6 +96,8 @@ private slots:
         const QModelIndex row = control<QTreeView>(window, "lvwDays").model()->index(1, 1);
         QCOMPARE(row.data().toString(), QStringLiteral("(119)"));
         QVERIFY(row.data(Qt::FontRole).value<QFont>().italic());
+        QVERIFY(chart.accessibleName().endsWith(
+            QStringLiteral("Hips: 0.0 inch a week over the four weeks to 20 Jul 2026 (5 days)")));
         QTest::keyClick(&chart, Qt::Key_Left);
 
         QTest::mouseMove(&chart, chart.rect().center());
@@ -116,7 +118,8 @@ private slots:
     }
     void paintsWhatIsLaidOut()
     {
-        m_journal->addMeasurement(firstDay.addDays(9), 78);
+        for (const int day : {9, 10})
+            m_journal->addMeasurement(firstDay.addDays(day), 78);
         m_journal->addMeal(firstDay.addDays(3), 900);
         m_journal->exec("delete from MealConsume where MealConsumeID in (11, 12)");
         m_journal->addNote(firstDay.addDays(20), firstDay.addDays(26), QStringLiteral("Note"));
@@ -165,7 +168,10 @@ private slots:
             for (const double y : g.girths.grid)
                 QVERIFY(has({g.plot.left(), y - 1, g.plot.width(), 2}, c.grid, 0.1));
             QVERIFY(has({g.plot.left(), g.averageY - 2, g.plot.width(), 3}, c.ink, 0.05));
-            QCOMPARE(g.legend.size(), size_t(9));
+            QCOMPARE(g.trend.size(), size_t(1)); // of four days, with the dashes of a line
+            const QRectF trend(g.trend[0].front(), g.trend[0].back());
+            QVERIFY(has(trend.normalized().adjusted(0, -2, 0, 2), c.trend, 0.02));
+            QCOMPARE(g.legend.size(), size_t(10));
             for (const progress::LegendEntry &entry : g.legend) {
                 using Kind = progress::LegendKind;
                 QVERIFY(!has(entry.sample, c.ground, 0.98));

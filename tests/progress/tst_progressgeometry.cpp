@@ -20,6 +20,7 @@ void measure(DaySeries &series, int day, float weight)
     series.at(qint16(day)) = {100, 85, 104, weight, 0, BodySource::Measured, false};
     series.girths = {85, 104};
     series.weights.widen(weight);
+    series.addMeasured(Series::Weight, {series.date(qint16(day)), double(weight)});
 }
 
 void balance(DaySeries &series, int day, qint16 calories)
@@ -48,6 +49,8 @@ DaySeries anySeries(quint32 seed)
     DaySeries series = seriesWithNotes(days, seed % 5 == 0 ? 0 : random.bounded(60));
     const auto girth = [&] { return 80 + float(random.bounded(seed % 2 ? 30 : 2)); };
     const int end = seed % 7 == 0 ? 0 : random.bounded(2 * days);
+    for (int before = 0; before < int(seed % 3); ++before)
+        series.addMeasured(Series::Weight, {firstDay.addDays(-3 * before - 1), 60 + 20.0 * before});
     for (int day = 1; day <= days; ++day) {
         if (day < end && random.bounded(3) > 0) {
             Day &measured = series.at(qint16(day));
@@ -56,6 +59,7 @@ DaySeries anySeries(quint32 seed)
                         0,       BodySource::Measured,
                         false};
             series.weights.widen(measured.weight);
+            series.addMeasured(Series::Weight, {series.date(qint16(day)), double(measured.weight)});
             for (const float value : {measured.breast, measured.waist, measured.hips})
                 series.girths.widen(value);
         }
@@ -115,6 +119,10 @@ bool textsFit(const Sample &s)
         if (!line.label.text.isEmpty())
             rects.push_back(line.label.rect);
     }
+    for (const BalanceColumn &column : s.g.columns) {
+        if (!column.value.text.isEmpty())
+            rects.push_back(column.value.rect);
+    }
     return fit(rects, s.area);
 }
 
@@ -133,16 +141,20 @@ bool lanesKeepTheirHeight(const Sample &s)
     return near(bottom + 0.45 * s.lineHeight, s.g.plot.bottom(), 0.5 * s.lineHeight) &&
            s.g.plot.width() > 0.5 * s.area.width() && s.g.plot.contains(s.g.girths.area) &&
            near(s.area.bottom() - s.g.plot.bottom(), 2.5 * s.lineHeight) &&
-           near(s.g.weight.area.height() * 37, s.g.girths.area.height() * 27, 1e-3) &&
-           near(s.g.balance.area.height() * 37, s.g.girths.area.height() * 36, 1e-3);
+           near(s.g.weight.area.height() * 32, s.g.girths.area.height() * 28, 1e-3) &&
+           near(s.g.balance.area.height() * 32, s.g.girths.area.height() * 40, 1e-3);
 }
 
 /// From a value's place on its lane, the lowest label's at the foot.
 double heightOf(const ProgressLane &lane, double value)
 {
-    const double top = lane.scale.topY;
-    return lane.area.bottom() - (value - lane.scale.low) * (lane.area.bottom() - top) /
-                                    (lane.scale.high - lane.scale.low);
+    const auto [top, bottom] = std::pair(lane.scale.topY, lane.scale.bottomY);
+    return bottom - (value - lane.scale.low) * (bottom - top) / (lane.scale.high - lane.scale.low);
+}
+
+double numberIn(QString text)
+{
+    return text.remove(u',').replace(QChar(0x2212), u'-').toDouble();
 }
 
 bool scalesAreLabelled(const Sample &s)
@@ -151,8 +163,10 @@ bool scalesAreLabelled(const Sample &s)
         const bool isEmpty = lane == &s.g.balance ? false : !s.series.hasBody();
         if (isEmpty ? !lane->grid.empty() : lane->grid.size() < 2)
             return false;
-        const double room = lane->scale.topY - lane->area.top();
-        if (!isEmpty && (room < 0 || room > 0.25 * lane->area.height() + 1e-6))
+        const double above = lane->scale.topY - lane->area.top();
+        const double below = lane->area.bottom() - lane->scale.bottomY;
+        if (!isEmpty &&
+            (below < -1e-6 || below > above + 1e-6 || above > 0.25 * lane->area.height() + 1e-6))
             return false;
         for (size_t i = 0; i < lane->grid.size(); ++i) {
             const double y = lane->grid[i];
@@ -162,7 +176,7 @@ bool scalesAreLabelled(const Sample &s)
             const bool isLabelled = anyText(s, [&](const PlacedText &text) {
                 return near(text.rect.right(), s.g.plot.left() - 0.4 * s.lineHeight) &&
                        near(text.rect.center().y(), y) &&
-                       near(heightOf(*lane, QString(text.text).remove(u',').toDouble()), y, 0.6);
+                       near(heightOf(*lane, numberIn(text.text)), y, 0.6);
             });
             if (!isLabelled)
                 return false;
@@ -215,6 +229,38 @@ bool linesFollowTheValues(const Sample &s)
             return false;
     }
     return true;
+}
+
+/// The mean of what was measured on seven days, where that are three or more; broken elsewhere.
+bool trendFollowsTheAverages(const Sample &s)
+{
+    const MeasuredValues &measured = s.series.measured(Series::Weight);
+    size_t line = 0, point = 0;
+    for (qint16 day = 1; s.series.hasBody() && day <= s.series.nDays(); ++day) {
+        double sum = 0, count = 0;
+        for (const MeasuredValue &value : measured) {
+            const qint64 ago = value.date.daysTo(s.series.date(day));
+            sum += ago >= 0 && ago < 7 ? value.value : 0;
+            count += ago >= 0 && ago < 7 ? 1 : 0;
+        }
+        if (count < 3) {
+            line += point > 0;
+            point = 0;
+            continue;
+        }
+        if (line >= s.g.trend.size() || point >= s.g.trend[line].size())
+            return false;
+        const QPointF at = s.g.trend[line][point++];
+        const bool isAlone = s.g.trend[line].size() == 2 && at.y() == s.g.trend[line][1].y();
+        if (!near(at.y(), heightOf(s.g.weight, sum / count), 1e-3) ||
+            !near(at.x(), s.center(day), isAlone ? 0.51 * s.lineHeight : 1e-6) ||
+            !s.g.weight.area.adjusted(0, -1e-6, 0, 1e-6).contains(at))
+            return false;
+    }
+    const bool isNamed = std::any_of(s.g.legend.begin(), s.g.legend.end(), [](const auto &entry) {
+        return entry.kind == LegendKind::Trend;
+    });
+    return line + (point > 0) == s.g.trend.size() && isNamed == !s.g.trend.empty();
 }
 
 /// Beside the last mark of its line, or as near as those of the other lines leave room.
@@ -282,6 +328,40 @@ bool columnsStandOnZero(const Sample &s)
     return column == s.g.columns.end() && near(missing, covered, 1e-3) &&
            s.g.hasAverage == (count > 0) &&
            (count == 0 || near(s.g.averageY, heightOf(lane, sum / count), 1e-3));
+}
+
+/// Beyond the end of its own column and on no other one; all where they are
+/// narrower than a day. The line of the average passes none.
+bool valuesStandAtTheirColumns(const Sample &s)
+{
+    double widest = 0, told = 0;
+    for (const BalanceColumn &column : s.g.columns) {
+        const int calories = s.series.at(column.day).calories;
+        widest = std::max(widest, 0.44 * s.lineHeight * double(QString::number(calories).size()));
+        const QRectF &rect = column.value.rect;
+        const bool isTold = !column.value.text.isEmpty();
+        if (!isTold)
+            continue;
+        ++told;
+        if (numberIn(column.value.text) != calories || !s.g.balance.area.contains(rect.center()) ||
+            !near(rect.center().x(), s.center(column.day)) ||
+            !near(calories < 0 ? rect.top() : rect.bottom(), heightOf(s.g.balance, calories)) ||
+            std::any_of(s.g.columns.begin(), s.g.columns.end(), [&](const BalanceColumn &other) {
+                const QRectF common = other.rect & rect;
+                return common.width() > 0.01 && common.height() > 0.01;
+            }))
+            return false;
+        for (const QLineF &line : s.g.averageLine) {
+            if (line.y1() > rect.top() && line.y1() < rect.bottom() && line.x1() < rect.right() &&
+                line.x2() > rect.left())
+                return false;
+        }
+    }
+    if (s.g.balance.area.height() < 6 * s.lineHeight || widest == 0)
+        return told == 0;
+    const bool isAllRoom = widest + 0.25 * s.lineHeight < s.g.days.dayWidth;
+    return isAllRoom ? told == double(s.g.columns.size())
+                     : (widest > 1.35 * s.g.days.dayWidth) == (told == 0);
 }
 
 bool datesStandAtTheirDays(const Sample &s)
@@ -382,9 +462,11 @@ bool widerShowsNoLess(const Sample &s)
                              [](const NoteSpan &note) { return note.hasRoom; });
     };
     const auto unscaled = [](const ProgressGeometry &geometry) {
-        return std::count_if(
-            geometry.texts.begin(), geometry.texts.end(),
-            [&](const PlacedText &text) { return text.rect.right() > geometry.plot.left(); });
+        return std::count_if(geometry.texts.begin(), geometry.texts.end(),
+                             [&](const PlacedText &text) {
+                                 return text.rect.right() > geometry.plot.left() &&
+                                        text.rect.top() > geometry.plot.top();
+                             });
     };
     return unscaled(g) >= unscaled(s.g) && g.legend.size() >= s.g.legend.size() &&
            lettered(g) >= lettered(s.g);
@@ -396,9 +478,11 @@ constexpr std::array properties = {
     Property<Sample>{"scales are labelled",
                      [](const Sample &s) { return s.g.isEmpty || scalesAreLabelled(s); }},
     Property<Sample>{"lines follow the values", linesFollowTheValues},
+    Property<Sample>{"trend follows the averages", trendFollowsTheAverages},
     Property<Sample>{"lines are labelled", linesAreLabelled},
     Property<Sample>{"columns stand on zero",
                      [](const Sample &s) { return s.g.isEmpty || columnsStandOnZero(s); }},
+    Property<Sample>{"values stand at their columns", valuesStandAtTheirColumns},
     Property<Sample>{"dates stand at their days", datesStandAtTheirDays},
     Property<Sample>{"notes span their days", notesSpanTheirDays},
     Property<Sample>{"empty lanes say why", emptyLanesSayWhy},
@@ -455,6 +539,18 @@ private slots:
         QCOMPARE(line.measured.size(), size_t(2));
         QCOMPARE(line.bridges.size(), size_t(1));
         QCOMPARE(line.bridges[0], QLineF(line.marks[1].at, line.marks[3].at));
+    }
+    void lastValueIsMeasured()
+    {
+        DaySeries series = seriesOf(4);
+        for (const int day : {1, 2, 4})
+            measure(series, day, 80);
+        series.at(4).breast = 0; // left out, but filled in on the day before
+        series.Approximate();
+        QVERIFY(series.at(3).isKnown(Series::Breast));
+        const SeriesLine breast = geometryOf(series).lines[1];
+        QCOMPARE(breast.label.text, QStringLiteral("Breast 100"));
+        QVERIFY(near(breast.label.rect.center().y(), breast.marks[1].at.y()));
     }
     void notesAreClippedAndLettered()
     {

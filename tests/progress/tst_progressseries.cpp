@@ -145,6 +145,51 @@ private slots:
         QVERIFY(!found.change(Series::Breast)); // 0 is no value, and one tells of no change
         QCOMPARE(found.averageBalance, std::optional(-150.0)); // over two days, not eight
     }
+    void averages()
+    {
+        ProgressJournal journal;
+        for (const auto &[day, weight] : {std::pair(-28, 1e9), {-3, 1e9}, {-2, 82.0}, {-1, 81.0}})
+            journal.addMeasurement(firstDay.addDays(day), weight);
+        for (const auto &[day, waist] : {std::pair(0, 80), {2, 0}, {3, 80}})
+            journal.addMeasurement(firstDay.addDays(day), 80, 90, waist);
+        const DaySeries series = load(journal, 12);
+        QCOMPARE(sources(series).left(4), QStringLiteral("MFFM"));
+        const auto average = [&](int day) {
+            return averageAt(series.measured(Series::Weight), series.date(qint16(day)));
+        };
+        QCOMPARE(average(1), std::optional(81.0));  // but for what nobody weighs
+        QCOMPARE(average(2), std::optional(81.0));  // nothing that is filled in counts
+        QCOMPARE(average(3), std::optional(80.75)); // what was measured does where it is filled in
+        QCOMPARE(average(7), std::optional(80.0));
+        QVERIFY(!average(8)); // two days are left
+    }
+    void slopes()
+    {
+        const ProgressJournal journal(QLocale(QLocale::German, QLocale::Germany));
+        const ProgressTexts texts(journal.session->text(), true);
+        const auto told = [&](const QList<int> &days, double daily) {
+            DaySeries series({firstDay, firstDay.addDays(91)});
+            for (const int day : days) {
+                series.addMeasured(Series::Weight, {firstDay.addDays(day), 80 + daily * day});
+            }
+            return texts.slopeWords(Series::Weight, summaryOf(series));
+        };
+        const auto minus = QStringLiteral("−0,7 kg a week over the ");
+        QCOMPARE(told({85, 82, 88, 91, 3}, -0.1), // in any order; the last was long before
+                 minus + QStringLiteral("last four weeks (4 days)"));
+        QCOMPARE(told({0, 30, 33, 36, 39}, -0.1),
+                 minus + QStringLiteral("four weeks to 10. Juli 2026 (4 days)"));
+        QVERIFY(told({70, 77, 84, 91}, 0.1).startsWith(QStringLiteral("+0,")));
+        QVERIFY(told({82, 84, 86, 90}, -0.002).startsWith(QStringLiteral("0,0 kg")));
+        for (const QList<int> &few : {QList{0, 30, 85, 91}, {85, 87, 89, 91}, {}, {-9}})
+            QVERIFY(!told(few, 1).contains(QStringLiteral("a week over")));
+        MeasuredValues line;
+        for (const int day : {9, 2, 0, 5, 9})
+            addMeasured(line, {firstDay.addDays(day), 80 - 0.2 * day});
+        const Trend trend = trendOf(line);
+        QVERIFY(trend.days == 4 && qAbs(*trend.perWeek + 1.4) < 1e-9);
+        QVERIFY(qAbs(*trend.now - 78.2) < 1e-9);
+    }
     void table()
     {
         ProgressJournal journal(QLocale(QLocale::German, QLocale::Germany));
