@@ -15,6 +15,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 
 using namespace Qt::Literals;
 
@@ -122,6 +123,35 @@ void measureDayList(Table &table, Program &program)
                    compare(30, ours, floor));
 }
 
+// From period to period through all the years and back, on each page of the window.
+void measureProgressSteps(Table &table, Program &program, const progress::Period &period)
+{
+    frmGeneralProgress window(program.session, program.messages, period, program.window.get());
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        qFatal("general progress does not appear");
+    auto &pages = control<QTabWidget>(window, "tabPages");
+    for (int page = 0; page < pages.count(); ++page) {
+        pages.setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        std::vector<double> times;
+        for (const char *name : {"btnPrevious", "btnNext"}) {
+            auto &button = control<QPushButton>(window, name);
+            const auto taken = repeated(18, [&] {
+                return timed([&] {
+                    button.click();
+                    window.repaint();
+                });
+            });
+            times.insert(times.end(), taken.begin(), taken.end());
+        }
+        const QString what = u"to the next six months of progress, page %1, "_qs.arg(
+            pages.tabText(page).remove(u'&'));
+        table.addTime(what + u"median"_qs, median(times), 2 * frame);
+        table.addTime(what + u"slowest"_qs, times.back());
+    }
+}
+
 // As many measurements and notes as the editors allow, one a day: with the full journal's nine the
 // picture would be of a journal that nobody can have.
 void measureProgress(Table &table, Program &program)
@@ -140,6 +170,7 @@ void measureProgress(Table &table, Program &program)
         });
     });
     table.addTime(u"six months of progress loaded and painted"_qs, median(times), 2 * frame);
+    measureProgressSteps(table, program, period);
 }
 
 // What the meal editor reads when it opens: the categories, then the meals of one.

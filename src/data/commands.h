@@ -51,6 +51,7 @@ inline constexpr schema::Column maxDt{"maxDt", schema::Type::Integer, true};
 inline constexpr schema::Column days{"days", schema::Type::Integer};
 inline constexpr schema::Column calories{"calories", schema::Type::Real};
 inline constexpr schema::Column curDate{"curDate", schema::Type::Integer};
+inline constexpr schema::Column records{"records", schema::Type::Integer};
 inline constexpr schema::Column category{"category", schema::Type::Text};
 
 // Catalogues
@@ -163,6 +164,19 @@ inline constexpr Command DaysWithEntries{
     "select ConsumeDate as curDate from MealConsume where ConsumeDate between :begDate and :endDate"
     " union select PerformDate from ExercisePerform where PerformDate between :begDate and "
     ":endDate",
+    {{{":begDate", Date}, {":endDate", Date}}}};
+
+// What was eaten on each day that has a meal. The nutrients are those of the lists, rounded record
+// by record, the calories those of the meals. The order of the tables is that of the loops, or else
+// the engine might sort all rows.
+inline constexpr Command ConsumedByDay{
+    "ConsumedByDay",
+    "select ConsumeDate as curDate, count(*) as records, sum(Round(FatBC*Qty)) as sFat,"
+    " sum(Round(CarbohydrateBC*Qty)) as sCarbohydrate, sum(Round(ProteinBC*Qty)) as sProtein,"
+    " sum(Calories*Qty) as calories"
+    " from MealConsume cross join Meal on MealConsume.MealID = Meal.MealID"
+    " where ConsumeDate between :begDate and :endDate and typeof(ConsumeDate) = 'integer'"
+    " group by ConsumeDate order by ConsumeDate",
     {{{":begDate", Date}, {":endDate", Date}}}};
 
 // Body measurements and notes

@@ -36,6 +36,7 @@ public:
     Recordset rsRecentMeals{Con, commands::RecentMeals};
     Recordset rsRecentActivities{Con, commands::RecentActivities};
     Recordset rsDaysWithEntries{Con, commands::DaysWithEntries};
+    Recordset rsConsumedByDay{Con, commands::ConsumedByDay};
 
     Recordset rsBodySorted{Con, commands::BodySorted};
     Recordset rsBody{Con, commands::Body};

@@ -1,6 +1,7 @@
 #include "exchange/checkrules.h"
 
 #include "session/excerpt.h"
+#include "session/typeddatetime.h"
 
 #include <cmath>
 
@@ -213,8 +214,7 @@ std::optional<QString> faultOf(const ColumnRule &rule, const SQLite::Column &cel
 
 bool isDay(const SQLite::Column &cell)
 {
-    // What a date picker goes through.
-    static const qint64 first = dayNumber(QDate(1752, 9, 14));
-    static const qint64 last = dayNumber(QDate(9999, 12, 31));
+    static const qint64 first = dayNumber(earliestDay);
+    static const qint64 last = dayNumber(latestDay);
     return cell.isInteger() && cell.getInt64() >= first && cell.getInt64() <= last;
 }

@@ -12,14 +12,7 @@ namespace {
 
 constexpr qint64 noDay = std::numeric_limits<qint64>::max();
 
-// Each gives the day and how many records it is made from. The order of the tables in the first two
-// is that of the loops, or else the engine might sort all rows.
-constexpr char mealsByDay[] =
-    "select ConsumeDate, count(*), sum(Round(FatBC*Qty)), sum(Round(CarbohydrateBC*Qty)),"
-    " sum(Round(ProteinBC*Qty))"
-    " from MealConsume cross join Meal on MealConsume.MealID = Meal.MealID"
-    " where ConsumeDate between ?1 and ?2 and typeof(ConsumeDate) = 'integer'"
-    " group by ConsumeDate order by ConsumeDate";
+// Like ConsumedByDay, each gives the day and how many records it is made from.
 constexpr char activitiesByDay[] =
     "select PerformDate, count(*), sum(Round(CaloriesConsume*Qty))"
     " from ExercisePerform cross join Exercise on ExercisePerform.ExerciseID = Exercise.ExerciseID"
@@ -59,7 +52,7 @@ class DaysWriter
 {
 public:
     DaysWriter(Connection &connection, const ExportPeriod &period, CsvFile &file)
-        : m_meals(connection, mealsByDay, period)
+        : m_meals(connection, commands::ConsumedByDay.sql, period)
         , m_activities(connection, activitiesByDay, period)
         , m_body(connection, measurementsByDay, period)
         , m_balance(connection.database(), commands::GPCalories.sql)

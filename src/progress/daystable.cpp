@@ -1,13 +1,7 @@
 #include "progress/daystable.h"
 
-#include "ui/listmodel.h"
-#include "ui/reportstyle.h"
-
 #include <QFont>
-#include <QHeaderView>
 #include <QLabel>
-#include <QTreeView>
-#include <QVBoxLayout>
 
 using namespace progress;
 
@@ -21,8 +15,8 @@ constexpr int balance = lastBody + 2;
 class DaysModel : public ListModel
 {
 public:
-    DaysModel(const DaySeries &series, std::vector<ListColumn> columns, QObject *parent)
-        : ListModel(std::move(columns), parent)
+    DaysModel(const DaySeries &series, std::vector<ListColumn> columns)
+        : ListModel(std::move(columns))
         , m_series(series)
     {
     }
@@ -47,54 +41,40 @@ private:
     const DaySeries &m_series;
 };
 
-ListModel *makeModel(const DaySeries &series, const DaysText &table, QObject *parent)
+std::vector<ListColumn> columnsOf(const QStringList &header)
 {
     std::vector<ListColumn> columns;
-    for (const QString &header : table.header)
-        columns.push_back({header, {}, false});
-    for (int i = firstBody; i <= lastBody; ++i)
-        columns[size_t(i)].isNumber = true;
-    columns[balance].isNumber = true;
-
-    std::vector<ListRow> rows;
-    for (const QStringList &cells : table.rows) {
-        ListRow row = {0, cells, cells.constLast()};
-        row.texts.last() = row.texts.constLast().simplified();
-        rows.push_back(std::move(row));
-    }
-    auto *model = new DaysModel(series, std::move(columns), parent);
-    model->setRows(std::move(rows));
-    return model;
+    columns.reserve(size_t(header.size()));
+    for (int i = 0; i < header.size(); ++i)
+        columns.push_back({header[i], {}, (i >= firstBody && i <= lastBody) || i == balance});
+    return columns;
 }
 
 } // namespace
 
-DaysTable::DaysTable(const DaySeries &series, const DaysText &table, QWidget *parent)
-    : QWidget(parent)
-    , lvwDays(new QTreeView(this))
+DaysTable::DaysTable(const DaySeries &series, const ProgressTexts &texts, QWidget *parent)
+    : FiguresTable(parent, QStringLiteral("lvwDays"), tr("Days"))
+    , m_series(series)
+    , m_texts(texts)
 {
-    setReportStyle(*lvwDays);
-    lvwDays->setObjectName(QStringLiteral("lvwDays"));
-    lvwDays->setAccessibleName(tr("Days"));
-    lvwDays->setModel(makeModel(series, table, lvwDays));
-    lvwDays->setRootIsDecorated(false);
-    lvwDays->setUniformRowHeights(true);
-    lvwDays->setAlternatingRowColors(true);
-    lvwDays->setAllColumnsShowFocus(true);
-    QHeaderView &header = *lvwDays->header();
-    header.setSectionResizeMode(QHeaderView::ResizeToContents);
-    header.setSectionResizeMode(header.count() - 1, QHeaderView::Stretch);
+    explanation()->setObjectName(QStringLiteral("lblFilledIn"));
+    setModel(new DaysModel(series, columnsOf(dayHeader(texts))));
+    refill();
+}
 
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(lvwDays);
-    bool hasFilledIn = false;
-    for (qint16 day = 1; day <= series.nDays(); ++day)
-        hasFilledIn = hasFilledIn || series.at(day).source == BodySource::FilledIn;
-    auto *explanation = new QLabel(tr("Values in brackets were not measured. They are filled in "
-                                      "from the measurements before and after."),
-                                   this);
-    explanation->setObjectName(QStringLiteral("lblFilledIn"));
-    explanation->setVisible(hasFilledIn);
-    explanation->setWordWrap(true);
-    layout->addWidget(explanation);
+void DaysTable::refill()
+{
+    setTable(tableOf(m_series, m_texts), explanationWords());
+}
+
+QString DaysTable::explanationWords() const
+{
+    if (m_series.isEmpty())
+        return m_texts.emptyWords();
+    for (qint16 day = 1; day <= m_series.nDays(); ++day) {
+        if (m_series.at(day).source == BodySource::FilledIn)
+            return tr("Values in brackets were not measured. They are filled in from the "
+                      "measurements before and after.");
+    }
+    return {};
 }

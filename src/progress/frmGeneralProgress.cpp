@@ -4,13 +4,14 @@
 #include "progress/daystable.h"
 #include "progress/progresschart.h"
 #include "progress/savepicture.h"
+#include "progress/weekstable.h"
 #include "session/session.h"
+#include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -22,6 +23,7 @@
 #include <QTableWidget>
 #include <QTreeView>
 
+#include <functional>
 #include <stdexcept>
 
 using namespace progress;
@@ -40,20 +42,47 @@ QPushButton *makeButton(const QString &name, const QString &caption, QWidget *pa
     return button;
 }
 
+/// Runs what shows a period. A figure beyond what it can hold is told in a message.
+void tellingFaults(Session &session, Messages &messages, QWidget *window,
+                   const std::function<void()> &show)
+{
+    try {
+        show();
+    } catch (const DayOverflow &error) {
+        messages.error(window, frmGeneralProgress::tr(
+                                   "The progress can't be shown: a measurement or the balance of "
+                                   "%1 is too large. Please correct it and try again")
+                                   .arg(session.text().mediumDate(error.day)));
+    } catch (const OverflowError &) {
+        messages.error(window, frmGeneralProgress::tr(
+                                   "The progress can't be shown: a measurement of this period is "
+                                   "too large. Please correct it and try again"));
+    } catch (const std::out_of_range &) {
+        messages.error(window, frmGeneralProgress::tr(
+                                   "The progress can't be shown: the period has too many days"));
+    }
+}
+
 } // namespace
 
 frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, const Period &period,
                                        QWidget *parent)
     : QDialog(parent)
+    , m_session(session)
     , m_messages(messages)
+    , m_steps(period)
     , m_series(loadSeries(session.data(), period, session.parameters().metabolicRate))
     , m_texts(session.text(), session.parameters().isMetric())
-    , m_table(tableOf(m_series, m_texts))
     , tabPages(new QTabWidget(this))
     , m_chart(new ProgressChart(m_series, m_texts, this))
     , lblDay(new QLabel(this))
+    , m_notesHeading(new QLabel(this))
     , lvwNotes(new QTableWidget(this))
-    , m_days(new DaysTable(m_series, m_table, this))
+    , m_days(new DaysTable(m_series, m_texts, this))
+    , m_weeks(new WeeksTable(m_texts, this))
+    , btnPrevious(makeButton(QStringLiteral("btnPrevious"), tr("Pre&vious"), this))
+    , lblPeriod(new QLabel(this))
+    , btnNext(makeButton(QStringLiteral("btnNext"), tr("Ne&xt"), this))
     , btnPrint(makeButton(QStringLiteral("btnPrint"), tr("&Print"), this))
     , btnSave(makeButton(QStringLiteral("btnSave"), tr("&Save Picture"), this))
     , btnCopy(makeButton(QStringLiteral("btnCopy"), tr("C&opy Table"), this))
@@ -66,13 +95,16 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     tabPages->setObjectName(QStringLiteral("tabPages"));
     tabPages->addTab(makeChartPage(), tr("&Chart"));
     tabPages->addTab(m_days, tr("&Table"));
+    tabPages->addTab(m_weeks, tr("&Weeks"));
+    tabPages->setCornerWidget(makePeriodBar());
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tabPages, 1);
     layout->addLayout(makeButtons());
     makeConnections();
     sizeToScreen();
-    tellDay(m_chart->day());
+    m_weeks->showWeeks(m_series, loadConsumed(session.data(), period));
+    tellPeriod();
     m_chart->setFocus();
 }
 
@@ -100,28 +132,64 @@ QWidget *frmGeneralProgress::makeSide()
     lblDay->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblDay->setMinimumHeight(dayLines * line);
 
-    auto *heading = new QLabel(tr("&Notes"), this);
-    heading->setBuddy(lvwNotes);
-    lvwNotes->setObjectName(QStringLiteral("lvwNotes"));
-    lvwNotes->setAccessibleName(tr("Notes"));
-    fillNotes();
+    makeNotes();
 
     auto *layout = new QVBoxLayout(side);
     layout->addWidget(lblDay);
-    layout->addWidget(heading);
+    layout->addWidget(m_notesHeading);
     layout->addWidget(lvwNotes, 1);
-    if (m_series.notes.empty()) {
-        heading->setText(tr("No notes in this period."));
-        lvwNotes->hide();
-        layout->addStretch();
-    }
+    layout->addStretch();
     return side;
+}
+
+QWidget *frmGeneralProgress::makePeriodBar()
+{
+    auto *bar = new QWidget;
+    lblPeriod->setObjectName(QStringLiteral("lblPeriod"));
+    lblPeriod->setAlignment(Qt::AlignCenter);
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins({});
+    layout->addWidget(btnPrevious);
+    layout->addWidget(lblPeriod);
+    layout->addWidget(btnNext);
+    const auto connectStep = [this](QPushButton *button, const QKeySequence &key,
+                                    const QString &what, int periods) {
+        button->setToolTip(tr("%1 (%2)").arg(what, key.toString(QKeySequence::NativeText)));
+        connect(button, &QPushButton::clicked, this, [this, periods] { step(periods); });
+        connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+    };
+    connectStep(btnPrevious, Qt::ALT | Qt::Key_Left, tr("The period before"), -1);
+    connectStep(btnNext, Qt::ALT | Qt::Key_Right, tr("The period after"), 1);
+    return bar;
+}
+
+void frmGeneralProgress::makeNotes()
+{
+    m_notesHeading->setBuddy(lvwNotes);
+    lvwNotes->setObjectName(QStringLiteral("lvwNotes"));
+    lvwNotes->setAccessibleName(tr("Notes"));
+    lvwNotes->setColumnCount(2);
+    lvwNotes->setShowGrid(false);
+    lvwNotes->setAlternatingRowColors(true);
+    lvwNotes->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lvwNotes->setSelectionBehavior(QAbstractItemView::SelectRows);
+    lvwNotes->setSelectionMode(QAbstractItemView::SingleSelection);
+    lvwNotes->setTabKeyNavigation(false);
+    lvwNotes->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    lvwNotes->horizontalHeader()->hide();
+    lvwNotes->horizontalHeader()->setResizeContentsPrecision(26); // the alphabet
+    lvwNotes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    lvwNotes->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    lvwNotes->verticalHeader()->hide();
 }
 
 void frmGeneralProgress::fillNotes()
 {
+    // The rows are measured once, when all of them are there.
+    QHeaderView &rows = *lvwNotes->verticalHeader();
+    rows.setSectionResizeMode(QHeaderView::Fixed);
+    lvwNotes->setRowCount(0); // none is chosen
     lvwNotes->setRowCount(int(m_series.notes.size()));
-    lvwNotes->setColumnCount(2);
     for (int row = 0; row < lvwNotes->rowCount(); ++row) {
         const Note &note = m_series.notes[size_t(row)];
         auto *letter = new QTableWidgetItem(noteLetter(size_t(row)));
@@ -134,18 +202,12 @@ void frmGeneralProgress::fillNotes()
         lvwNotes->setItem(row, 0, letter);
         lvwNotes->setItem(row, 1, text);
     }
-    lvwNotes->setShowGrid(false);
-    lvwNotes->setAlternatingRowColors(true);
-    lvwNotes->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    lvwNotes->setSelectionBehavior(QAbstractItemView::SelectRows);
-    lvwNotes->setSelectionMode(QAbstractItemView::SingleSelection);
-    lvwNotes->setTabKeyNavigation(false);
-    lvwNotes->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    lvwNotes->horizontalHeader()->hide();
-    lvwNotes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    lvwNotes->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    lvwNotes->verticalHeader()->hide();
-    lvwNotes->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    rows.setSectionResizeMode(QHeaderView::ResizeToContents);
+    const bool isEmpty = m_series.notes.empty();
+    m_notesHeading->setText(isEmpty ? tr("No notes in this period.") : tr("&Notes"));
+    if (isEmpty && lvwNotes->hasFocus())
+        m_chart->setFocus(); // hidden, it would hand its focus on to whatever comes next
+    lvwNotes->setVisible(!isEmpty);
 }
 
 QBoxLayout *frmGeneralProgress::makeButtons()
@@ -170,9 +232,6 @@ void frmGeneralProgress::makeConnections()
     connect(btnPrint, &QPushButton::clicked, this, &frmGeneralProgress::print);
     connect(btnSave, &QPushButton::clicked, this, &frmGeneralProgress::save);
     connect(btnCopy, &QPushButton::clicked, this, &frmGeneralProgress::copyTable);
-    auto *copyKey = new QShortcut(QKeySequence::Copy, m_days->list());
-    copyKey->setContext(Qt::WidgetShortcut);
-    connect(copyKey, &QShortcut::activated, this, &frmGeneralProgress::copyTable);
     connect(btnClose, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -180,6 +239,60 @@ void frmGeneralProgress::sizeToScreen()
 {
     const QSize wanted = QSize(76, 44) * fontMetrics().lineSpacing();
     resize(wanted.boundedTo(screen()->availableSize() * 0.94));
+}
+
+/// Nothing has changed where it throws.
+void frmGeneralProgress::showPeriod(const PeriodSteps &steps)
+{
+    const Period period = steps.current();
+    DaySeries series = loadSeries(m_session.data(), period, m_session.parameters().metabolicRate);
+    const std::vector<Consumed> consumed = loadConsumed(m_session.data(), period);
+    const auto exchange = [&] {
+        std::swap(m_series, series);
+        m_chart->startAnew();
+        m_days->refill();
+    };
+    auto putBack = qScopeGuard(exchange);
+    exchange();
+    m_weeks->showWeeks(m_series, consumed);
+    putBack.dismiss();
+    m_steps = steps;
+    tellPeriod();
+}
+
+void frmGeneralProgress::tellPeriod()
+{
+    fillNotes();
+    lblPeriod->setText(m_texts.days(m_series.period().dateFrom, m_series.period().dateTo));
+    // It only grows, so that the buttons stand still.
+    lblPeriod->setMinimumWidth(qMax(lblPeriod->minimumWidth(), lblPeriod->sizeHint().width()));
+    tellDay(m_chart->day());
+    offerSteps();
+}
+
+void frmGeneralProgress::offerSteps()
+{
+    const bool hasPrevious = m_steps.hasPrevious();
+    const bool hasNext = m_steps.hasNext(m_session.clock().now().date());
+    btnPrevious->setEnabled(true);
+    btnNext->setEnabled(true);
+    // Disabled, a button would hand its focus on to whatever comes next.
+    if (!hasPrevious && btnPrevious->hasFocus())
+        btnNext->setFocus();
+    if (!hasNext && btnNext->hasFocus())
+        btnPrevious->setFocus();
+    btnPrevious->setEnabled(hasPrevious);
+    btnNext->setEnabled(hasNext);
+}
+
+void frmGeneralProgress::step(int periods)
+{
+    PeriodSteps steps = m_steps;
+    steps.move(periods);
+    attempt(
+        this, m_messages,
+        [&] { tellingFaults(m_session, m_messages, this, [&] { showPeriod(steps); }); },
+        tr("The period can't be shown"));
 }
 
 void frmGeneralProgress::tellDay(qint16 day)
@@ -216,25 +329,13 @@ void frmGeneralProgress::save()
 
 void frmGeneralProgress::copyTable()
 {
-    QApplication::clipboard()->setText(m_table.toTabSeparated());
+    const bool isWeeks = tabPages->currentWidget() == m_weeks;
+    (isWeeks ? static_cast<FiguresTable *>(m_weeks) : m_days)->copy();
 }
 
 void showGeneralProgress(Session &session, Messages &messages, const Period &period,
                          QWidget *parent)
 {
-    try {
-        frmGeneralProgress(session, messages, period, parent).exec();
-    } catch (const DayOverflow &error) {
-        messages.error(parent, frmGeneralProgress::tr(
-                                   "The progress can't be shown: a measurement or the balance of "
-                                   "%1 is too large. Please correct it and try again")
-                                   .arg(session.text().mediumDate(error.day)));
-    } catch (const OverflowError &) {
-        messages.error(parent, frmGeneralProgress::tr(
-                                   "The progress can't be shown: a measurement of this period is "
-                                   "too large. Please correct it and try again"));
-    } catch (const std::out_of_range &) {
-        messages.error(parent, frmGeneralProgress::tr(
-                                   "The progress can't be shown: the period has too many days"));
-    }
+    tellingFaults(session, messages, parent,
+                  [&] { frmGeneralProgress(session, messages, period, parent).exec(); });
 }

@@ -1,7 +1,8 @@
-// General progress over a period: the chart, what it tells, and the same as a table.
+// General progress over a period and those before and after it: the chart, what it tells, and the
+// same as tables.
 #pragma once
 
-#include "progress/progresstable.h"
+#include "progress/progresstexts.h"
 
 #include <QDialog>
 
@@ -14,14 +15,15 @@ class QPushButton;
 class QTabWidget;
 class QTableWidget;
 class Session;
+class WeeksTable;
 
 class frmGeneralProgress : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Reads the period once; throws StoreError, OverflowError and std::out_of_range as loadSeries
-    /// and ProgressChart do.
+    /// Reads the period, one of periodOfMonths; throws StoreError, OverflowError and
+    /// std::out_of_range as loadSeries and ProgressChart do.
     frmGeneralProgress(Session &session, Messages &messages, const progress::Period &period,
                        QWidget *parent = nullptr);
 
@@ -30,24 +32,36 @@ private:
     QWidget *makeSide();
     QBoxLayout *makeButtons();
     void makeConnections();
+    QWidget *makePeriodBar();
+    void makeNotes();
     void fillNotes();
     void sizeToScreen();
 
+    void showPeriod(const progress::PeriodSteps &steps);
+    void tellPeriod();
+    void offerSteps();
+    void step(int periods);
     void tellDay(qint16 day);
     void print();
     void save();
     void copyTable();
 
+    Session &m_session;
     Messages &m_messages;
+    progress::PeriodSteps m_steps;
     progress::DaySeries m_series;
     progress::ProgressTexts m_texts;
-    progress::DaysText m_table;
 
     QTabWidget *tabPages;
     ProgressChart *m_chart;
     QLabel *lblDay;
+    QLabel *m_notesHeading;
     QTableWidget *lvwNotes;
     DaysTable *m_days;
+    WeeksTable *m_weeks;
+    QPushButton *btnPrevious;
+    QLabel *lblPeriod;
+    QPushButton *btnNext;
     QPushButton *btnPrint;
     QPushButton *btnSave;
     QPushButton *btnCopy;

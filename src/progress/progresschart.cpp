@@ -30,10 +30,18 @@ ProgressChart::ProgressChart(const DaySeries &series, const ProgressTexts &texts
     , m_series(series)
     , m_texts(texts)
     , m_colors(ProgressColors(palette()))
-    , m_day(lastKnownDay(series))
 {
     setObjectName(QStringLiteral("chart"));
-    setAccessibleName(tr("General progress chart. %1").arg(texts.summaryWords(summaryOf(series))));
+    startAnew();
+}
+
+void ProgressChart::startAnew()
+{
+    m_day = lastKnownDay(m_series);
+    m_pointed.reset();
+    m_note.reset();
+    setAccessibleName(
+        tr("General progress chart. %1").arg(m_texts.summaryWords(summaryOf(m_series))));
     relayout();
     geometry(); // throws here, if it does
 }

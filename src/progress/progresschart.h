@@ -19,6 +19,9 @@ public:
     ProgressChart(const progress::DaySeries &series, const progress::ProgressTexts &texts,
                   QWidget *parent = nullptr);
 
+    /// To be called when the series holds another period: stands on its last known day then, and
+    /// no note is chosen. Throws as the constructor does.
+    void startAnew();
     /// The day of the keyboard, from 1.
     qint16 day() const { return m_day; }
     /// The note shown as chosen.
@@ -53,7 +56,7 @@ private:
     const progress::ProgressTexts &m_texts;
     std::optional<progress::ProgressGeometry> m_geometry; ///< in this size
     progress::ProgressColors m_colors;
-    qint16 m_day;
+    qint16 m_day = 1;
     std::optional<qint16> m_pointed;
     std::optional<size_t> m_note;
 };

@@ -41,8 +41,7 @@ public:
         layBalanceValues();
         placeDates();
         if (g.isEmpty) {
-            sayAcross(g.plot, ProgressTexts::tr("There are no measurements, meals, activities or "
-                                                "notes in this period."));
+            sayAcross(g.plot, m_texts.emptyWords());
             return std::move(g);
         }
         placeNotes();

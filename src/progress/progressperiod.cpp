@@ -1,5 +1,9 @@
 #include "progress/progressperiod.h"
 
+#include "session/typeddatetime.h"
+
+#include <algorithm>
+
 namespace progress {
 
 namespace {
@@ -12,6 +16,26 @@ constexpr int mostDaysBetweenMeasurements = 3;
 Period periodOfMonths(QDate dateFrom, qint16 months)
 {
     return {dateFrom, dateFrom.addMonths(months)};
+}
+
+PeriodSteps::PeriodSteps(const Period &chosen)
+    : m_chosen(chosen)
+    , m_months(std::max(1, 12 * (chosen.dateTo.year() - chosen.dateFrom.year()) +
+                               chosen.dateTo.month() - chosen.dateFrom.month()))
+{
+}
+
+bool PeriodSteps::hasPrevious() const
+{
+    return at(m_step - 1).dateFrom >= earliestDay;
+}
+
+Period PeriodSteps::at(int step) const
+{
+    if (step == 0)
+        return m_chosen;
+    return {m_chosen.dateFrom.addMonths(step * m_months),
+            m_chosen.dateFrom.addMonths((step + 1) * m_months)};
 }
 
 Coverage checkCoverage(deData &data, const Period &period)

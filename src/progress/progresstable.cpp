@@ -38,24 +38,32 @@ QString lineOf(const QStringList &cells)
 
 } // namespace
 
-QString DaysText::toTabSeparated() const
+QString TableText::toTabSeparated() const
 {
     QString text = lineOf(header);
-    for (const QStringList &row : rows)
-        text += lineOf(row);
+    for (const auto *part : {&rows, &foot}) {
+        for (const QStringList &row : *part)
+            text += lineOf(row);
+    }
     return text;
 }
 
-DaysText tableOf(const DaySeries &series, const ProgressTexts &texts)
+QStringList dayHeader(const ProgressTexts &texts)
 {
-    DaysText table;
-    table.header = {ProgressTexts::tr("Date")};
+    QStringList header = {ProgressTexts::tr("Date")};
     for (const Series which : allSeries)
-        table.header += texts.nameWithUnit(which);
-    table.header += {ProgressTexts::tr("Source"), ProgressTexts::tr("Balance (kcal)"),
-                     ProgressTexts::tr("Note")};
+        header += texts.nameWithUnit(which);
+    return header + QStringList{ProgressTexts::tr("Source"), ProgressTexts::tr("Balance (kcal)"),
+                                ProgressTexts::tr("Note")};
+}
+
+TableText tableOf(const DaySeries &series, const ProgressTexts &texts)
+{
+    TableText table = {dayHeader(texts), {}};
     for (qint16 day = 1; day <= series.nDays(); ++day)
         table.rows.push_back(rowOf(series, day, texts));
+    for (const QStringList &row : table.rows)
+        table.remarks += row.constLast();
     return table;
 }
 

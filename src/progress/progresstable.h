@@ -7,16 +7,22 @@
 
 namespace progress {
 
-struct DaysText
+/// What is not known is empty.
+struct TableText
 {
     QStringList header;
-    std::vector<QStringList> rows; ///< a row for each day; what is not known is empty
+    std::vector<QStringList> rows;
+    std::vector<QStringList> foot = {}; ///< what the rows come to
+    QStringList remarks = {};           ///< for each row, what its last cell says in short
 
     /// Lines of cells with tabs between, as spreadsheets paste them.
     QString toTabSeparated() const;
 };
 
-/// Numbers have the locale's decimals and no group separators, so that they can be computed with.
-DaysText tableOf(const DaySeries &series, const ProgressTexts &texts);
+/// The header of the days.
+QStringList dayHeader(const ProgressTexts &texts);
+/// A row for each day. Numbers have the locale's decimals and no group separators, so that they can
+/// be computed with.
+TableText tableOf(const DaySeries &series, const ProgressTexts &texts);
 
 } // namespace progress

@@ -77,6 +77,11 @@ public:
     /// What a note says; of a longer one the first so many characters, and how many there are.
     QString noteText(const Note &note, qsizetype most) const;
 
+    /// Of a period without any record.
+    QString emptyWords() const
+    {
+        return tr("There are no measurements, meals, activities or notes in this period.");
+    }
     /// Everything that is known of a day, a line for each figure, missing ones said to be missing;
     /// the weight's trend only where there is one.
     QString dayWords(const DaySeries &series, qint16 day) const;

@@ -8,6 +8,10 @@
 
 #include <optional>
 
+// What a date picker goes through.
+inline const QDate earliestDay(1752, 9, 14);
+inline const QDate latestDay(9999, 12, 31);
+
 /// The date meant by a text, or none: never another date. Day, month and year stand in the order
 /// of the format, between separators of any kind or, with all their digits, without; a year of four
 /// digits may come first in any locale, a month may be called by its name. A year of two digits

@@ -70,6 +70,8 @@ int ListModel::columnCount(const QModelIndex &parent) const
 
 QVariant ListModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {}; // Ctrl+C in a list without a current row asks for it
     const ListRow &row = m_rows.at(static_cast<size_t>(index.row()));
     const ListColumn &column = this->column(index.column());
     switch (role) {

@@ -9,6 +9,7 @@
 #include "progress/progresspages.h"
 #include "progresssamples.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QTableWidget>
 
@@ -115,6 +116,88 @@ private slots:
         for (int y = 0; y < chart.height() && notes.currentRow() != 1; y += 4)
             QTest::mouseClick(&chart, Qt::LeftButton, {}, {chart.width() * 6 / 10, y});
         QCOMPARE(notes.currentRow(), 1);
+    }
+    void stepsThroughThePeriods()
+    {
+        m_journal->addNote(firstDay, firstDay.addDays(1), QStringLiteral("Holiday"));
+        m_journal->addMeasurement(firstDay.addDays(-40), 80);
+        frmGeneralProgress window(*m_journal->session, m_messages, month);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto &chart = control<ProgressChart>(window, "chart");
+        auto &notes = control<QTableWidget>(window, "lvwNotes");
+        auto &next = control<QPushButton>(window, "btnNext");
+        auto &previous = control<QPushButton>(window, "btnPrevious");
+        const auto shownNow = [&] {
+            const auto cell = [&](const char *list) {
+                return control<QTreeView>(window, list).model()->index(0, 0).data().toString();
+            };
+            return QStringList{control<QLabel>(window, "lblPeriod").text(),
+                               chart.accessibleName(),
+                               cell("lvwDays"),
+                               cell("lvwWeeks"),
+                               QString::number(notes.rowCount()),
+                               control<QLabel>(window, "lblDay").text()};
+        };
+        const QStringList first = shownNow();
+        QCOMPARE(first[0], QStringLiteral("22 Jun 2026 – 22 Jul 2026"));
+        QVERIFY(!next.isEnabled()); // it would begin with the last day of this one
+        notes.setFocus();
+        notes.setCurrentCell(0, 0);
+        QTest::keyClick(&notes, Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(shownNow()[0], QStringLiteral("22 May 2026 – 22 Jun 2026"));
+        QCOMPARE(shownNow()[2] + shownNow()[3], QStringLiteral("22/05/2026").repeated(2));
+        QCOMPARE(notes.rowCount(), 1); // it begins on the last day of this one, too
+        QVERIFY(notes.hasFocus() && notes.currentRow() == -1);
+
+        const QStringList second = shownNow();
+        QTest::keyClick(&notes, Qt::Key_Left, Qt::AltModifier);
+        QVERIFY(chart.hasFocus() && !notes.isVisible());
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(&chart, Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(chart.day(), qint16(1));
+        for (const char *label : {"lblFilledIn", "lblWeeks"})
+            QVERIFY(
+                control<QLabel>(window, label).text().startsWith(QStringLiteral("There are no")));
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(&chart, Qt::Key_Right, Qt::AltModifier);
+        QCOMPARE(shownNow(), second);
+        next.setFocus();
+        press(window, "btnNext");
+        QCOMPARE(shownNow(), first);
+        QVERIFY(previous.hasFocus() && m_messages.said.empty());
+
+        // A figure that can't be shown leaves everything as it is.
+        m_journal->addMeal(firstDay.addDays(-1), 1e5);
+        press(window, "btnPrevious");
+        QVERIFY(m_messages.takeText().contains(
+            m_journal->session->text().mediumDate(firstDay.addDays(-1))));
+        QCOMPARE(shownNow(), first);
+        m_journal->exec("delete from MealConsume where Qty = 1e5");
+        m_journal->addMeasurement(firstDay.addDays(-2), 1e30);
+        press(window, "btnPrevious");
+        QVERIFY(m_messages.takeText().contains(QStringLiteral("too large")));
+        QCOMPARE(shownNow(), first);
+        QVERIFY(!next.isEnabled());
+    }
+    void eachPageIsCopied()
+    {
+        frmGeneralProgress window(*m_journal->session, m_messages, month);
+        window.show();
+        auto &pages = control<QTabWidget>(window, "tabPages");
+        const auto copied = [&] { return QApplication::clipboard()->text().section(u'\t', 0, 1); };
+        for (const auto &[page, expected] :
+             {std::pair(0, "Date\tWeight (kg)"), {2, "Week of\tDays"}, {1, "Date\tWeight (kg)"}}) {
+            pages.setCurrentIndex(page);
+            press(window, "btnCopy");
+            QCOMPARE(copied(), QLatin1String(expected));
+        }
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        pages.setCurrentIndex(2);
+        auto &weeks = control<QTreeView>(window, "lvwWeeks");
+        weeks.setFocus();
+        QTest::keyClick(&weeks, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(copied(), QStringLiteral("Week of\tDays"));
     }
     void paintsWhatIsLaidOut()
     {

@@ -2,6 +2,7 @@
 // too large.
 #include "progress/progresstable.h"
 #include "progress/timemarks.h"
+#include "progress/weekstext.h"
 #include "progresssamples.h"
 
 #include <QTest>
@@ -77,6 +78,30 @@ private slots:
                  (std::vector<qint16>{3, 10, 17, 24}));
         QCOMPARE(weekStarts(period, QLocale(QLocale::English, QLocale::UnitedStates)),
                  (std::vector<qint16>{2, 9, 16, 23, 30}));
+    }
+    void stepsThereAndBack()
+    {
+        for (const int months : {1, 3, 6}) {
+            for (QDate from(2027, 12, 25); from < QDate(2028, 3, 3); from = from.addDays(1)) {
+                PeriodSteps steps(periodOfMonths(from, qint16(months)));
+                const Period chosen = steps.current();
+                QDate end = chosen.dateTo;
+                for (int i = 0; i < 12; ++i) {
+                    steps.move(1);
+                    QCOMPARE(std::exchange(end, steps.current().dateTo), steps.current().dateFrom);
+                    QVERIFY(DaySeries(steps.current()).nDays() >= 28 * months);
+                }
+                steps.move(-22);
+                QCOMPARE(steps.current().dateFrom, from.addMonths(-10 * months));
+                steps.move(10);
+                QVERIFY(steps.current().dateFrom == from &&
+                        steps.current().dateTo == chosen.dateTo);
+            }
+        }
+        const PeriodSteps steps(periodOfMonths(QDate(1752, 10, 14), 1));
+        QVERIFY(steps.hasPrevious());
+        QVERIFY(!PeriodSteps(periodOfMonths(QDate(1752, 10, 13), 1)).hasPrevious());
+        QVERIFY(steps.hasNext(QDate(1752, 11, 15)) && !steps.hasNext(QDate(1752, 11, 14)));
     }
     void gaps()
     {
@@ -189,6 +214,51 @@ private slots:
         const Trend trend = trendOf(line);
         QVERIFY(trend.days == 4 && qAbs(*trend.perWeek + 1.4) < 1e-9);
         QVERIFY(qAbs(*trend.now - 78.2) < 1e-9);
+    }
+    /// From a Thursday: the first week has four days, the third two.
+    void weeks()
+    {
+        ProgressJournal journal(QLocale(QLocale::German, QLocale::Germany));
+        journal.exec("update Meal set FatBC = 0.2, CarbohydrateBC = 0.2, ProteinBC = 0.2");
+        const QDate thursday(2026, 6, 4);
+        const auto on = [&](int day) { return thursday.addDays(day - 1); };
+        for (const int day : {1, 2, 3, 5, 6, 7, 8, 10})
+            journal.addMeal(on(day), day < 5 ? 1540 : 2240);
+        journal.addActivity(on(3), 200);
+        journal.addActivity(on(9), 60); // data, but nothing eaten
+        for (const auto &[day, weight] : {std::pair(1, 80.0), {2, 80.1}, {5, 1079.4}, {7, 1079.4}})
+            journal.addMeasurement(on(day), weight); // days 3, 4 and 6 are filled in
+        journal.addMeasurement(on(12), 81);
+        journal.addNote(on(4), on(5), QStringLiteral("Trip"));
+        journal.addNote(on(6), on(99), QStringLiteral("Run"));
+        journal.addNote(on(-9), on(0), QStringLiteral("before"));
+        const Period period = {thursday, on(13)};
+        const ProgressTexts texts(journal.session->text(), true);
+        const auto lines = [&](const DaySeries &series) {
+            const Weeks found = weeksOf(series, loadConsumed(*journal.data, series.period()),
+                                        journal.session->text().locale());
+            return weeksTable(series, found, texts);
+        };
+        const TableText table = lines(loadSeries(*journal.data, period, rate));
+        const QStringList text = table.toTabSeparated().split(u'\n');
+        // Of 200 burnt on one of three days, a third each.
+        QCOMPARE(text[1], QStringLiteral("04.06.26\t3 of 4\t1540\t1507\t33\t33\t34\t33\t"
+                                         "80,0\t\tA"));
+        QCOMPARE(text[2], QStringLiteral("08.06.26\t6 of 7\t1867\t1450\t417\t33\t34\t33\t"
+                                         "1079,4\t+999,4\tA, B"));
+        QCOMPARE(text[3], QStringLiteral("15.06.26\t0 of 2\t\t\t\t\t\t\t81,0\t"
+                                         "-998,4\tB"));
+        QCOMPARE(text[4],
+                 QStringLiteral("Average\t9 of 13\t1758\t1469\t289\t33\t34\t33\t480,0\t\t"));
+        QCOMPARE(text[5], QStringLiteral("Sum\t9 of 13\t15820\t13220\t2600\t\t\t\t\t+1,0\t"));
+        QCOMPARE(table.remarks[1], QStringLiteral("A: Trip\nB: Run"));
+
+        // A week without measurements leaves both changes beside it unknown, not that over all.
+        journal.exec("delete from Body where Weight > 1000; delete from MealConsume;"
+                     "delete from ExercisePerform");
+        const TableText gap = lines(loadSeries(*journal.data, period, rate));
+        QCOMPARE(gap.rows[1].mid(1).join(QString()), QStringLiteral("0 of 7A, B"));
+        QCOMPARE(gap.rows[2][9] + gap.foot[1][9], QStringLiteral("+1,0"));
     }
     void table()
     {

@@ -374,6 +374,23 @@ def progress_table(program):
 
 
 @step
+def progress_weeks(program):
+    window = program.window("General Progress")
+    program.keys("alt+w")
+    wait_for(lambda: [cell for cell in window.find_all("table cell") + window.find_all("tree item")
+                      if cell.name == "7 of 7"], "a week with data on all days")
+
+
+@step
+def progress_before(program):
+    window = program.window("General Progress")
+    chart = progress_chart_in(window)
+    told = chart.description
+    window.find("push button", "Previous").press()
+    wait_for(lambda: chart.description != told, "the period before")
+
+
+@step
 def progress_closed(program):
     window = program.window("General Progress")
     window.find("push button", "Close").press()
