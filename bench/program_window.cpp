@@ -14,12 +14,12 @@ int main(int argc, char **argv)
     Application application(argc, argv, messages);
     if (argc != 2)
         return 2;
-    const QString folder = QString::fromLocal8Bit(argv[1]);
-    HelpKeyFilter helpKey(Installation(folder).helpPath());
+    const Installation installation(QString::fromLocal8Bit(argv[1]));
+    HelpKeyFilter helpKey(installation.helpPath());
     application.installEventFilter(&helpKey);
 
     const SystemClock clock;
-    StartUp startUp({folder, clock, QLocale::system(), messages});
+    StartUp startUp({installation, clock, QLocale::system(), messages});
     if (!startUp.run())
         return 1;
     FirstPaint firstPaint(*startUp.mainWindow());

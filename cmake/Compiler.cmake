@@ -15,6 +15,13 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     -Wformat=2 -Wnull-dereference -Wimplicit-fallthrough)
 endif()
 
+# What the distribution asks of its packages.
+if(CMAKE_SYSTEM_NAME STREQUAL Linux AND CMAKE_BUILD_TYPE STREQUAL Release)
+  target_compile_definitions(corvana_compiler INTERFACE _FORTIFY_SOURCE=2)
+  target_compile_options(corvana_compiler INTERFACE -fstack-protector-strong)
+  add_link_options(LINKER:-z,relro,-z,now)
+endif()
+
 if(CORVANA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -220,7 +220,8 @@ class Program:
             return ":" + number.readline().strip()
 
     def _bus(self):
-        bus = self._helper(["dbus-daemon", "--session", "--nofork", "--print-address"],
+        bus = self._helper(["dbus-daemon", "--session", "--nofork", "--print-address",
+                            f"--address=unix:dir={self.runtime.name}"],
                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         return bus.stdout.readline().strip()
 

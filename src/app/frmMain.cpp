@@ -501,7 +501,7 @@ void frmMain::showAbout()
 
 void frmMain::showHelpContents()
 {
-    showHelp(this, Installation(QCoreApplication::applicationDirPath()).helpPath(), {});
+    showHelp(this, Installation::ofProgram().helpPath(), {});
 }
 
 void frmMain::showHelpOfMainForm()

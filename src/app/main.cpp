@@ -6,7 +6,7 @@
 #include "ui/messages.h"
 #include "ui/windowplaces.h"
 
-#include <QDir>
+#include <QLocale>
 
 int main(int argc, char **argv)
 {
@@ -16,15 +16,15 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("Corvana"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
 
-    const QString folder = QCoreApplication::applicationDirPath();
-    HelpKeyFilter helpKey(Installation(folder).helpPath());
+    const Installation installation = Installation::ofProgram();
+    HelpKeyFilter helpKey(installation.helpPath());
     application.installEventFilter(&helpKey);
 
-    WindowPlaces places(folder);
+    WindowPlaces places(installation.folder());
     application.installEventFilter(&places);
 
     const SystemClock clock;
-    StartUp startUp({folder, clock, QLocale::system(), messages});
+    StartUp startUp({installation, clock, QLocale::system(), messages});
     if (!startUp.run())
         return 1;
     const int result = Application::exec();

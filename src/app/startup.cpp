@@ -5,7 +5,6 @@
 #include "backup/backupsettings.h"
 #include "backup/makebackup.h"
 #include "data/pendingrollback.h"
-#include "session/installation.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
 #include "settings/frmCommon.h"
@@ -60,9 +59,10 @@ StartUp::~StartUp() = default;
 
 bool StartUp::run()
 {
-    if (!openDatabase())
-        return false;
     try {
+        m_settings.installation.provide();
+        if (!openDatabase())
+            return false;
         makeSession();
         if (!runFirstStart())
             return false;
@@ -81,7 +81,7 @@ void StartUp::end()
 {
     if (!m_mainWindow)
         return;
-    Installation installation(m_settings.programFolder);
+    Installation &installation = m_settings.installation;
     const BackupSettings settings = backupSettings(installation);
     const QDateTime now = m_settings.clock.now();
     if (!settings.isAutomatic || !isBackupDue(settings.place, now))
@@ -102,8 +102,7 @@ void StartUp::end()
 // Empty where there is none.
 QString StartUp::newestBackupAdvice() const
 {
-    const std::vector<Backup> backups =
-        backupsIn(backupSettings(Installation(m_settings.programFolder)).place);
+    const std::vector<Backup> backups = backupsIn(backupSettings(m_settings.installation).place);
     if (backups.empty())
         return {};
     return tr("Your newest backup, of %1, is in the folder %2. To bring it back, move what there "
@@ -115,7 +114,7 @@ QString StartUp::newestBackupAdvice() const
 
 bool StartUp::openDatabase()
 {
-    const QString path = Installation(m_settings.programFolder).databasePath();
+    const QString path = m_settings.installation.databasePath();
     const PendingRollback rollback = examineRollback(path);
     QString cause = rollbackAdvice(rollback);
     bool isLost = rollback == PendingRollback::Damaged;
@@ -132,11 +131,14 @@ bool StartUp::openDatabase()
         }
     }
     if (isLost)
-        cause = QStringList{cause, newestBackupAdvice()}.join(u'\n').trimmed();
+        cause = QStringList{cause, newestBackupAdvice()}.join(u'\n');
+    if (m_settings.installation.isOfSystem())
+        cause += tr("\nThe program folder is %1.")
+                     .arg(QDir::toNativeSeparators(m_settings.installation.folder()));
     m_settings.messages.show(nullptr, Messages::Icon::Critical, tr("Severe Error"),
                              tr("Can't access database. Please make sure the database file "
                                 "Corvana.mdb is present in the program folder."),
-                             cause);
+                             cause.trimmed());
     return false;
 }
 
@@ -172,7 +174,7 @@ void StartUp::tellDamage(Installation &installation)
 
 bool StartUp::runFirstStart()
 {
-    Installation installation(m_settings.programFolder);
+    Installation &installation = m_settings.installation;
     const Installation::FirstStart firstStart = installation.firstStart();
     if (firstStart == Installation::FirstStart::Untold)
         tellDamage(installation);

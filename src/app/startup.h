@@ -2,13 +2,13 @@
 #pragma once
 
 #include "session/clock.h"
+#include "session/installation.h"
 
 #include <QLocale>
 #include <QString>
 
 #include <memory>
 
-class Installation;
 class Messages;
 class Session;
 class deData;
@@ -17,14 +17,15 @@ class frmMain;
 /// What start-up reads from its surroundings.
 struct StartUpSettings
 {
-    QString programFolder;
+    Installation installation;
     const Clock &clock;
     QLocale locale;
     Messages &messages;
 };
 
-/// Opens the database, makes the session, runs the first-start sequence where it has not been run
-/// before, and makes the main window. Owns all three for the life of the program.
+/// Provides a program folder where the user has none, opens the database, makes the session, runs
+/// the first-start sequence where it has not been run before, and makes the main window. Owns
+/// database, session and window for the life of the program.
 class StartUp
 {
 public:

@@ -9,7 +9,6 @@
 #include "session/synchronizedfolder.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 #include <SQLiteCpp/Backup.h>
 #include <sqlite3.h>
@@ -144,16 +143,10 @@ bool copyDatabase(const QString &databasePath, const QString &path, const Backup
 // Without it the program would take a copied folder for a new installation.
 void copySettings(const QString &programFolder, const QString &folder)
 {
-    const QString path = Installation(folder).settingsPath();
-    QFile settings(Installation(programFolder).settingsPath());
-    if (!settings.exists()) {
+    const QString settings = Installation(programFolder).settingsPath();
+    if (!QFile::exists(settings))
         Installation(folder).setFirstStartDone();
-        return;
-    }
-    QSaveFile copy(path);
-    if (!settings.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly) ||
-        copy.write(settings.readAll()) < 0 || settings.error() != QFileDevice::NoError ||
-        !copy.commit())
+    else if (!copySynchronized(settings, Installation(folder).settingsPath()))
         throw BackupError(BackupError::tr("The file Corvana.ini can't be copied."));
 }
 

@@ -2,9 +2,13 @@
 
 #include "data/connection.h"
 #include "session/inifile.h"
+#include "session/synchronizedfolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QStandardPaths>
 
 #include <stdexcept>
 
@@ -21,6 +25,17 @@ IniFile settingsIn(const QString &folder)
     return IniFile(Installation(folder).settingsPath());
 }
 
+std::string shown(const QString &path)
+{
+    return QDir::toNativeSeparators(path).toStdString();
+}
+
+std::string unmade(const QString &folder)
+{
+    return "your journal can't be put into the folder " + shown(folder) +
+           "; please make sure that there is room and that you may write there";
+}
+
 Installation::FirstStart firstStartIn(IniFile &settings)
 {
     using enum Installation::FirstStart;
@@ -33,8 +48,59 @@ Installation::FirstStart firstStartIn(IniFile &settings)
 } // namespace
 
 Installation::Installation(const QString &programFolder)
-    : m_folder(programFolder)
+    : Installation(programFolder, programFolder)
 {
+}
+
+Installation::Installation(const QString &programFolder, const QString &delivered)
+    : m_folder(programFolder)
+    , m_delivered(delivered)
+{
+}
+
+Installation Installation::ofExecutableIn(const QString &folder)
+{
+    const QString delivered =
+        QDir::cleanPath(QDir(folder).filePath(QStringLiteral("../share/corvana")));
+    if (QFile::exists(Installation(folder).databasePath()) || !QDir(delivered).exists())
+        return Installation(folder);
+    QDir data(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    if (data.isRelative()) // to where the program was started: counts as not set
+        data.setPath(QDir::home().filePath(QStringLiteral(".local/share")));
+    return {data.filePath(QStringLiteral("Corvana")), delivered};
+}
+
+Installation Installation::ofProgram()
+{
+    return ofExecutableIn(QCoreApplication::applicationDirPath());
+}
+
+// A new journal in the place of one that was lost would hide the loss, and beside the rollback
+// journal of that one it would be spoilt.
+bool Installation::holdsJournal() const
+{
+    return QFile::exists(databasePath()) ||
+           QFile::exists(databasePath() + QStringLiteral("-journal")) ||
+           QFile::exists(settingsPath());
+}
+
+void Installation::provide() const
+{
+    if (!isOfSystem() || holdsJournal())
+        return;
+    constexpr int patience = 10'000; // milliseconds: it is a small file
+    // A second program that starts now must not replace what the first one stores already.
+    QLockFile lock(databasePath() + QStringLiteral(".lock"));
+    const QString delivered = Installation(m_delivered).databasePath();
+    if (!makeSynchronizedFolder(m_folder) || !lock.tryLock(patience))
+        throw std::runtime_error(unmade(m_folder));
+    if (holdsJournal())
+        return;
+    if (!QFileInfo(delivered).isReadable())
+        throw std::runtime_error("the delivered journal " + shown(delivered) +
+                                 " can't be read; please install the program anew");
+    if (!copySynchronized(delivered, databasePath()))
+        throw std::runtime_error(unmade(m_folder));
 }
 
 QString Installation::databasePath() const
@@ -49,7 +115,7 @@ QString Installation::settingsPath() const
 
 QString Installation::helpPath() const
 {
-    return QDir(m_folder).filePath(QStringLiteral("Corvana.hlp"));
+    return QDir(m_delivered).filePath(QStringLiteral("Corvana.hlp"));
 }
 
 Installation::FirstStart Installation::firstStart() const

@@ -1,4 +1,4 @@
-// What the installation remembers outside the database.
+// Where the program's files are, and what the installation remembers outside the database.
 #pragma once
 
 #include <QMap>
@@ -6,15 +6,32 @@
 
 class Connection;
 
-/// Kept in Corvana.ini in the program's folder, beside the database: it outlives a replaced
-/// database file, and a folder copied to another machine takes it along, so that no measurement is
-/// moved there again.
+/// The program's folder holds the user's journal and beside it Corvana.ini, which outlives a
+/// replaced database file; a folder copied to another machine takes it along, so that no
+/// measurement is moved there again. There are two ways in which a program is installed:
+///
+/// - As a folder that the user can write: executable, journal and help lie in it side by side.
+/// - By the system's packages, to be read only: what is delivered lies in ../share/corvana, seen
+///   from the executable, and the program's folder is each user's own, Corvana among the user's
+///   data ($XDG_DATA_HOME or ~/.local/share). provide() makes it.
 class Installation
 {
 public:
+    /// As a folder.
     explicit Installation(const QString &programFolder);
+    /// Of a program whose executable lies in the folder given. A Corvana.mdb beside it makes that
+    /// the program's folder whatever lies elsewhere; otherwise ../share/corvana decides.
+    static Installation ofExecutableIn(const QString &folder);
+    /// Of the program that runs.
+    static Installation ofProgram();
 
     QString folder() const { return m_folder; }
+    /// Installed by the system's packages.
+    bool isOfSystem() const { return m_delivered != m_folder; }
+    /// Gives the user who has none a program folder with the delivered journal, whole or not at
+    /// all. A folder that holds a journal, or what belongs to one that is gone, stays as it is.
+    /// Throws std::runtime_error where the folder or the journal can't be made.
+    void provide() const;
     QString databasePath() const;
     QString settingsPath() const;
     QString helpPath() const;
@@ -43,7 +60,11 @@ public:
     bool setValues(const QMap<QString, QString> &values);
 
 private:
+    Installation(const QString &programFolder, const QString &delivered);
+    bool holdsJournal() const;
+
     QString m_folder;
+    QString m_delivered;
 };
 
 /// That the journal's file belongs to.

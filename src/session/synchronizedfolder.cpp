@@ -1,6 +1,8 @@
 #include "session/synchronizedfolder.h"
 
-#include <QFile>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -20,4 +22,25 @@ bool synchronizeFolder(const QString &folder)
     Q_UNUSED(folder)
     return true;
 #endif
+}
+
+bool makeSynchronizedFolder(const QString &folder)
+{
+    if (QDir(folder).exists())
+        return true;
+    const QString above = QFileInfo(folder).path();
+    if (!makeSynchronizedFolder(above))
+        return false;
+    const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    // Another program may make it at the same moment.
+    return (QDir().mkdir(folder, owner) || QDir(folder).exists()) && synchronizeFolder(above);
+}
+
+bool copySynchronized(const QString &from, const QString &to)
+{
+    QFile original(from);
+    QSaveFile copy(to);
+    return original.open(QIODevice::ReadOnly) && copy.open(QIODevice::WriteOnly) &&
+           copy.write(original.readAll()) >= 0 && original.error() == QFileDevice::NoError &&
+           copy.commit() && synchronizeFolder(QFileInfo(to).absolutePath());
 }

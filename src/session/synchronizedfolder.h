@@ -1,4 +1,4 @@
-// What stands in a folder, kept through a power failure.
+// Files and folders that are kept through a power failure.
 #pragma once
 
 #include <QString>
@@ -7,3 +7,11 @@
 /// was replaced, or lose a new one. False where the disk reports an error. On Windows, where a
 /// folder can't be synchronized, it does nothing and is true.
 bool synchronizeFolder(const QString &folder);
+
+/// Makes a folder that only the user may enter, and those above it that are missing. True where it
+/// is there in the end.
+bool makeSynchronizedFolder(const QString &folder);
+
+/// Copies a file over another or none: it comes whole or not at all, and is on the disk when this
+/// returns true.
+bool copySynchronized(const QString &from, const QString &to);

@@ -50,7 +50,7 @@ void tst_recordaday::init()
     journal = std::make_unique<DayJournal>();
     Installation(journal->folder.path()).setFirstStartDone();
     program = std::make_unique<StartUp>(
-        StartUpSettings{journal->folder.path(), journal->clock,
+        StartUpSettings{Installation(journal->folder.path()), journal->clock,
                         QLocale(QLocale::English, QLocale::UnitedKingdom), journal->messages});
     QVERIFY(program->run());
     QVERIFY(QTest::qWaitForWindowActive(&mainWindow()));

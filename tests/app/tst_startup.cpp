@@ -31,7 +31,7 @@ struct TestProgram
     std::unique_ptr<StartUp> startUp()
     {
         const QLocale british(QLocale::English, QLocale::UnitedKingdom);
-        return std::make_unique<StartUp>(StartUpSettings{folder.path(), clock, british, messages});
+        return std::make_unique<StartUp>(StartUpSettings{installation, clock, british, messages});
     }
     bool isFirstStartDone() const
     {
@@ -40,6 +40,7 @@ struct TestProgram
 
     QTemporaryDir folder;
     QString database = folder.filePath(u"Corvana.mdb"_qs);
+    Installation installation{folder.path()};
     FixedClock clock{QDateTime(QDate(2026, 1, 11), QTime(8, 0))};
     RecordedMessages messages;
 };
@@ -82,6 +83,7 @@ class tst_startup : public QObject
 private slots:
     void refusesUnusableDatabases();
     void refusesByPermissions();
+    void usersOfAnInstalledProgram();
     void firstStartInItsOrder();
     void unfinishedFirstStartBeginsAnew();
     void damagedMemoryMovesNothing();
@@ -177,6 +179,37 @@ void tst_startup::refusesByPermissions()
     }
 }
 #endif
+
+// The delivered journal stays as it is, and where the user's can't be is said.
+void tst_startup::usersOfAnInstalledProgram()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Nothing is installed by packages of the system");
+#endif
+    TestProgram program;
+    const QDir root(program.folder.path());
+    const auto path = [&](const QString &name) { return root.filePath(name); };
+    QVERIFY(root.mkpath(u"bin"_qs) && root.mkpath(u"share/corvana"_qs));
+    QVERIFY(QFile::rename(program.database, path(u"share/corvana/Corvana.mdb"_qs)));
+    qputenv("XDG_DATA_HOME", path(u"home"_qs).toLocal8Bit());
+    program.installation = Installation::ofExecutableIn(path(u"bin"_qs));
+    setFileBytes(path(u"home"_qs), "a file");
+    QVERIFY(!program.startUp()->run());
+    const QString folder = QDir::toNativeSeparators(path(u"home/Corvana"_qs));
+    QVERIFY(program.messages.takeText().contains(folder));
+    QVERIFY(QFile::remove(path(u"home"_qs)));
+
+    const QByteArray delivered = fileBytes(path(u"share/corvana/Corvana.mdb"_qs));
+    QVERIFY(firstStart(*program.startUp(),
+                       [](QWidget &dialog) { control<QPushButton>(dialog, "btnOK").click(); }));
+    QCOMPARE(program.installation.firstStart(), Installation::FirstStart::Done);
+    QVERIFY(fileBytes(path(u"share/corvana/Corvana.mdb"_qs)) == delivered);
+    QVERIFY(fileBytes(path(u"home/Corvana/Corvana.mdb"_qs)) != delivered);
+    QVERIFY(QFile::remove(path(u"home/Corvana/Corvana.mdb"_qs)));
+    program.messages.said.clear();
+    QVERIFY(!program.startUp()->run());
+    QVERIFY(program.messages.said.front().cause.contains(folder));
+}
 
 void tst_startup::firstStartInItsOrder()
 {

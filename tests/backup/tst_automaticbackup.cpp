@@ -32,7 +32,7 @@ private:
     QString runProgram()
     {
         const QLocale german(QLocale::German, QLocale::Germany);
-        StartUp startUp({m_folder->path(), m_clock, german, m_messages});
+        StartUp startUp({Installation(m_folder->path()), m_clock, german, m_messages});
         if (!startUp.run())
             return {};
         const auto &notice = control<QLabel>(*startUp.mainWindow(), "lblBackup");
