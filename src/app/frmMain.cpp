@@ -22,6 +22,7 @@
 #include "journal/frmMealConsumes.h"
 #include "journal/frmMeasurements.h"
 #include "journal/frmUserNote.h"
+#include "lock/frmPassword.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
 #include "quickadd/frmComposeMeal.h"
@@ -465,6 +466,11 @@ void frmMain::exportJournalFiles()
 void frmMain::checkJournalFile()
 {
     frmCheckJournal(m_session, m_messages, this).exec();
+}
+
+void frmMain::openPassword()
+{
+    frmPassword(m_session, m_messages, this).exec();
 }
 
 void frmMain::leave()

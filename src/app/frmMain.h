@@ -102,6 +102,7 @@ private:
     void openGeneralProgress();
     void exportJournalFiles();
     void checkJournalFile();
+    void openPassword();
     void leave();
     void showAbout();
     void showHelpContents();

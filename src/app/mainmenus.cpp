@@ -82,6 +82,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuSep13"_s},
         {u"mnuExport"_s, tr("&Export…"), &frmMain::exportJournalFiles},
         {u"mnuCheckJournal"_s, tr("Chec&k Journal…"), &frmMain::checkJournalFile},
+        {u"mnuPassword"_s, tr("Pass&word…"), &frmMain::openPassword},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

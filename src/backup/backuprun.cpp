@@ -43,10 +43,12 @@ QString runBackup(QWidget *window, const Session &session, const QString &place)
     dialog.setMinimumDuration(moment);
     dialog.setValue(0);
     const QDateTime now = session.clock().now();
-    QString folder = makeBackup(session.data().Con.path(), place, now, [&](int percent) {
+    const auto progress = [&](int percent) {
         dialog.setValue(percent);
         return !dialog.wasCanceled();
-    });
+    };
+    const Connection &journal = session.data().Con;
+    QString folder = makeBackup(journal.path(), place, now, progress, journal.password());
     if (!folder.isEmpty()) {
         Installation installation = installationOf(session.data().Con);
         keepBackupState(installation, {now, {}});

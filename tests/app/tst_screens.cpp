@@ -116,6 +116,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuComposeMeal frmComposeMeal",
           "mnuExport frmExport",
           "mnuCheckJournal frmCheckJournal",
+          "mnuPassword frmPassword",
           "mnuRestore frmRestore",
           "mnuBackupSettings frmBackupSettings",
           "mnuCommon frmCommon",
