@@ -24,6 +24,7 @@
 #include "journal/frmMealConsumes.h"
 #include "journal/frmMeasurements.h"
 #include "journal/frmUserNote.h"
+#include "lock/frmPassword.h"
 #include "progress/frmGeneralProgress.h"
 #include "progress/frmGeneralProgressSettings.h"
 #include "quickadd/frmComposeMeal.h"
@@ -487,6 +488,11 @@ void frmMain::importFiles()
 void frmMain::checkJournalFile()
 {
     frmCheckJournal(m_session, m_messages, this).exec();
+}
+
+void frmMain::openPassword()
+{
+    frmPassword(m_session, m_messages, this).exec();
 }
 
 void frmMain::leave()

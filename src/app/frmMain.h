@@ -104,6 +104,7 @@ private:
     void exportJournalFiles();
     void importFiles();
     void checkJournalFile();
+    void openPassword();
     void leave();
     void showAbout();
     void showHelpContents();

@@ -85,6 +85,7 @@ std::vector<frmMain::Command> frmMain::commands()
         {u"mnuExport"_s, tr("&Export…"), &frmMain::exportJournalFiles},
         {u"mnuImport"_s, tr("&Import…"), &frmMain::importFiles},
         {u"mnuCheckJournal"_s, tr("Chec&k Journal…"), &frmMain::checkJournalFile},
+        {u"mnuPassword"_s, tr("Pass&word…"), &frmMain::openPassword},
 
         {u"mnuAnalyze"_s, tr("&Analyze")},
         {u"mnuGeneralProgress"_s, tr("&General Progress"), &frmMain::openGeneralProgress,

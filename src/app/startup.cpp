@@ -5,10 +5,12 @@
 #include "backup/backupsettings.h"
 #include "backup/makebackup.h"
 #include "data/pendingrollback.h"
+#include "lock/changepassword.h"
 #include "session/samplejournal.h"
 #include "session/session.h"
 #include "settings/frmCommon.h"
 #include "ui/attempt.h"
+#include "ui/frmUnlock.h"
 #include "ui/messages.h"
 
 #include <QDir>
@@ -39,6 +41,7 @@ QString rollbackAdvice(PendingRollback rollback)
                   "and keep them. Then put back your last copy of Corvana.mdb, or, where you have "
                   "none, remove Corvana.mdb-journal only, to see what can still be read. Nothing "
                   "has been changed.");
+    case PendingRollback::Locked:
     case PendingRollback::Untried:
         break;
     }
@@ -89,7 +92,8 @@ void StartUp::end()
     QGuiApplication::sync(); // nobody has to look at a closed window meanwhile
     BackupState state = backupState(installation);
     try {
-        const QString made = makeBackup(installation.databasePath(), settings.place, now);
+        const QString made = makeBackup(installation.databasePath(), settings.place, now, {},
+                                        m_data->Con.password());
         removeOldBackups(settings.place, settings.kept, now, made);
         state = {now, {}};
     } catch (const std::exception &error) {
@@ -112,25 +116,57 @@ QString StartUp::newestBackupAdvice() const
              QDir::toNativeSeparators(backups.front().folder));
 }
 
+QString StartUp::databasePath() const
+{
+    return m_settings.installation.databasePath();
+}
+
 bool StartUp::openDatabase()
 {
-    const QString path = m_settings.installation.databasePath();
-    const PendingRollback rollback = examineRollback(path);
-    QString cause = rollbackAdvice(rollback);
-    bool isLost = rollback == PendingRollback::Damaged;
-    if (cause.isEmpty()) {
-        try {
-            m_data = std::make_unique<deData>(path);
-            return true;
-        } catch (const StoreError &error) {
-            // A missing file counts as damaged, and of that the text below says enough.
-            isLost = error.kind() == StoreError::Kind::Damaged ||
-                     error.kind() == StoreError::Kind::Other;
-            if (error.kind() != StoreError::Kind::Damaged)
-                cause = causeOf(error);
-        }
+    removeUnfinishedChange(databasePath());
+    // A file that isn't locked opens at once.
+    if (!openWith({}) && !unlockDatabase())
+        return false; // the user gave up
+    if (m_refusal)
+        tellRefusal();
+    return m_data != nullptr;
+}
+
+/// False where it takes another password; else it is open, or there is a refusal.
+bool StartUp::openWith(const FilePassword &password)
+{
+    const PendingRollback rollback = examineRollback(databasePath(), password);
+    if (rollback == PendingRollback::Locked)
+        return false;
+    if (const QString advice = rollbackAdvice(rollback); !advice.isEmpty()) {
+        m_refusal = {advice, rollback == PendingRollback::Damaged};
+        return true;
     }
-    if (isLost)
+    try {
+        m_data = std::make_unique<deData>(databasePath(), password);
+    } catch (const StoreError &error) {
+        if (error.kind() == StoreError::Kind::Locked)
+            return false;
+        const bool isDamaged = error.kind() == StoreError::Kind::Damaged;
+        // A missing file counts as damaged, and of that the text below says enough.
+        QString cause = isDamaged ? QString() : causeOf(error);
+        if (isDamaged && !password.isEmpty())
+            cause = tr("The password is right, but the file is damaged.");
+        m_refusal = {cause, isDamaged || error.kind() == StoreError::Kind::Other};
+    }
+    return true;
+}
+
+bool StartUp::unlockDatabase()
+{
+    const auto opens = [this](const FilePassword &password) { return openWith(password); };
+    return frmUnlock(m_settings.messages, databasePath(), opens).exec() == QDialog::Accepted;
+}
+
+void StartUp::tellRefusal() const
+{
+    QString cause = m_refusal->cause;
+    if (m_refusal->isLost)
         cause = QStringList{cause, newestBackupAdvice()}.join(u'\n');
     if (m_settings.installation.isOfSystem())
         cause += tr("\nThe program folder is %1.")
@@ -139,7 +175,6 @@ bool StartUp::openDatabase()
                              tr("Can't access database. Please make sure the database file "
                                 "Corvana.mdb is present in the program folder."),
                              cause.trimmed());
-    return false;
 }
 
 void StartUp::makeSession()

@@ -8,7 +8,9 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
+class FilePassword;
 class Messages;
 class Session;
 class deData;
@@ -41,14 +43,27 @@ public:
     Session *session() const { return m_session.get(); }
 
 private:
+    /// Why the database can't be opened.
+    struct Refusal
+    {
+        QString cause;
+        bool isLost = false; ///< a backup may help
+    };
+
     bool openDatabase();
+    bool openWith(const FilePassword &password);
+    bool unlockDatabase();
+    void tellRefusal() const;
     QString newestBackupAdvice() const;
     void makeSession();
     bool runFirstStart();
     bool askForParameters(Installation &installation);
     void tellDamage(Installation &installation);
 
+    QString databasePath() const;
+
     StartUpSettings m_settings;
+    std::optional<Refusal> m_refusal;
     std::unique_ptr<deData> m_data;
     std::unique_ptr<Session> m_session;
     std::unique_ptr<frmMain> m_mainWindow;

@@ -79,15 +79,15 @@ qint64 countOf(Connection &connection, const schema::Table &table)
 
 } // namespace
 
-BackupFile::BackupFile(const QString &path)
+BackupFile::BackupFile(const QString &path, const FilePassword &password)
 {
     const QFileInfo file(path);
     if (!file.isFile() || file.size() == 0)
         throw BackupError(BackupError::tr("The file is missing or empty."));
     if (!QFile(path).open(QIODevice::ReadOnly))
         throw BackupError(BackupError::tr("The file can't be read."));
-    copy(path);
-    open();
+    copy(path, password);
+    open(password);
     guarded([this] {
         requireKnownTables();
         requireWhole();
@@ -96,11 +96,11 @@ BackupFile::BackupFile(const QString &path)
 
 // What a store that was cut short has left beside it is taken along where it belongs to it, and
 // undone in the copy.
-void BackupFile::copy(const QString &path)
+void BackupFile::copy(const QString &path, const FilePassword &password)
 {
     const FileState before = stateOf(path);
     const QString copied = m_folder.filePath(u"Corvana.mdb"_s);
-    switch (examineRollback(path)) {
+    switch (examineRollback(path, password)) {
     case PendingRollback::None:
         if (isStoreGoingOn(path))
             throw StoreError(StoreError::Kind::Busy, "the file is being written");
@@ -119,6 +119,8 @@ void BackupFile::copy(const QString &path)
     case PendingRollback::Damaged:
         throw BackupError(BackupError::tr("It is damaged: a store was cut short in it and can't be "
                                           "undone."));
+    case PendingRollback::Locked:
+        throw StoreError(StoreError::Kind::Locked, "the file is locked with another password");
     case PendingRollback::Untried:
         throw BackupError(BackupError::tr("There is no room for a copy of it in the folder for "
                                           "temporary files, on which it is tried."));
@@ -127,10 +129,10 @@ void BackupFile::copy(const QString &path)
         throw StoreError(StoreError::Kind::Busy, "the file was written meanwhile");
 }
 
-void BackupFile::open()
+void BackupFile::open(const FilePassword &password)
 {
     try {
-        m_connection = std::make_unique<Connection>(m_folder.filePath(u"Corvana.mdb"_s));
+        m_connection = std::make_unique<Connection>(m_folder.filePath(u"Corvana.mdb"_s), password);
     } catch (const StoreError &error) {
         if (error.kind() == StoreError::Kind::Damaged)
             throw BackupError(BackupError::tr(

@@ -26,15 +26,16 @@ class BackupFile
 {
 public:
     /// Throws BackupError where it is not whole, no journal of this program, or one of a newer
-    /// program, StoreError where the copy can't be read.
-    explicit BackupFile(const QString &path);
+    /// program, StoreError where the copy can't be read, of the kind Locked where it takes another
+    /// password. Of a file that isn't locked the password stays unused.
+    explicit BackupFile(const QString &path, const FilePassword &password = {});
 
     Connection &connection() { return *m_connection; }
     BackupContents contents();
 
 private:
-    void copy(const QString &path);
-    void open();
+    void copy(const QString &path, const FilePassword &password);
+    void open(const FilePassword &password);
     void requireWhole();
     void requireKnownTables();
 

@@ -38,8 +38,10 @@ QString runBackup(QWidget *window, const Session &session, const QString &place)
     ProgressBox progress(window, QStringLiteral("dlgBackupProgress"),
                          BackupPlaceDialog::tr("Backing up the journal\u2026"));
     const QDateTime now = session.clock().now();
-    QString folder = makeBackup(session.data().Con.path(), place, now,
-                                [&](int percent) { return progress.advance(percent); });
+    const Connection &journal = session.data().Con;
+    QString folder = makeBackup(
+        journal.path(), place, now, [&](int percent) { return progress.advance(percent); },
+        journal.password());
     if (!folder.isEmpty()) {
         Installation installation = installationOf(session.data().Con);
         keepBackupState(installation, {now, {}});

@@ -10,6 +10,7 @@
 #include "session/session.h"
 #include "ui/attempt.h"
 #include "ui/elidedlabel.h"
+#include "ui/frmUnlock.h"
 #include "ui/messages.h"
 #include "ui/progressbox.h"
 
@@ -58,6 +59,7 @@ frmRestore::frmRestore(Session &session, Messages &messages, QWidget *parent)
     : FormDialog(session, messages, u"frmRestore"_s, tr("Restore a Backup"), parent)
     , lstBackups(new QListWidget(this))
     , btnOther(new QPushButton(tr("&Other File\u2026"), this))
+    , btnUnlock(new QPushButton(tr("&Password\u2026"), this))
     , lblFile(new ElidedLabel(this, Qt::ElideMiddle))
     , lblContents(new QLabel(this))
 {
@@ -65,6 +67,8 @@ frmRestore::frmRestore(Session &session, Messages &messages, QWidget *parent)
     lstBackups->setAccessibleName(tr("Backups"));
     btnOther->setObjectName(u"btnOther"_s);
     btnOther->setAutoDefault(false);
+    btnUnlock->setObjectName(u"btnUnlock"_s);
+    btnUnlock->setAutoDefault(false);
     lblFile->setObjectName(u"lblFile"_s);
     lblContents->setObjectName(u"lblContents"_s);
     lblContents->setTextFormat(Qt::PlainText);
@@ -81,6 +85,7 @@ frmRestore::frmRestore(Session &session, Messages &messages, QWidget *parent)
                     choose(item->data(Qt::UserRole).toString());
             });
     connect(btnOther, &QPushButton::clicked, this, &frmRestore::pickOther);
+    connect(btnUnlock, &QPushButton::clicked, this, &frmRestore::unlock);
     choose({});
     lstBackups->setCurrentRow(0);
     focusFirstField();
@@ -91,7 +96,11 @@ QLayout *frmRestore::makeForm()
     auto *form = new QVBoxLayout;
     form->addWidget(makeLabel(tr("&Backups"), lstBackups));
     form->addWidget(lstBackups, 1);
-    form->addWidget(btnOther, 0, Qt::AlignLeading);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(btnOther);
+    buttons->addWidget(btnUnlock);
+    buttons->addStretch();
+    form->addLayout(buttons);
     form->addWidget(lblFile);
     form->addWidget(lblContents);
     return form;
@@ -120,14 +129,23 @@ void frmRestore::pickOther()
         path = Installation(path).databasePath();
     lstBackups->setCurrentItem(nullptr);
     choose(path);
+    if (!m_lockedPath.isEmpty())
+        unlock();
 }
 
 void frmRestore::choose(const QString &path)
 {
     m_path = path;
+    m_password = session().data().Con.password();
     lblFile->setText(QDir::toNativeSeparators(path));
+    showChosen();
+}
+
+void frmRestore::showChosen()
+{
+    m_lockedPath.clear();
     QString text;
-    if (path.isEmpty()) {
+    if (m_path.isEmpty()) {
         text = tr("There is no backup yet in the folder of the settings. Choose a file.");
     } else if (const QString reason = examine(text); !reason.isEmpty()) {
         m_path.clear();
@@ -135,6 +153,19 @@ void frmRestore::choose(const QString &path)
     }
     lblContents->setText(text);
     btnOK->setEnabled(!m_path.isEmpty());
+    btnUnlock->setEnabled(!m_lockedPath.isEmpty());
+}
+
+void frmRestore::unlock()
+{
+    const QString path = m_lockedPath;
+    const auto opens = [this, &path](const FilePassword &password) {
+        m_path = path;
+        m_password = password;
+        showChosen();
+        return m_lockedPath.isEmpty();
+    };
+    frmUnlock(messages(), path, opens, this).exec();
 }
 
 QString frmRestore::examine(QString &contents)
@@ -144,10 +175,16 @@ QString frmRestore::examine(QString &contents)
     if (QFileInfo(m_path) == QFileInfo(session().data().Con.path()))
         return tr("It is the journal itself.");
     try {
-        BackupFile file(m_path);
+        BackupFile file(m_path, m_password);
         contents = contentsText(session().text(), file.contents());
         return {};
     } catch (const std::exception &error) {
+        const auto *refusal = dynamic_cast<const StoreError *>(&error);
+        if (refusal && refusal->kind() == StoreError::Kind::Locked) {
+            m_lockedPath = m_path;
+            return tr("It is locked with another password than the journal. Press Password\u2026 "
+                      "to type it.");
+        }
         const QString cause = causeOf(error);
         return cause.isEmpty() ? QString::fromUtf8(error.what()) : cause;
     }
@@ -175,7 +212,7 @@ void frmRestore::restore()
     QString kept;
     bool isCancelled = false;
     const auto replace = [&] {
-        BackupFile file(m_path); // anew: it may be another one since it was shown
+        BackupFile file(m_path, m_password); // anew: it may be another one since it was shown
         kept = runBackup(this, session(), place);
         if (kept.isEmpty())
             return; // cancelled before anything was changed

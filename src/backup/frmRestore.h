@@ -1,6 +1,7 @@
 // Brings a backup back.
 #pragma once
 
+#include "data/filepassword.h"
 #include "ui/formdialog.h"
 
 class ElidedLabel;
@@ -23,6 +24,8 @@ private:
     void listBackups();
     void pickOther();
     void choose(const QString &path);
+    void showChosen();
+    void unlock();
     /// Reads the chosen file; why it can't be restored, empty where it can.
     QString examine(QString &contents);
     void restore();
@@ -31,7 +34,10 @@ private:
 
     QListWidget *lstBackups;
     QPushButton *btnOther;
+    QPushButton *btnUnlock;
     ElidedLabel *lblFile;
     QLabel *lblContents;
-    QString m_path; ///< of the file chosen; empty where none is
+    QString m_path;          ///< of the file chosen; empty where none is
+    QString m_lockedPath;    ///< of one that takes another password
+    FilePassword m_password; ///< that is tried: the journal's, or the one typed last
 };

@@ -113,9 +113,10 @@ bool copyPages(Connection &from, Connection &to, const BackupProgress &progress)
 }
 
 // Reads it from the disk, not from what the copying connection still holds.
-void verifyCopy(const QString &path, const std::vector<qint64> &counts)
+void verifyCopy(const QString &path, const FilePassword &password,
+                const std::vector<qint64> &counts)
 {
-    Connection copy(path);
+    Connection copy(path, password);
     if (!isWhole(copy))
         throw BackupError(BackupError::tr(
             "The copy is not whole, since the journal's file is damaged. The help page \"Your "
@@ -124,19 +125,20 @@ void verifyCopy(const QString &path, const std::vector<qint64> &counts)
         throw BackupError(BackupError::tr("The copy does not hold what the journal holds."));
 }
 
-bool copyDatabase(const QString &databasePath, const QString &path, const BackupProgress &progress)
+bool copyDatabase(const QString &databasePath, const QString &path, const BackupProgress &progress,
+                  const FilePassword &password)
 {
     // A connection of its own, whose transaction keeps the state to be copied from being changed.
-    Connection journal(databasePath);
+    Connection journal(databasePath, password);
     journal.exec("begin");
     const std::vector<qint64> counts = rowCounts(journal);
     {
-        const auto copy = Connection::create(path);
+        const auto copy = Connection::create(path, journal.password());
         copy->exec("PRAGMA journal_mode=OFF"); // nothing of it is worth bringing back
         if (!copyPages(journal, *copy, progress))
             return false;
     }
-    verifyCopy(path, counts);
+    verifyCopy(path, password, counts);
     return !progress || progress(100);
 }
 
@@ -153,10 +155,11 @@ void copySettings(const QString &programFolder, const QString &folder)
 } // namespace
 
 QString makeBackup(const QString &databasePath, const QString &place, const QDateTime &now,
-                   const BackupProgress &progress)
+                   const BackupProgress &progress, const FilePassword &password)
 {
     UnfinishedBackup backup(place, now);
-    if (!copyDatabase(databasePath, Installation(backup.folder()).databasePath(), progress))
+    if (!copyDatabase(databasePath, Installation(backup.folder()).databasePath(), progress,
+                      password))
         return {};
     copySettings(QFileInfo(databasePath).absolutePath(), backup.folder());
     return backup.finish();

@@ -1,6 +1,7 @@
 #include "data/connection.h"
 
 #include "data/changerecorder.h"
+#include "data/filekey.h"
 #include "data/namecollation.h"
 #include "data/schema.h"
 #include "data/sqlfunctions.h"
@@ -11,17 +12,9 @@
 
 #include <sqlite3.h>
 
-namespace {
+#include <filesystem>
 
-// The password is no secret: it keeps the file from being read or changed by accident, and makes
-// every page carry an authentication code. Stretching a public key buys nothing, so the key
-// derivation runs once only, which opens the file in about a millisecond. README tells how other
-// tools open it.
-constexpr char keySettings[] = "PRAGMA cipher='sqlcipher';"
-                               "PRAGMA legacy=3;"
-                               "PRAGMA legacy_page_size=4096;"
-                               "PRAGMA kdf_iter=1;"
-                               "PRAGMA key='qmvzr271';";
+namespace {
 
 // EXTRA also synchronizes the folder after the rollback journal is gone: without it a power
 // failure could bring the journal back and undo what the window has reported as stored.
@@ -92,36 +85,74 @@ Value columnValue(SQLite::Statement &statement, int column)
     }
 }
 
-Connection::Connection(const QString &path)
+Connection::Connection(const QString &path, const FilePassword &password)
 {
     // The engine would take an empty file for a database without tables.
     const QFileInfo file(path);
     if (!file.isFile() || file.size() == 0)
         throw StoreError(StoreError::Kind::Damaged, "the database file is missing or empty");
     guarded([&] {
-        open(path, SQLite::OPEN_READWRITE);
+        open(path, SQLite::OPEN_READWRITE, password);
         checkTables();
         checkWritable(path);
     });
 }
 
-std::unique_ptr<Connection> Connection::create(const QString &path)
+std::unique_ptr<Connection> Connection::create(const QString &path, const FilePassword &password)
 {
     if (QFileInfo::exists(path))
         throw StoreError(StoreError::Kind::Other, "a file of this name exists already");
     std::unique_ptr<Connection> connection(new Connection);
-    guarded([&] { connection->open(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE); });
+    guarded(
+        [&] { connection->open(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, password); });
     return connection;
 }
 
-void Connection::open(const QString &path, int flags)
+// The connection that there is stays where this one is refused.
+void Connection::open(const QString &path, int flags, const FilePassword &password)
 {
+    auto database = std::make_unique<SQLite::Database>(enginePath(path), flags, busyTimeout);
+    const bool isNew = (flags & SQLite::OPEN_CREATE) != 0;
+    const bool isLocked =
+        isNew ? !password.isEmpty() : filekey::bearsLockMark(database->getHandle());
+    if (!isLocked)
+        filekey::useBuiltIn(database->getHandle());
+    else if (isNew)
+        filekey::useForNewFile(database->getHandle(), password);
+    else
+        filekey::use(database->getHandle(), password);
+    registerFunctions(database->getHandle());
+    registerNameCollation(database->getHandle());
+    database->exec(connectionSettings);
     m_path = path;
-    m_database = std::make_unique<SQLite::Database>(enginePath(path), flags, busyTimeout);
-    m_database->exec(keySettings);
-    registerFunctions(m_database->getHandle());
-    registerNameCollation(m_database->getHandle());
-    m_database->exec(connectionSettings);
+    m_password = isLocked ? password : FilePassword();
+    m_database = std::move(database);
+}
+
+void Connection::replaceFile(const QString &other, const FilePassword &password)
+{
+    const auto native = [](const QString &path) {
+        return std::filesystem::path(QString::fromStdString(enginePath(path)).toStdU16String());
+    };
+    m_prepared.clear();
+#ifdef Q_OS_WIN
+    // There, a file that is open can't be replaced. Until one is open again nothing can be read.
+    m_database = std::make_unique<SQLite::Database>(":memory:", SQLite::OPEN_READWRITE);
+#endif
+    std::error_code error;
+    // What a link to the file points to, not the link.
+    std::filesystem::rename(native(other), native(QFileInfo(m_path).canonicalFilePath()), error);
+    if (error) {
+#ifdef Q_OS_WIN
+        guarded([this] { open(m_path, SQLite::OPEN_READWRITE, m_password); });
+#endif
+        throw StoreError(StoreError::Kind::ReadOnly, "the file can't be replaced");
+    }
+    try {
+        guarded([&] { open(m_path, SQLite::OPEN_READWRITE, password); });
+    } catch (const StoreError &refusal) {
+        throw StoreError(StoreError::Kind::Replaced, refusal.what());
+    }
 }
 
 void Connection::checkTables()

@@ -1,6 +1,7 @@
 // The one connection to the database file.
 #pragma once
 
+#include "data/filepassword.h"
 #include "data/storeerror.h"
 #include "data/value.h"
 
@@ -67,10 +68,14 @@ class Connection
 public:
     /// Opens the journal's file for reading and writing. Throws StoreError where it is missing,
     /// is no database of this program, is damaged, can't be written, or is held by another
-    /// program beyond the time-out. An existing file is not changed by opening it.
-    explicit Connection(const QString &path);
-    /// Makes a new, empty, encrypted file; throws StoreError where one exists already.
-    static std::unique_ptr<Connection> create(const QString &path);
+    /// program beyond the time-out. An existing file is not changed by opening it. A file that the
+    /// user has locked takes the password and a fifth of a second, and is refused as Locked without
+    /// the right one; for any other file the password stays unused.
+    explicit Connection(const QString &path, const FilePassword &password = {});
+    /// Makes a new, empty, encrypted file, locked where there is a password; throws StoreError
+    /// where one exists already.
+    static std::unique_ptr<Connection> create(const QString &path,
+                                              const FilePassword &password = {});
 
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
@@ -88,6 +93,13 @@ public:
     SQLite::Database &database() { return *m_database; }
     /// Of the file, as it was opened.
     const QString &path() const { return m_path; }
+    /// With which the file is locked; empty where it isn't.
+    const FilePassword &password() const { return m_password; }
+    /// Puts another file, which is locked with this password or with none, in the place of the one
+    /// that is open, and opens it; an open transaction of this connection is rolled back. No result
+    /// set may be reading. Throws StoreError: the file is the old one then, unless the kind is
+    /// Replaced.
+    void replaceFile(const QString &other, const FilePassword &password);
     bool isInTransaction() const;
     /// Another number whenever another program has stored something meanwhile.
     qint64 dataVersion();
@@ -101,11 +113,12 @@ public:
 
 private:
     Connection() = default;
-    void open(const QString &path, int flags);
+    void open(const QString &path, int flags, const FilePassword &password);
     void checkTables();
     void checkWritable(const QString &path);
 
     QString m_path;
+    FilePassword m_password;
     std::unique_ptr<SQLite::Database> m_database;
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_prepared;
     ChangeRecorder *m_recorder = nullptr;

@@ -1,7 +1,7 @@
 #include "data/deData.h"
 
-deData::deData(const QString &path)
-    : Con(path)
+deData::deData(const QString &path, const FilePassword &password)
+    : Con(path, password)
 {
 }
 

@@ -9,7 +9,7 @@ class deData
 {
 public:
     /// Opens the database file; throws StoreError as Connection does.
-    explicit deData(const QString &path);
+    explicit deData(const QString &path, const FilePassword &password = {});
     ~deData();
 
     /// Runs a command without rows, durably; the number of rows changed.

@@ -17,6 +17,7 @@ const QString journalSuffix = u"-journal"_s;
 
 struct Examined
 {
+    bool isLocked = false;
     bool isWhole = false;
     int strays = 0;         ///< rows that refer to none
     qint64 changeCount = 0; ///< raised by one by every store
@@ -36,10 +37,10 @@ qint64 changeCountOf(sqlite3 *database)
 }
 
 // None where the file can't even be opened.
-std::optional<Examined> examine(const QString &path)
+std::optional<Examined> examine(const QString &path, const FilePassword &password)
 {
     try {
-        Connection connection(path);
+        Connection connection(path, password);
         SQLite::Database &database = connection.database();
         Examined result;
         result.changeCount = changeCountOf(database.getHandle());
@@ -49,6 +50,10 @@ std::optional<Examined> examine(const QString &path)
         while (references.executeStep())
             ++result.strays;
         return result;
+    } catch (const StoreError &error) {
+        if (error.kind() == StoreError::Kind::Locked)
+            return Examined{.isLocked = true};
+        return std::nullopt;
     } catch (const std::runtime_error &) {
         return std::nullopt;
     }
@@ -79,7 +84,7 @@ bool isPending(const QString &path)
 
 } // namespace
 
-PendingRollback examineRollback(const QString &path)
+PendingRollback examineRollback(const QString &path, const FilePassword &password)
 {
     if (!isPending(path))
         return PendingRollback::None;
@@ -90,8 +95,10 @@ PendingRollback examineRollback(const QString &path)
         !QFile::copy(path + journalSuffix, undone + journalSuffix))
         return PendingRollback::Untried;
 
-    const auto before = examine(asItIs);
-    const auto after = examine(undone);
+    const auto before = examine(asItIs, password);
+    const auto after = examine(undone, password);
+    if (after && after->isLocked)
+        return PendingRollback::Locked;
     // The store that was cut short is at most one ahead of the state it is undone to.
     const qint64 ahead = before && after ? before->changeCount - after->changeCount : 0;
     const bool isForeign = ahead != 0 && ahead != 1;

@@ -58,34 +58,31 @@ void Recordset::open(std::initializer_list<Value> values)
     if (m_open)
         throw std::logic_error(std::string("rs") + m_command.name + " is open already");
     guarded([&] {
-        if (!m_statement) {
-            m_statement =
-                std::make_unique<SQLite::Statement>(m_connection.database(), m_command.sql);
-            for (int i = 0; i < m_statement->getColumnCount(); ++i)
-                m_columns.emplace_back(m_statement->getColumnName(i));
+        const StatementUse statement = m_connection.prepared(m_command.sql);
+        if (m_columns.empty()) {
+            for (int i = 0; i < statement->getColumnCount(); ++i)
+                m_columns.emplace_back(statement->getColumnName(i));
         }
-        bindParameters(*m_statement, m_command, values);
-        readRows();
+        bindParameters(*statement, m_command, values);
+        readRows(*statement);
     });
     m_open = true;
 }
 
-void Recordset::readRows()
+void Recordset::readRows(SQLite::Statement &statement)
 {
-    const StatementUse use(*m_statement);
-
     m_rows = {};
     m_leftOut = 0;
     m_cutShort = false;
-    const int columns = m_statement->getColumnCount();
+    const int columns = statement.getColumnCount();
     const int key = m_command.identifier ? int(columnOf(*m_command.identifier)) : -1;
-    while (m_statement->executeStep()) {
-        if (key >= 0 && !isIdentifier(columnValue(*m_statement, key))) {
+    while (statement.executeStep()) {
+        if (key >= 0 && !isIdentifier(columnValue(statement, key))) {
             ++m_leftOut;
             continue;
         }
         for (int i = 0; i < columns; ++i)
-            m_rows.values.push_back(columnValue(*m_statement, i));
+            m_rows.values.push_back(columnValue(statement, i));
         ++m_rows.count;
     }
 }

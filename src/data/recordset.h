@@ -95,7 +95,7 @@ private:
     {
         return m_rows.values[row * m_columns.size() + column];
     }
-    void readRows();
+    void readRows(SQLite::Statement &statement);
     void insertRow();
     void updateRow();
     std::string unchangedRow(std::vector<Value> &values);
@@ -106,8 +106,7 @@ private:
 
     Connection &m_connection;
     const Command &m_command;
-    std::unique_ptr<SQLite::Statement> m_statement; ///< prepared at the first opening
-    std::vector<std::string> m_columns;
+    std::vector<std::string> m_columns; ///< known from the first opening on
     Rows m_rows;
     size_t m_leftOut = 0;
     bool m_cutShort = false;

@@ -16,6 +16,8 @@ StoreError::Kind kindOf(const SQLite::Exception &error)
     // Only the deletion of the rollback journal, the last step of a commit, ends this way.
     case SQLITE_IOERR_DIR_FSYNC:
         return StoreError::Kind::Uncertain;
+    case SQLITE_READONLY_DBMOVED:
+        return StoreError::Kind::Replaced;
     default:
         break;
     }

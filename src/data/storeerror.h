@@ -23,6 +23,8 @@ public:
         Uncertain,         ///< the disk reported one when all was written: it may be stored
         ReadOnly,          ///< the file or its folder can't be written
         Damaged,           ///< not a database of this program, or a broken one
+        Locked,            ///< with a password of the user's, and not with the one at hand
+        Replaced,          ///< another file has taken the place of the one that is open
         Gone,              ///< the record was deleted meanwhile
         Changed,           ///< another program changed the record since it was read
         ParametersChanged, ///< or the common parameters

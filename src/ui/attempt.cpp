@@ -30,6 +30,11 @@ QString causeOf(StoreError::Kind kind)
     case StoreError::Kind::Damaged:
         return tr("The database file is damaged. Please keep a copy of it as it is; the help page "
                   "\"Your data\" says how to go on.");
+    case StoreError::Kind::Locked:
+        return tr("The database file is locked with another password.");
+    case StoreError::Kind::Replaced:
+        return tr("Another program has put another file in the place of the database file, or has "
+                  "changed its password. Please end this program and start it again.");
     case StoreError::Kind::Gone:
         return tr("The record has been deleted meanwhile.");
     case StoreError::Kind::Changed:

@@ -18,8 +18,14 @@
 
 FormDialog::FormDialog(Session &session, Messages &messages, const QString &name,
                        const QString &caption, QWidget *parent)
+    : FormDialog(messages, name, caption, parent)
+{
+    m_session = &session;
+}
+
+FormDialog::FormDialog(Messages &messages, const QString &name, const QString &caption,
+                       QWidget *parent)
     : QDialog(parent)
-    , m_session(session)
     , m_messages(messages)
 {
     setObjectName(name);
@@ -62,7 +68,7 @@ void FormDialog::addCheck(QWidget *field, const QString &message, std::function<
 
 void FormDialog::checkNumber(QLineEdit *box, const QString &message)
 {
-    addCheck(box, message, [this, box] { return m_session.text().isNumeric(box->text()); });
+    addCheck(box, message, [this, box] { return session().text().isNumeric(box->text()); });
 }
 
 void FormDialog::checkSpecified(QLineEdit *box, const QString &field)
@@ -78,7 +84,7 @@ void FormDialog::checkNumeric(QLineEdit *box, const QString &field)
 void FormDialog::checkNumericOrEmpty(QLineEdit *box, const QString &field)
 {
     addCheck(box, containsIllegalData(field), [this, box] {
-        return box->text().isEmpty() || m_session.text().isNumeric(box->text());
+        return box->text().isEmpty() || session().text().isNumeric(box->text());
     });
 }
 

@@ -29,6 +29,8 @@ protected:
 
     FormDialog(Session &session, Messages &messages, const QString &name, const QString &caption,
                QWidget *parent);
+    /// Before there is a session: without session() and the checks of numbers.
+    FormDialog(Messages &messages, const QString &name, const QString &caption, QWidget *parent);
 
     /// Tries the checks in their order; reports the first that fails and moves the focus there.
     virtual bool Validate();
@@ -65,7 +67,7 @@ protected:
     /// On a screen too small for the form the form scrolls, and the buttons stay in sight.
     void showEvent(QShowEvent *event) override;
 
-    Session &session() const { return m_session; }
+    Session &session() const { return *m_session; }
     Messages &messages() const { return m_messages; }
 
     QPushButton *btnOK = nullptr; ///< these three are made by setForm()
@@ -76,7 +78,7 @@ private:
     QLayout *makeButtons();
     void letFormScroll();
 
-    Session &m_session;
+    Session *m_session = nullptr;
     Messages &m_messages;
     std::vector<FieldCheck> m_checks;
 };

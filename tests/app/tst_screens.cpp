@@ -120,6 +120,7 @@ void tst_screens::everythingIsWithinReach()
           "mnuExport frmExport",
           "mnuImport frmImport",
           "mnuCheckJournal frmCheckJournal",
+          "mnuPassword frmPassword",
           "mnuRestore frmRestore",
           "mnuBackupSettings frmBackupSettings",
           "mnuCommon frmCommon",

@@ -35,10 +35,12 @@ void tst_includes::everyIncludeRunsDown()
 {
     // What each folder may include besides itself.
     const QMap<QString, QString> plan{
-        {"app", "backup help exchange progress goals quickadd journal catalogue settings chart plot ui "
+        {"app", "backup lock help exchange progress goals quickadd journal catalogue settings "
+                "chart plot ui "
                 "session data"},
         {"exchange", "catalogue settings ui session data"},
         {"backup", "goals ui session data"},
+        {"lock", "backup ui session data"},
         {"progress", "plot goals settings ui session data"},
         {"quickadd", "journal catalogue ui session data"},
         {"journal", "catalogue settings ui session data"},
