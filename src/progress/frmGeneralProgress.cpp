@@ -4,6 +4,7 @@
 #include "progress/daystable.h"
 #include "progress/progresschart.h"
 #include "progress/savepicture.h"
+#include "progress/targets.h"
 #include "progress/weekstable.h"
 #include "session/session.h"
 #include "ui/attempt.h"
@@ -42,6 +43,15 @@ QPushButton *makeButton(const QString &name, const QString &caption, QWidget *pa
     return button;
 }
 
+DaySeries loadWithTargets(Session &session, const Period &period)
+{
+    const CommonParameters &parameters = session.parameters();
+    DaySeries series = loadSeries(session.data(), period, parameters.metabolicRate);
+    series.targets = targetsOf(goalsOf(installationOf(session.data().Con)), parameters.isMetric(),
+                               session.clock().now().date());
+    return series;
+}
+
 /// Runs what shows a period. A figure beyond what it can hold is told in a message.
 void tellingFaults(Session &session, Messages &messages, QWidget *window,
                    const std::function<void()> &show)
@@ -71,7 +81,7 @@ frmGeneralProgress::frmGeneralProgress(Session &session, Messages &messages, con
     , m_session(session)
     , m_messages(messages)
     , m_steps(period)
-    , m_series(loadSeries(session.data(), period, session.parameters().metabolicRate))
+    , m_series(loadWithTargets(session, period))
     , m_texts(session.text(), session.parameters().isMetric())
     , tabPages(new QTabWidget(this))
     , m_chart(new ProgressChart(m_series, m_texts, this))
@@ -245,7 +255,7 @@ void frmGeneralProgress::sizeToScreen()
 void frmGeneralProgress::showPeriod(const PeriodSteps &steps)
 {
     const Period period = steps.current();
-    DaySeries series = loadSeries(m_session.data(), period, m_session.parameters().metabolicRate);
+    DaySeries series = loadWithTargets(m_session, period);
     const std::vector<Consumed> consumed = loadConsumed(m_session.data(), period);
     const auto exchange = [&] {
         std::swap(m_series, series);

@@ -1,6 +1,7 @@
 #include "progress/progresschart.h"
 
 #include "progress/progresslayout.h"
+#include "progress/targets.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -40,8 +41,10 @@ void ProgressChart::startAnew()
     m_day = lastKnownDay(m_series);
     m_pointed.reset();
     m_note.reset();
-    setAccessibleName(
-        tr("General progress chart. %1").arg(m_texts.summaryWords(summaryOf(m_series))));
+    const Summary summary = summaryOf(m_series);
+    const QStringList words = QStringList(m_texts.summaryWords(summary)) +
+                              targetWords(summary, m_series.targets, m_texts);
+    setAccessibleName(tr("General progress chart. %1").arg(words.join(QStringLiteral(". "))));
     relayout();
     geometry(); // throws here, if it does
 }

@@ -1,4 +1,5 @@
 #include "progress/progresslayout.h"
+#include "progress/targets.h"
 
 #include <algorithm>
 #include <cmath>
@@ -93,6 +94,26 @@ void ProgressLayout::placeFigures()
     m_top = y + height + em(0.5);
 }
 
+/// What is said of the goals, below the figures.
+void ProgressLayout::placeTargetWords()
+{
+    const double left = g.area.left() + em(margin);
+    const double right = g.area.right() - em(margin);
+    double x = left;
+    const QStringList sentences = targetWords(m_summary, m_series.targets, m_texts);
+    for (const QString &sentence : sentences) {
+        const double wide = std::min(width(sentence), right - left);
+        if (x > left && x + wide > right) {
+            x = left;
+            m_top += em(1.1);
+        }
+        text(QRectF(x, m_top, wide, g.unit), sentence, Qt::AlignLeft | Qt::AlignVCenter);
+        x += wide + em(1.5);
+    }
+    if (!sentences.isEmpty())
+        m_top += em(1.4);
+}
+
 void ProgressLayout::layRows()
 {
     // Many notes take turns in two rows, so that their letters have room.
@@ -116,6 +137,19 @@ void ProgressLayout::layRows()
     layBalanceScale(0);
 }
 
+/// A goal is on the scale, too, unless that would make the measured values much smaller.
+void ProgressLayout::widenByTarget(Range &range, Series series) const
+{
+    const std::optional<double> target = m_series.targets.of(series);
+    if (!target || range.isEmpty())
+        return;
+    constexpr float leastSpan = 2;
+    const float span = std::max(range.maximum - range.minimum, leastSpan);
+    const auto value = float(*target);
+    if (value > range.minimum - 2 * span && value < range.maximum + 2 * span)
+        range.widen(value);
+}
+
 /// Above the highest value there is room for the marks of values beyond the scale.
 void ProgressLayout::layBodyScales()
 {
@@ -131,8 +165,12 @@ void ProgressLayout::layBodyScales()
         if (m_averages.back()) // the days before the period may have been higher or lower
             weights.widen(float(*m_averages.back()));
     }
+    Range girths = m_series.girths;
+    widenByTarget(weights, Series::Weight);
+    for (const Series series : {Series::Breast, Series::Waist, Series::Hips})
+        widenByTarget(girths, series);
     scale(g.weight, weights);
-    scale(g.girths, m_series.girths);
+    scale(g.girths, girths);
 }
 
 void ProgressLayout::layBalanceScale(double valueHeight)

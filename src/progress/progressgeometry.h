@@ -56,6 +56,13 @@ struct SeriesLine
 /// Through the averages of days that follow each other.
 using TrendLine = std::vector<QPointF>;
 
+/// Across the plot at the height of a goal.
+struct TargetLine
+{
+    Series series;
+    QLineF line;
+};
+
 struct BalanceColumn
 {
     qint16 day;
@@ -79,6 +86,7 @@ enum class LegendKind
     FilledIn,
     BeyondScale,
     Trend,
+    Target,
     Surplus,
     Deficit,
     Average,
@@ -116,7 +124,8 @@ struct ProgressGeometry
     ProgressLane girths;
     ProgressLane balance;
     std::vector<SeriesLine> lines;
-    std::vector<TrendLine> trend; ///< of the weight, a line for each run of days that have one
+    std::vector<TrendLine> trend;    ///< of the weight, a line for each run of days that have one
+    std::vector<TargetLine> targets; ///< those on the scale
     std::vector<BalanceColumn> columns;
     std::vector<QRectF> notRecorded; ///< strips on the zero line where calories are missing
     double averageY = 0;             ///< of the balance; drawn where hasAverage

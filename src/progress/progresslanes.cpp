@@ -56,6 +56,26 @@ void ProgressLayout::placeTrend()
     g.trend = trendLines(m_averages, g.weight, g.days, em(1));
 }
 
+void ProgressLayout::placeTargets()
+{
+    for (const Series series : allSeries) {
+        const std::optional<double> target = m_series.targets.of(series);
+        const ProgressLane &lane = g.laneOf(series);
+        const bool isOnScale =
+            m_series.hasBody() && target && *target >= lane.scale.low && *target <= lane.scale.high;
+        if (!isOnScale)
+            continue;
+        const double y = lane.scale.y(*target);
+        g.targets.push_back({series, QLineF(g.plot.left(), y, g.plot.right(), y)});
+    }
+}
+
+bool ProgressLayout::hasTarget(const ProgressLane &lane) const
+{
+    return std::any_of(g.targets.begin(), g.targets.end(),
+                       [&](const TargetLine &target) { return &g.laneOf(target.series) == &lane; });
+}
+
 /// What a line is stands right of the plot, at the height of its last measured value. Labels that
 /// would touch are moved apart; one for which the lane is too low is left out.
 void ProgressLayout::placeLineLabels(const ProgressLane &lane)
@@ -190,6 +210,7 @@ double ProgressLayout::sampleWidth(LegendKind kind) const
     case LegendKind::FilledIn:
     case LegendKind::BeyondScale:
     case LegendKind::Average:
+    case LegendKind::Target:
         return em(1.7);
     default:
         return em(0.8);
@@ -235,6 +256,8 @@ void ProgressLayout::placeWeightTitle()
         x = placeSample(g.weight, x, LegendKind::Measured, ProgressTexts::tr("measured"));
     if (has(Mark::Kind::FilledIn))
         x = placeSample(g.weight, x, LegendKind::FilledIn, ProgressTexts::tr("filled in"));
+    if (hasTarget(g.weight))
+        x = placeSample(g.weight, x, LegendKind::Target, ProgressTexts::tr("target"));
     const bool goesBeyond = has(Mark::Kind::AboveScale, Mark::Kind::BelowScale);
     const QString beyond = ProgressTexts::tr("filled in, off the scale");
     if (!g.trend.empty())
@@ -261,6 +284,8 @@ void ProgressLayout::placeGirthsTitle()
         if (m_series.hasBody())
             x = placeSample(g.girths, x, LegendKind::Line, m_texts.name(series), series);
     }
+    if (hasTarget(g.girths))
+        placeSample(g.girths, x, LegendKind::Target, ProgressTexts::tr("target"));
 }
 
 void ProgressLayout::placeBalanceTitle()

@@ -36,6 +36,7 @@ public:
     ProgressGeometry build()
     {
         placeFigures();
+        placeTargetWords();
         layRows();
         layColumns();
         layBalanceValues();
@@ -47,6 +48,7 @@ public:
         placeNotes();
         placeLines();
         placeTrend();
+        placeTargets();
         placeBalance();
         placeTicks();
         placeTitles();
@@ -81,6 +83,7 @@ private:
     double figuresWidth(const std::vector<Figure> &figures, const FigureLook &look) const;
     void layRows();
     void layBodyScales();
+    void widenByTarget(Range &range, Series series) const;
     void layBalanceScale(double valueHeight);
     void layBalanceValues();
     QString balanceValue(qint16 day) const
@@ -101,6 +104,9 @@ private:
         return {left, top, g.area.right() - left, g.unit};
     }
     void placeTrend();
+    void placeTargetWords();
+    void placeTargets();
+    bool hasTarget(const ProgressLane &lane) const;
     void placeBalance();
     void placeBalanceValues();
     bool hasRoomForValue(const BalanceColumn &column, const QRectF &rect) const;

@@ -42,6 +42,12 @@ private:
         bridge.setDashPattern({1, 2});
         return bridge;
     }
+    QPen targetPen(Series series) const
+    {
+        QPen target = pen(c.line(series), 1.2);
+        target.setDashPattern({7, 2, 1.5, 2});
+        return target;
+    }
     QPen trendPen() const
     {
         QPen trend = pen(c.trend, 2);
@@ -101,6 +107,10 @@ void ProgressPainter::paint()
         for (const ProgressLane *lane : {&g.weight, &g.girths, &g.balance})
             paintLane(*lane);
         paintColumns();
+    }
+    for (const TargetLine &target : g.targets) {
+        p.setPen(targetPen(target.series));
+        p.drawLine(target.line);
     }
     for (const SeriesLine &line : g.lines)
         paintLine(line);
@@ -253,6 +263,10 @@ void ProgressPainter::paintSample(const LegendEntry &entry)
         p.drawLine(left + QPointF(0, em(0.25)), right + QPointF(0, em(0.25)));
         paintMark({0, Mark::Kind::AboveScale, rect.center() - QPointF(0, em(0.35))}, Series::Weight,
                   usual);
+        break;
+    case LegendKind::Target:
+        p.setPen(targetPen(entry.series));
+        p.drawLine(left, right);
         break;
     case LegendKind::Trend:
         p.setPen(trendPen());

@@ -6,6 +6,7 @@
 #include "progress/progresstrend.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,15 @@ struct Range
     bool isEmpty() const { return minimum > maximum; }
 };
 
+/// What the user aims at, in the user's units; those that are missing are none.
+struct Targets
+{
+    std::array<std::optional<double>, allSeries.size()> values;
+    QDate today; ///< from which on they may be reached
+
+    std::optional<double> of(Series series) const { return values[size_t(series)]; }
+};
+
 struct Note
 {
     QString NoteText;
@@ -100,6 +110,7 @@ public:
     Range weights = {1000, 0};
     Range calories = {-2000, 2000};
     std::vector<Note> notes;
+    Targets targets;
 
     /// What was measured, in the period and in the days before it that its first averages and a
     /// slope reach back to; a measured value stays here where a gap was filled in over it.

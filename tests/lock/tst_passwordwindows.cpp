@@ -50,7 +50,7 @@ struct LockedProgram
     bool start(const std::function<void(QWidget &)> &steps)
     {
         startUp = std::make_unique<StartUp>(
-            StartUpSettings{folder.path(), clock, QLocale::c(), messages});
+            StartUpSettings{Installation(folder.path()), clock, QLocale::c(), messages});
         bool isStarted = false;
         inDialog(
             "frmUnlock", [&] { isStarted = startUp->run(); }, steps);

@@ -67,6 +67,9 @@ DaySeries anySeries(quint32 seed)
             balance(series, day, qint16(random.bounded(8000) - 4000));
     }
     series.Approximate();
+    if (seed % 4 == 0)
+        series.targets = {{60.0 + random.bounded(40), {}, 60.0 + random.bounded(60), 85.0},
+                          series.period().dateTo};
     return series;
 }
 
@@ -232,6 +235,37 @@ bool linesFollowTheValues(const Sample &s)
 }
 
 /// The mean of what was measured on seven days, where that are three or more; broken elsewhere.
+/// Across the plot at their heights, where these are on the scale; those of all that are near what
+/// was measured, and the legend says what they are.
+bool targetsStandAtTheirHeights(const Sample &s)
+{
+    size_t drawn = 0;
+    for (const Series series : allSeries) {
+        const std::optional<double> target = s.series.targets.of(series);
+        const ProgressLane &lane = s.g.laneOf(series);
+        const Range &range = series == Series::Weight ? s.series.weights : s.series.girths;
+        if (!target || !s.series.hasBody())
+            continue;
+        const bool isNear =
+            *target > double(range.minimum) - 4 && *target < double(range.maximum) + 4;
+        const double y = heightOf(lane, *target);
+        const bool isDrawn = drawn < s.g.targets.size() && s.g.targets[drawn].series == series;
+        if (!isDrawn && (isNear || (y >= lane.scale.topY && y <= lane.scale.bottomY)))
+            return false;
+        if (!isDrawn)
+            continue;
+        const QLineF &line = s.g.targets[drawn++].line;
+        if (!near(line.y1(), y, 1e-3) || line.dy() != 0 || !near(line.x1(), s.g.plot.left()) ||
+            !near(line.x2(), s.g.plot.right()) || y < lane.area.top() - 1e-6 ||
+            y > lane.area.bottom() + 1e-6)
+            return false;
+    }
+    const bool isSaid = anyText(s, [](const PlacedText &text) {
+        return text.text.startsWith(QStringLiteral("Hips: target 85 cm"));
+    });
+    return drawn == s.g.targets.size() && isSaid == s.series.targets.of(Series::Hips).has_value();
+}
+
 bool trendFollowsTheAverages(const Sample &s)
 {
     const MeasuredValues &measured = s.series.measured(Series::Weight);
@@ -479,6 +513,7 @@ constexpr std::array properties = {
                      [](const Sample &s) { return s.g.isEmpty || scalesAreLabelled(s); }},
     Property<Sample>{"lines follow the values", linesFollowTheValues},
     Property<Sample>{"trend follows the averages", trendFollowsTheAverages},
+    Property<Sample>{"targets stand at their heights", targetsStandAtTheirHeights},
     Property<Sample>{"lines are labelled", linesAreLabelled},
     Property<Sample>{"columns stand on zero",
                      [](const Sample &s) { return s.g.isEmpty || columnsStandOnZero(s); }},

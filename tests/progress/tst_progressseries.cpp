@@ -1,6 +1,7 @@
 // A period, whether there is enough in it, and its series: what is stored, filled in, missing and
 // too large.
 #include "progress/progresstable.h"
+#include "progress/targets.h"
 #include "progress/timemarks.h"
 #include "progress/weekstext.h"
 #include "progresssamples.h"
@@ -214,6 +215,46 @@ private slots:
         const Trend trend = trendOf(line);
         QVERIFY(trend.days == 4 && qAbs(*trend.perWeek + 1.4) < 1e-9);
         QVERIFY(qAbs(*trend.now - 78.2) < 1e-9);
+    }
+    void targets()
+    {
+        const ProgressJournal journal;
+        const ProgressTexts texts(journal.session->text(), true);
+        const QDate last = firstDay.addDays(60);
+        const auto told = [&](double daily, double target, int daysAgo = 0, int measured = 9) {
+            DaySeries series({firstDay, last});
+            for (int i = 0; i < measured; ++i) {
+                const int day = 60 - 3 * i;
+                series.addMeasured(Series::Waist, {firstDay.addDays(day), 80 + daily * (day - 60)});
+                series.at(qint16(day + 1)).source = BodySource::Measured;
+                series.at(qint16(day + 1)).waist = float(80 + daily * (day - 60));
+            }
+            Goals goals;
+            goals.girths[1] = target;
+            const Targets found = targetsOf(goals, true, last.addDays(daysAgo));
+            return targetWords(summaryOf(series), found, texts).join(u'|');
+        };
+        const auto in = [&](int days) { return roughly(last.addDays(days), last, texts.locale()); };
+        QCOMPARE(
+            told(-0.1, 75),
+            QStringLiteral("Waist: target 75 cm, reached %1 by the present trend").arg(in(50)));
+        QCOMPARE(
+            told(0.1, 82),
+            QStringLiteral("Waist: target 82 cm, reached %1 by the present trend").arg(in(20)));
+        for (const double daily : {0.1, 0.0, -0.0001})
+            QVERIFY(told(daily, 75).endsWith(QStringLiteral(", not reached by the present trend")));
+        QVERIFY(told(-0.1, 81).endsWith(QStringLiteral(", reached"))); // on the way
+        QVERIFY(told(-0.1, 80.01).endsWith(QStringLiteral(", reached")));
+        QVERIFY(told(-0.1, 75, 0, 3).endsWith(QStringLiteral(", too few days for a trend")));
+        QCOMPARE(told(-0.1, 75, 28), QStringLiteral("Waist: target 75 cm")); // a period long past
+
+        const QLocale german(QLocale::German);
+        const QDate today(2026, 11, 24);
+        QCOMPARE(roughly(QDate(2026, 12, 10), today, german),
+                 QStringLiteral("about early Dezember"));
+        QCOMPARE(roughly(QDate(2027, 3, 11), today, german), QStringLiteral("about mid-März 2027"));
+        QCOMPARE(roughly(QDate(2026, 12, 21), today, german),
+                 QStringLiteral("about late Dezember"));
     }
     /// From a Thursday: the first week has four days, the third two.
     void weeks()
