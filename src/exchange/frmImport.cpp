@@ -10,6 +10,7 @@
 #include "ui/elidedlabel.h"
 #include "ui/formscroll.h"
 #include "ui/messages.h"
+#include "ui/progressbox.h"
 #include "ui/reportview.h"
 #include "ui/telling.h"
 #include "ui/wheelguard.h"
@@ -22,7 +23,6 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QStandardPaths>
@@ -450,16 +450,10 @@ void frmImport::accept()
 
 void frmImport::store()
 {
-    constexpr int moment = 500; // milliseconds
     constexpr qsizetype longestName = 40;
-    QProgressDialog dialog(tr("Importing\u2026"), tr("&Cancel"), 0, 100, this);
-    dialog.setObjectName(u"dlgImportProgress"_s);
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.setMinimumDuration(moment);
-    dialog.setValue(0);
-    const auto progress = [&](double share) {
-        dialog.setValue(std::min(99, int(share * 100)));
-        return !dialog.wasCanceled();
+    ProgressBox box(this, u"dlgImportProgress"_s, tr("Importing\u2026"));
+    const auto progress = [&box](double share) {
+        return box.advance(std::min(99, int(share * 100)));
     };
     const QString description =
         m_files.size() == 1

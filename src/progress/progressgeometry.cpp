@@ -18,6 +18,7 @@ constexpr double leastBodyStep = 0.1;
 constexpr double leastBalanceStep = 1;
 constexpr double leastLaneOfValues = 6;
 constexpr double leastHeightOfLines = 36; // of an area with two lines for each trend
+constexpr double leastHeightOfLanes = 18; // with what stands around them
 constexpr double mostDaysOfValue = 1.35;  // that the widest one takes
 
 } // namespace
@@ -94,24 +95,25 @@ void ProgressLayout::placeFigures()
     m_top = y + height + em(0.5);
 }
 
-/// What is said of the goals, below the figures.
+/// What is said of the goals, below the figures, in as many lines as leave the lanes their height.
 void ProgressLayout::placeTargetWords()
 {
     const double left = g.area.left() + em(margin);
     const double right = g.area.right() - em(margin);
-    double x = left;
-    const QStringList sentences = targetWords(m_summary, m_series.targets, m_texts);
-    for (const QString &sentence : sentences) {
+    double x = right;
+    double y = m_top - em(1.1);
+    for (const QString &sentence : targetWords(m_summary, m_series.targets, m_texts)) {
         const double wide = std::min(width(sentence), right - left);
-        if (x > left && x + wide > right) {
+        if (x + wide > right) {
             x = left;
-            m_top += em(1.1);
+            y += em(1.1);
+            if (g.area.bottom() - (y + em(1.4)) < em(leastHeightOfLanes))
+                return;
+            m_top = y + em(1.4);
         }
-        text(QRectF(x, m_top, wide, g.unit), sentence, Qt::AlignLeft | Qt::AlignVCenter);
+        text(QRectF(x, y, wide, g.unit), sentence, Qt::AlignLeft | Qt::AlignVCenter);
         x += wide + em(1.5);
     }
-    if (!sentences.isEmpty())
-        m_top += em(1.4);
 }
 
 void ProgressLayout::layRows()
