@@ -61,10 +61,18 @@ QString ProgressTexts::tick(double value, double step) const
     return locale().toString(value, 'f', decimals);
 }
 
-QString ProgressTexts::withMinus(QString figure)
+QString ProgressTexts::withMinus(QString words)
 {
-    constexpr char16_t minusSign = 0x2212;
-    return figure.replace(u'-', QChar(minusSign));
+    constexpr QChar minusSign(0x2212);
+    const auto isFigure = [&words](qsizetype at) {
+        return (at == 0 || !words[at - 1].isLetterOrNumber()) && at + 1 < words.size() &&
+               words[at + 1].isDigit();
+    };
+    for (qsizetype at = words.indexOf(u'-'); at >= 0; at = words.indexOf(u'-', at + 1)) {
+        if (isFigure(at))
+            words[at] = minusSign;
+    }
+    return words;
 }
 
 QString ProgressTexts::slope(double perWeek) const

@@ -59,8 +59,9 @@ public:
     /// Of a scale with that step.
     QString tick(double value, double step) const;
     QString notKnown() const { return QStringLiteral("–"); }
-    /// With a minus sign that is as wide as a plus, for what is only looked at or read out.
-    static QString withMinus(QString figure);
+    /// The same with minus signs that are as wide as a plus, for what is only looked at or read
+    /// out; hyphens stay.
+    static QString withMinus(QString words);
 
     /// "−0.4 kg a week over the last four weeks (12 days)", or why there is no slope.
     QString slopeWords(Series series, const Summary &summary) const;

@@ -248,6 +248,8 @@ private slots:
         QVERIFY(told(-0.1, 75, 0, 3).endsWith(QStringLiteral(", too few days for a trend")));
         QCOMPARE(told(-0.1, 75, 28), QStringLiteral("Waist: target 75 cm")); // a period long past
 
+        QCOMPARE(ProgressTexts::withMinus(QStringLiteral("-1 kg (-0.5), mid-May, 2-3")),
+                 QStringLiteral("−1 kg (−0.5), mid-May, 2-3"));
         const QLocale german(QLocale::German);
         const QDate today(2026, 11, 24);
         QCOMPARE(roughly(QDate(2026, 12, 10), today, german),
