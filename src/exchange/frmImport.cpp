@@ -83,7 +83,7 @@ frmImport::frmImport(Session &session, Messages &messages, QWidget *parent)
     connect(m_columns, &ImportColumns::changed, this, &frmImport::planSoon);
     showFiles();
     focusFirstField();
-    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 34);
+    resize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 42);
 }
 
 void frmImport::makeControls()

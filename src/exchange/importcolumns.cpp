@@ -110,7 +110,7 @@ QComboBox *ImportColumns::makeColumnChooser(size_t field, const QString &name)
     const ImportField &shown = m_file->table().fields[field];
     QStringList entries = {tr("(none)")};
     for (const QString &header : m_file->headers)
-        entries += excerptOf(header.simplified(), 2 * longestEntry);
+        entries += excerptOf(header.simplified(), qsizetype(2) * longestEntry);
     QComboBox *chooser = makeChooser(u"cboColumn"_s + name, shown.caption, entries);
     chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     chooser->setMinimumContentsLength(longestEntry / 2);

@@ -359,7 +359,7 @@ QString unitInHeader(const QString &header, FieldKind kind)
 {
     const QStringList fitting = unitsOf(kind);
     for (const QString &word : wordsOf(header)) {
-        if (const QString unit = unitNamed(word); fitting.contains(unit))
+        if (QString unit = unitNamed(word); fitting.contains(unit))
             return unit;
     }
     return {};

@@ -89,7 +89,7 @@ void findTimeBehindDate(ImportFile &file, const ImportPlace &place)
 QString portionOf(const ImportFile &file)
 {
     for (const FieldMatch &match : file.matches) {
-        const QString portion = portionInHeader(file.headers.value(match.column));
+        QString portion = portionInHeader(file.headers.value(match.column));
         if (!portion.isEmpty())
             return portion;
     }

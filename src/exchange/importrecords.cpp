@@ -76,7 +76,7 @@ QString unitOf(const ImportRow &row, const ImportFile &file, const char *unitFie
                const char *valueField, FieldKind kind)
 {
     const QString own = row.text(unitField).trimmed();
-    const QString unit = own.isEmpty() ? file.match(valueField).unit : unitInHeader(own, kind);
+    QString unit = own.isEmpty() ? file.match(valueField).unit : unitInHeader(own, kind);
     if (!own.isEmpty() && unit.isEmpty())
         throw ImportRowFault(ImportRecordTexts::tr("The unit is unknown: %1.").arg(own));
     return unit;

@@ -71,7 +71,7 @@ QString ImportRow::longText(const char *field) const
 QString ImportRow::shortText(const char *field) const
 {
     constexpr qsizetype most = 32767; // of a box in an editor
-    const QString text = longText(field);
+    QString text = longText(field);
     if (text.size() > most)
         throw ImportRowFault(
             ImportRowTexts::tr("%1 is longer than 32,767 letters.").arg(cell(field).field.caption));
