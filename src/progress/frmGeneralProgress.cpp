@@ -22,6 +22,7 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTimer>
 #include <QTreeView>
 
 #include <functional>
@@ -195,7 +196,6 @@ void frmGeneralProgress::makeNotes()
 
 void frmGeneralProgress::fillNotes()
 {
-    // The rows are measured once, when all of them are there.
     QHeaderView &rows = *lvwNotes->verticalHeader();
     rows.setSectionResizeMode(QHeaderView::Fixed);
     lvwNotes->setRowCount(0); // none is chosen
@@ -212,12 +212,28 @@ void frmGeneralProgress::fillNotes()
         lvwNotes->setItem(row, 0, letter);
         lvwNotes->setItem(row, 1, text);
     }
-    rows.setSectionResizeMode(QHeaderView::ResizeToContents);
+    measureNotes();
     const bool isEmpty = m_series.notes.empty();
     m_notesHeading->setText(isEmpty ? tr("No notes in this period.") : tr("&Notes"));
     if (isEmpty && lvwNotes->hasFocus())
         m_chart->setFocus(); // hidden, it would hand its focus on to whatever comes next
     lvwNotes->setVisible(!isEmpty);
+}
+
+/// Those in sight at once, and all of them, which may be hundreds, once they are painted.
+void frmGeneralProgress::measureNotes()
+{
+    const auto measureAll = [this] {
+        lvwNotes->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    };
+    if (!isVisible())
+        return measureAll(); // their width is not known yet
+    int height = 0;
+    for (int row = 0; row < lvwNotes->rowCount() && height < lvwNotes->height(); ++row) {
+        lvwNotes->resizeRowToContents(row);
+        height += lvwNotes->rowHeight(row);
+    }
+    QTimer::singleShot(0, lvwNotes, measureAll);
 }
 
 QBoxLayout *frmGeneralProgress::makeButtons()

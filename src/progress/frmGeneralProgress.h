@@ -35,6 +35,7 @@ private:
     QWidget *makePeriodBar();
     void makeNotes();
     void fillNotes();
+    void measureNotes();
     void sizeToScreen();
 
     void showPeriod(const progress::PeriodSteps &steps);
