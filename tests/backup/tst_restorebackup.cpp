@@ -191,11 +191,12 @@ void tst_restorebackup::refusesWhatIsNoBackup()
     if (!sql.isEmpty())
         Connection(m_backup).exec(sql);
     const QByteArray name = QTest::currentDataTag();
+    constexpr qsizetype page = 4096;
     QByteArray bytes = fileBytes(m_backup);
     if (name == "a damaged page")
-        bytes.replace(6 * 4096, 4096, QByteArray(4096, 'x'));
+        bytes.replace(6 * page, page, QByteArray(page, 'x'));
     else if (name == "cut off")
-        bytes.chop(5 * 4096);
+        bytes.chop(5 * page);
     else if (name == "a picture")
         bytes = QByteArray("\x89PNG") + QByteArray(9999, 'x');
     else if (name == "empty")

@@ -239,11 +239,11 @@ void tst_import::recognizesTheRest()
                 "insert into MealCategory values (1, 'Obst');"
                 "insert into Meal values (1, 1, 'Apfel', 'St.', 1, 1, 50, 0, 12, 0, 0, 50, 0)");
     for (const QByteArray bytes :
-         // NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
          {"Datum;Uhrzeit;Lebensmittel;Menge\n3.7.26;8:05;apfel;1.234,5\n",
           "Timestamp\tMeal\tServings\n2026-07-03T20:05:59\tApfel\t2\n",
-          "Date,From,To,Activity,Duration\n7/3/2026,8:05 am,12:10 pm,Gehen,30\n7/13/2026,1:00,2:"
-          "00,Gehen,1\n",
+          // NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
+          "Date,From,To,Activity,Duration\n7/3/2026,8:05 am,12:10 pm,Gehen,30\n"
+          "7/13/2026,1:00,2:00,Gehen,1\n",
           "Tag;Gewicht (lb);Taille;Hip\n3. Juli 2026;180,5;35,5;\n",
           "day,note\n\"03/07/2026\",\"two\nlines\"\n"})
         QCOMPARE(faultsIn(german.import(bytes)), QString());

@@ -28,7 +28,7 @@ private slots:
 private:
     QString file(const char *name, const QByteArray &bytes) const
     {
-        const QString path = m_journal->folder.filePath(QLatin1String(name));
+        QString path = m_journal->folder.filePath(QLatin1String(name));
         setFileBytes(path, bytes);
         return path;
     }
