@@ -304,18 +304,20 @@ void RecordPlanner::addEntry(FilePlan &plan)
 void RecordPlanner::addMeasurement(FilePlan &plan)
 {
     const char *const systemField = "Measurement (M = metric / I = imperial)";
-    const QString weightUnit =
-        unitOf(*m_row, *m_file, "WeightUnit", "Weight", FieldKind::BodyWeight);
-    const QString girthUnit = unitOf(*m_row, *m_file, "GirthUnit", "Waist", FieldKind::Girth);
+    QString weightUnit = unitOf(*m_row, *m_file, "WeightUnit", "Weight", FieldKind::BodyWeight);
+    QString girthUnit = unitOf(*m_row, *m_file, "GirthUnit", "Waist", FieldKind::Girth);
+    // What has no unit is in the system of the other.
+    if (const auto ofWeight = isMetricUnit(FieldKind::BodyWeight, weightUnit);
+        ofWeight && girthUnit.isEmpty())
+        girthUnit = units::girthLabel(*ofWeight);
+    else if (const auto ofGirth = isMetricUnit(FieldKind::Girth, girthUnit);
+             ofGirth && weightUnit.isEmpty())
+        weightUnit = units::weightLabel(*ofGirth);
     const QString system = m_row->text(systemField).trimmed().toUpper();
     if (!system.isEmpty() && system != u"M" && system != u"I")
         throw ImportRowFault(
             ImportRecordTexts::tr("The unit system is neither M nor I: %1.").arg(system));
-    const bool isMetric = system.isEmpty()
-                              ? isMetricUnit(FieldKind::BodyWeight, weightUnit)
-                                    .value_or(isMetricUnit(FieldKind::Girth, girthUnit)
-                                                  .value_or(!m_session.parameters().isImperial()))
-                              : system == u"M";
+    const bool isMetric = system.isEmpty() ? !m_session.parameters().isImperial() : system == u"M";
     const Value date(m_row->date("DateMeasured"));
     PlannedRecord record = {
         {date, m_row->number("Weight", weightUnit, isMetric),

@@ -116,7 +116,11 @@ Value ImportRow::number(const char *field, const QString &unit, bool isMetric) c
     const double number = plainNumber(cell);
     const double factor =
         unit.isEmpty() || cell.isTyped ? 1 : factorOf(cell.field.kind, unit, isMetric);
-    return factor == 1 ? Value(number) : Value(Currency::fromDouble(number * factor));
+    if (factor == 1)
+        return Value(number);
+    const bool isOfBody =
+        cell.field.kind == FieldKind::BodyWeight || cell.field.kind == FieldKind::Girth;
+    return Value(Currency::fromDouble(roundHalfEven(number * factor, isOfBody ? 1 : 4)));
 }
 
 QDate ImportRow::date(const char *field) const

@@ -253,7 +253,7 @@ void tst_import::recognizesTheRest()
                         " from ExercisePerform where Qty = 30"),
              u"46206|485|730"_s);
     QCOMPARE(german.row("select DateMeasured, Weight, Waist, Hips, Measurement from Body"),
-             u"46206|180.5|35.5|0|I"_s);
+             u"46206|81.9|89.5|0|M"_s);
     // What might be either is as the user writes it.
     QCOMPARE(german.row("select DateFrom, DateTo, NoteText from UserNote"),
              u"46206|46206|two\nlines"_s);
@@ -274,8 +274,12 @@ void tst_import::unitsAreConverted()
     QCOMPARE(journal.row("select FatBC, CarbohydrateBC, ProteinBC from Meal where MealID = 2"),
              u"0|100|0"_s);
     QCOMPARE(journal.row("select Name from MealCategory"), u"Drinks"_s);
-    // Girths in another system than the weight are stored in the weight's.
+    // To the user's units, without which progress would draw pounds as kilograms.
     file = journal.read("Date,Weight (st),Waist (cm)\n2026-07-01,10,100.8\n");
+    journal.import({file});
+    QCOMPARE(journal.row("select Weight, Waist, Measurement from Body"), u"63.5|100.8|M"_s);
+    journal.exec("update Common set Measurement = 'I'; delete from Body");
+    journal.session->readCommonParameters();
     journal.import({file});
     QCOMPARE(journal.row("select Weight, Waist, Measurement from Body"), u"140|40|I"_s);
 }
