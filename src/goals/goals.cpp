@@ -64,15 +64,16 @@ Goals Goals::in(bool metric) const
 
 Goals goalsOf(const Installation &installation)
 {
+    const QMap<QString, QString> kept = installation.values(); // read for every day shown
     Goals goals;
-    goals.isMetric = installation.value(unitsKey) != units::codeOf(false);
-    goals.weight = numberUpTo(Goals::mostWeight, installation.value(weightKey));
+    goals.isMetric = kept.value(unitsKey) != units::codeOf(false);
+    goals.weight = numberUpTo(Goals::mostWeight, kept.value(weightKey));
     for (size_t i = 0; i < girthKeys.size(); ++i)
-        goals.girths.at(i) = numberUpTo(Goals::mostGirth, installation.value(girthKeys.at(i)));
-    goals.date = QDate::fromString(installation.value(dateKey), Qt::ISODate);
-    if (const auto fixed = caloriesOf(installation.value(budgetKey)))
+        goals.girths.at(i) = numberUpTo(Goals::mostGirth, kept.value(girthKeys.at(i)));
+    goals.date = QDate::fromString(kept.value(dateKey), Qt::ISODate);
+    if (const auto fixed = caloriesOf(kept.value(budgetKey)))
         goals.budget = DailyBudget{DailyBudget::Kind::Fixed, *fixed};
-    else if (const auto deficit = caloriesOf(installation.value(deficitKey)))
+    else if (const auto deficit = caloriesOf(kept.value(deficitKey)))
         goals.budget = DailyBudget{DailyBudget::Kind::BurnLessDeficit, *deficit};
     return goals;
 }

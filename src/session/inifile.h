@@ -21,6 +21,7 @@ public:
     bool write() const;
 
     QString value(const QString &key) const { return m_values.value(key); }
+    const QMap<QString, QString> &values() const { return m_values; }
     void setValue(const QString &key, const QString &value) { m_values[key] = value; }
 
 private:

@@ -141,9 +141,14 @@ void Installation::setFirstStartDone()
 
 QString Installation::value(const QString &key) const
 {
+    return values().value(key);
+}
+
+QMap<QString, QString> Installation::values() const
+{
     IniFile settings = settingsIn(m_folder);
     settings.read();
-    return settings.value(key);
+    return settings.values();
 }
 
 bool Installation::setValue(const QString &key, const QString &value)

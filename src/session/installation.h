@@ -53,6 +53,8 @@ public:
     /// What was kept under a key such as "Windows/frmMain"; empty where it is missing or can't be
     /// read.
     QString value(const QString &key) const;
+    /// All of them by their keys, read at once.
+    QMap<QString, QString> values() const;
     /// Keeps a value as well as it can: one that can't be written is not kept. What is known of
     /// the first start stays known. False where it was not.
     bool setValue(const QString &key, const QString &value);
