@@ -25,7 +25,7 @@ compress(${packed}/corvana.1 corvana.1.gz)
 add_custom_target(package_files DEPENDS ${compressed})
 add_dependencies(package_files program_folder desktop_icons)
 
-install(FILES ${files}/README.txt ${files}/copyright ${CMAKE_SOURCE_DIR}/LICENSE
+install(FILES ${files}/README.txt ${CMAKE_SOURCE_DIR}/packaging/copyright ${CMAKE_SOURCE_DIR}/LICENSE
   DESTINATION . COMPONENT relocatable EXCLUDE_FROM_ALL)
 
 macro(install_in_system)
@@ -37,7 +37,7 @@ install_in_system(FILES ${database} ${help_file} DESTINATION share/corvana)
 install_in_system(FILES ${files}/corvana.desktop DESTINATION share/applications)
 install_in_system(FILES ${packed}/org.example.corvana.metainfo.xml DESTINATION share/metainfo)
 install_in_system(FILES ${packed}/corvana.1.gz DESTINATION share/man/man1)
-install_in_system(FILES ${files}/copyright ${CMAKE_SOURCE_DIR}/README.md
+install_in_system(FILES ${CMAKE_SOURCE_DIR}/packaging/copyright ${CMAKE_SOURCE_DIR}/README.md
   ${packed}/changelog.gz ${packed}/changelog.Debian.gz DESTINATION share/doc/corvana)
 install_in_system(FILES ${files}/lintian-overrides DESTINATION share/lintian/overrides RENAME corvana)
 foreach(size ${desktop_icon_sizes})

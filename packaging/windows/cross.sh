@@ -63,10 +63,30 @@ END
     mv "$folder.new" "$folder"
 }
 
+# The licences of the libraries that are within a static Qt, from its source, in one text.
+qt_notices() {
+    local version source part notices
+    version=$(source_version qt6-base-dev)
+    source=$cache/sources/qt6-base-$version
+    notices=$cache/$version/qt-notices.txt
+    if [[ ! -f $notices ]]; then
+        fetch_source qt6-base "$version" "$source" >&2
+        mkdir -p "${notices%/*}"
+        for part in blake2 double-conversion easing freetype harfbuzz-ng icc libjpeg libpng md4c \
+            pcre2 pixman rfc6234 sha3 tinycbor zlib; do
+            printf '\n\n%s\n\n' "In Qt: $part"
+            cat "$source/src/3rdparty/$part"/{*LICEN[CS]E*,*COPYING*,*license*.txt} 2>/dev/null || true
+        done >"$notices.new"
+        rm -r "$source"
+        mv "$notices.new" "$notices"
+    fi
+    printf '%s' "$notices"
+}
+
 # configure_windows QT: the program for Windows, with the database that a build for this machine
 # makes and the sources of the libraries that are installed here.
 configure_windows() {
-    local qt=$1 version source csv
+    local qt=$1 version source csv notices
     [[ -f $qt/lib/cmake/Qt6/Qt6Config.cmake ]] || fail "There is no Qt in $qt."
     version=$(source_version libsqlitecpp-dev)
     source=$cache/sources/sqlitecpp-$version
@@ -74,10 +94,11 @@ configure_windows() {
     version=$(source_version libcsv-dev)
     csv=$cache/sources/libcsv-$version
     fetch_source libcsv "$version" "$csv"
+    notices=$(qt_notices)
     say "Building the delivered database (release)"
     configure release
     cmake --build --preset release --target delivered_database
     cmake --preset windows -DCORVANA_WINDOWS_QT="$qt" -DCMAKE_PREFIX_PATH="$qt" \
         -DCORVANA_SQLITECPP_SOURCE="$source" -DCORVANA_LIBCSV_SOURCE="$csv" \
-        -DCORVANA_HOST_BUILD="$PWD/build/release" >/dev/null
+        -DCORVANA_QT_NOTICES="$notices" -DCORVANA_HOST_BUILD="$PWD/build/release" >/dev/null
 }

@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 
+#include "about/frmAbout.h"
 #include "app/chartprinter.h"
 #include "app/dayview.h"
 #include "app/dayviewlayout.h"
@@ -13,7 +14,6 @@
 #include "exchange/frmExport.h"
 #include "exchange/frmImport.h"
 #include "goals/frmGoals.h"
-#include "help/aboutbox.h"
 #include "help/helpkey.h"
 #include "help/helpviewer.h"
 #include "journal/frmBody.h"
@@ -502,7 +502,7 @@ void frmMain::leave()
 
 void frmMain::showAbout()
 {
-    showAboutBox(this);
+    attempt(this, m_messages, [this] { frmAbout(m_session, this).exec(); });
 }
 
 void frmMain::showHelpContents()

@@ -30,11 +30,6 @@ namespace {
 constexpr int linesOfContents = 6;
 constexpr int widthInCharacters = 56;
 
-QString momentText(const LocaleText &text, const QDateTime &time)
-{
-    return frmRestore::tr("%1, %2").arg(text.mediumDate(time.date()), text.listTime(time.time()));
-}
-
 QString contentsText(const LocaleText &text, const BackupContents &holds)
 {
     const auto number = [&text](qint64 count) { return text.toText(int(count)); };
@@ -110,7 +105,7 @@ void frmRestore::listBackups()
 {
     const QString place = backupSettings(installationOf(session().data().Con)).place;
     for (const Backup &backup : backupsIn(place)) {
-        auto *item = new QListWidgetItem(momentText(session().text(), backup.time), lstBackups);
+        auto *item = new QListWidgetItem(session().text().moment(backup.time), lstBackups);
         item->setData(Qt::UserRole, backup.databasePath());
     }
 }

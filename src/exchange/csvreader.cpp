@@ -128,6 +128,11 @@ constexpr size_t allRecords = std::numeric_limits<size_t>::max();
 
 } // namespace
 
+QString libcsvVersion()
+{
+    return QStringLiteral("%1.%2.%3").arg(CSV_MAJOR).arg(CSV_MINOR).arg(CSV_RELEASE);
+}
+
 std::vector<CsvRecord> readCsv(const QString &text, char separator)
 {
     const QByteArray bytes = text.toUtf8();

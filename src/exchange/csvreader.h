@@ -24,6 +24,9 @@ struct CsvText
     std::vector<CsvRecord> records;
 };
 
+/// Of the library that reads the records.
+QString libcsvVersion();
+
 /// The same with the one of comma, semicolon, tab and bar by which most of the first records have
 /// as many cells as the very first. A first line "sep=;" says it, too, and is no record.
 CsvText readCsv(const QString &text);

@@ -167,6 +167,11 @@ QString LocaleText::dateInputFormat() const
     return format;
 }
 
+QString LocaleText::moment(const QDateTime &time) const
+{
+    return mediumDate(time.date()) + QStringLiteral(", ") + listTime(time.time());
+}
+
 QString LocaleText::listTime(QTime time) const
 {
     const auto number = [](int value, int digits) {

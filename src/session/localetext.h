@@ -3,7 +3,7 @@
 
 #include "data/value.h"
 
-#include <QDate>
+#include <QDateTime>
 #include <QLocale>
 #include <QString>
 #include <QTime>
@@ -46,6 +46,9 @@ public:
     QString shortDate(QDate date) const { return m_locale.toString(date, QLocale::ShortFormat); }
     /// Day, abbreviated month and year in the order of the locale's long date.
     QString mediumDate(QDate date) const { return m_locale.toString(date, m_mediumDateFormat); }
+
+    /// Day and time as above and below: "23 Nov 2026, 08:05".
+    QString moment(const QDateTime &time) const;
 
     /// Whether the locale writes 23:15 with a "23".
     bool is24HourClock() const { return m_is24HourClock; }
