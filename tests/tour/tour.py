@@ -568,15 +568,17 @@ def play(program, pictures):
             print(picture, flush=True)
 
 
-def new_user(build, place):
+def new_user(build, place, prepare=lambda home: {}, **options):
     """The program as someone has it who has just installed it: started from a fresh folder under
-    place, for a home that is empty."""
+    place, for a home that is empty but for what prepare(home) puts there; it returns the variables of
+    the environment that belong to it. Other options are those of Program."""
     shutil.rmtree(place, ignore_errors=True)
     home = place / "home"
     home.mkdir(parents=True)
     subprocess.run(["cmake", "--install", build, "--prefix", place / "program"],
                    check=True, stdout=subprocess.DEVNULL)
-    return Program([place / "program" / "corvana"], str(home), environment={"LC_ALL": "C.UTF-8"})
+    return Program([place / "program" / "corvana"], str(home),
+                   environment={"LC_ALL": "C.UTF-8", **prepare(home)}, **options)
 
 
 def leave(program):
