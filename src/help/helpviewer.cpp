@@ -1,94 +1,396 @@
 #include "help/helpviewer.h"
 
-#include <QCryptographicHash>
+#include "help/helpcontents.h"
+#include "help/helpfile.h"
+#include "help/helpplace.h"
+#include "help/helptext.h"
+
+#include <QAccessible>
+#include <QApplication>
 #include <QDialogButtonBox>
-#include <QFile>
-#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QResource>
-#include <QTextBrowser>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
 #include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString contentsPage = QStringLiteral("contents");
-
-QString pathOf(const QString &page)
-{
-    return QStringLiteral(":/help/%1.html").arg(page);
-}
-
-// The bundle is followed by its sum; without a look at it, one wrong bit may send the reader of
-// the resources anywhere.
-bool isIntact(const QByteArray &file)
-{
-    constexpr qsizetype sumLength = 64;
-    const QByteArray sum = QCryptographicHash::hash(file.chopped(qMin(sumLength, file.size())),
-                                                    QCryptographicHash::Sha256)
-                               .toHex();
-    return file.size() > sumLength && file.endsWith(sum);
-}
-
-/// Registers the pages; what is wrong otherwise, empty where nothing is.
-QString openHelpFile(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return HelpViewer::tr("Can't open the help file Corvana.hlp. Please make sure it is "
-                              "present in the program folder.");
-    static QByteArray bundle; // read from as long as the program runs
-    bundle = file.readAll();
-    if (!isIntact(bundle) ||
-        !QResource::registerResource(reinterpret_cast<const uchar *>(bundle.constData())))
-        return HelpViewer::tr("The help file Corvana.hlp is damaged. Please put back the one that "
-                              "came with the program.");
-    return {};
-}
+// In average characters.
+constexpr int sideWidth = 32;
+constexpr int textWidth = 72;
 
 } // namespace
 
-HelpViewer::HelpViewer(const QString &page, QWidget *parent)
+HelpViewer::HelpViewer(const QString &page, QWidget *parent, const QStringList &languages)
     : QDialog(parent)
+    , m_pages(languages)
+    , m_text(new HelpText(m_pages))
+    , m_contents(new HelpContents(m_pages.contents()))
+    , lstFound(new QListWidget)
+    , lblFound(new QLabel)
+    , txtFind(new QLineEdit)
+    , m_side(makeSide())
 {
-    setObjectName(QStringLiteral("helpViewer"));
+    setObjectName(u"helpViewer"_s);
     setWindowTitle(tr("Corvana Help"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    auto *splitter = new QSplitter;
+    splitter->addWidget(m_side);
+    splitter->addWidget(m_text);
+    splitter->setStretchFactor(1, 1);
+    const int character = fontMetrics().averageCharWidth();
+    splitter->setSizes({sideWidth * character, textWidth * character});
 
-    auto *browser = new QTextBrowser;
-    browser->setObjectName(QStringLiteral("helpText"));
-    browser->setAccessibleName(tr("Help text"));
-    browser->setSource(QUrl(QLatin1String("qrc") + pathOf(page)));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(makeFindRow());
+    layout->addWidget(splitter, 1);
+    layout->addWidget(makeButtons());
+    // Enter in the field finds.
+    for (auto *button : findChildren<QPushButton *>())
+        button->setAutoDefault(false);
+    resize((sideWidth + textWidth) * character, fontMetrics().lineSpacing() * 34);
 
+    addKeys();
+    connect(m_text, &HelpText::pageShown, this, &HelpViewer::follow);
+    showPage(page);
+    m_text->setFocus();
+}
+
+QWidget *HelpViewer::makeFindRow()
+{
+    auto *row = new QWidget;
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins({});
+    auto *label = new QLabel(tr("F&ind:"));
+    label->setBuddy(txtFind);
+    txtFind->setObjectName(u"txtFind"_s);
+    txtFind->setAccessibleName(tr("Find"));
+    txtFind->setAccessibleDescription(tr("Words to find in all pages of the help"));
+    txtFind->setClearButtonEnabled(true);
+    connect(txtFind, &QLineEdit::textChanged, this, &HelpViewer::find);
+    connect(txtFind, &QLineEdit::returnPressed, this, [this] { goToHit(1); });
+    layout->addWidget(label);
+    layout->addWidget(txtFind, 1);
+    for (const auto &[name, text, step] : {std::tuple(u"btnPreviousHit"_s, tr("&Previous Hit"), -1),
+                                           std::tuple(u"btnNextHit"_s, tr("&Next Hit"), 1)}) {
+        auto *button = new QPushButton(text);
+        button->setObjectName(name);
+        connect(button, &QPushButton::clicked, this, [this, by = step] { goToHit(by); });
+        layout->addWidget(button);
+    }
+    return row;
+}
+
+// The contents, and in their place what was found.
+QWidget *HelpViewer::makeSide()
+{
+    connect(m_contents, &HelpContents::pageChosen, this, &HelpViewer::showPage);
+    connect(m_contents, &QTreeWidget::itemActivated, m_text, qOverload<>(&QWidget::setFocus));
+
+    lblFound->setObjectName(u"lblFound"_s);
+    lblFound->setWordWrap(true);
+    lblFound->setTextFormat(Qt::PlainText);
+    lstFound->setObjectName(u"lstFound"_s);
+    lstFound->setAccessibleName(tr("Pages found"));
+    lstFound->setWordWrap(true);
+    lstFound->setAlternatingRowColors(true);
+    lstFound->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    lstFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(lstFound, &QListWidget::currentRowChanged, this, &HelpViewer::showFound);
+    connect(lstFound, &QListWidget::itemActivated, m_text, qOverload<>(&QWidget::setFocus));
+
+    m_results = new QWidget;
+    auto *results = new QVBoxLayout(m_results);
+    results->setContentsMargins({});
+    results->addWidget(lblFound);
+    results->addWidget(lstFound, 1);
+    m_results->hide();
+
+    auto *side = new QWidget;
+    auto *layout = new QVBoxLayout(side);
+    layout->setContentsMargins({});
+    layout->addWidget(m_contents);
+    layout->addWidget(m_results);
+    return side;
+}
+
+QDialogButtonBox *HelpViewer::makeButtons()
+{
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     auto *contents = buttons->addButton(tr("Con&tents"), QDialogButtonBox::ActionRole);
     auto *back = buttons->addButton(tr("&Back"), QDialogButtonBox::ActionRole);
+    auto *forward = buttons->addButton(tr("&Forward"), QDialogButtonBox::ActionRole);
     back->setEnabled(false);
-    connect(contents, &QPushButton::clicked, browser,
-            [browser] { browser->setSource(QUrl(QLatin1String("qrc") + pathOf(contentsPage))); });
-    connect(back, &QPushButton::clicked, browser, &QTextBrowser::backward);
-    connect(browser, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+    forward->setEnabled(false);
+    connect(contents, &QPushButton::clicked, this, [this] { showPage(HelpPages::contentsPage()); });
+    connect(back, &QPushButton::clicked, m_text, &QTextBrowser::backward);
+    connect(forward, &QPushButton::clicked, m_text, &QTextBrowser::forward);
+    connect(m_text, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+    connect(m_text, &QTextBrowser::forwardAvailable, forward, &QPushButton::setEnabled);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    return buttons;
+}
 
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(browser);
-    layout->addWidget(buttons);
-    const QFontMetrics metrics(font());
-    resize(metrics.averageCharWidth() * 84, metrics.lineSpacing() * 34);
+void HelpViewer::addKeys()
+{
+    const auto add = [this](const QKeySequence &keys, const auto &act) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
+    };
+    add(Qt::ALT | Qt::Key_Left, [this] { m_text->backward(); });
+    add(Qt::ALT | Qt::Key_Right, [this] { m_text->forward(); });
+    add(Qt::Key_F3, [this] { goToHit(1); });
+    add(Qt::SHIFT | Qt::Key_F3, [this] { goToHit(-1); });
+    add(Qt::CTRL | Qt::Key_F, [this] {
+        txtFind->setFocus(Qt::ShortcutFocusReason);
+        txtFind->selectAll();
+    });
+    auto *down = new QShortcut(Qt::Key_Down, txtFind);
+    down->setContext(Qt::WidgetShortcut);
+    connect(down, &QShortcut::activated, lstFound, qOverload<>(&QWidget::setFocus));
 }
 
 bool HelpViewer::hasPage(const QString &page)
 {
-    return !page.isEmpty() && QFile::exists(pathOf(page));
+    return HelpPages(QLocale::system().uiLanguages()).has(page);
 }
+
+void HelpViewer::showPage(const QString &page)
+{
+    m_text->showPage(m_pages.has(page) ? page : HelpPages::contentsPage());
+}
+
+// Shows where the page stands, without going there.
+void HelpViewer::follow(const QString &page)
+{
+    m_contents->follow(page);
+    const QSignalBlocker quiet(lstFound);
+    const int row = rowOf(page);
+    lstFound->setCurrentRow(row);
+    if (row < 0)
+        lstFound->clearSelection();
+}
+
+void HelpViewer::find(const QString &typed)
+{
+    if (!m_index)
+        m_index.emplace(m_pages);
+    const QStringList words = searchedWords(typed);
+    m_found = m_index->find(words);
+    m_text->mark(words);
+    const QSignalBlocker quiet(lstFound);
+    lstFound->clear();
+    for (const FoundPage &page : m_found)
+        lstFound->addItem(page.title + u'\n' + page.excerpt);
+    lstFound->setVisible(!m_found.empty());
+    follow(m_text->page());
+    if (words.isEmpty())
+        lblFound->clear();
+    else if (m_found.empty())
+        say(tr("No page holds \"%1\".").arg(typed.simplified()));
+    else
+        say(tr("Pages found: %1").arg(m_found.size()));
+    arrange();
+}
+
+/// Of a page among those found; -1 where it is none of them.
+int HelpViewer::rowOf(const QString &page) const
+{
+    const auto at = std::find_if(m_found.begin(), m_found.end(),
+                                 [&](const FoundPage &each) { return each.page == page; });
+    return at == m_found.end() ? -1 : static_cast<int>(at - m_found.begin());
+}
+
+void HelpViewer::showFound(int row)
+{
+    if (row < 0)
+        return;
+    m_text->showPage(m_found[static_cast<size_t>(row)].page);
+    showHit(0);
+}
+
+void HelpViewer::showHit(int hit)
+{
+    m_text->goToHit(hit);
+    say(tr("Hit %1 of %2 on this page").arg(hit + 1).arg(m_text->hitCount()));
+}
+
+// On this page, then on the next one found, and from the last to the first; before a hit was gone
+// to, on the page that fits best.
+void HelpViewer::goToHit(int step)
+{
+    if (m_found.empty())
+        return;
+    const int pages = static_cast<int>(m_found.size());
+    const int here = m_text->currentHit();
+    const int next = here + step;
+    if (here >= 0 && next >= 0 && next < m_text->hitCount()) {
+        showHit(next);
+        return;
+    }
+    const int first = step > 0 ? 0 : pages - 1;
+    const int row = here < 0 ? first : (rowOf(m_text->page()) + step + pages) % pages;
+    m_text->showPage(m_found[static_cast<size_t>(row)].page);
+    showHit(step > 0 ? 0 : m_text->hitCount() - 1);
+}
+
+void HelpViewer::say(const QString &text)
+{
+    lblFound->setText(text);
+    QAccessibleEvent said(lblFound, QAccessible::Alert);
+    QAccessible::updateAccessibility(&said);
+}
+
+// A narrow window has room for the text alone, unless something is looked for.
+void HelpViewer::arrange()
+{
+    const bool isFinding = !searchedWords(txtFind->text()).isEmpty();
+    const bool isWide = width() >= textWidth * fontMetrics().averageCharWidth();
+    m_contents->setVisible(!isFinding);
+    m_results->setVisible(isFinding);
+    m_side->setVisible(isFinding || isWide);
+}
+
+void HelpViewer::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    arrange();
+}
+
+void HelpViewer::openBeside(QWidget &window)
+{
+    keepTo(window);
+    moveBeside(isVisible() ? geometry() : QRect(window.geometry().topRight(), size()));
+    show();
+    raise();
+    activateWindow();
+    keepTo(window); // its own window exists now
+}
+
+void HelpViewer::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // Where it was closed last may be where the other window is now.
+    if (!event->spontaneous())
+        moveBeside(geometry());
+}
+
+void HelpViewer::moveBeside(const QRect &place)
+{
+    const QWidget *beside = m_beside;
+    if (!beside || isMaximized())
+        return;
+    // Its own frame is not known before it is shown.
+    const QRect other = beside->frameGeometry();
+    const QRect inside = beside->geometry();
+    const QRect now =
+        place.adjusted(other.left() - inside.left(), other.top() - inside.top(),
+                       other.right() - inside.right(), other.bottom() - inside.bottom());
+    const QScreen *screen = QGuiApplication::screenAt(now.center());
+    if (!screen || now.intersects(other))
+        screen = beside->screen();
+    move(placeBeside(other, now, screen->availableGeometry()));
+}
+
+// To the window system it belongs to its parent, as the window it keeps to does, so that neither
+// lies above the other for good. To Qt it belongs to that window itself: a modal one lets its own
+// windows alone be used.
+void HelpViewer::keepTo(QWidget &window)
+{
+    if (m_beside)
+        m_beside->removeEventFilter(this);
+    m_beside = &window;
+    window.installEventFilter(this);
+    if (windowHandle())
+        windowHandle()->setTransientParent(window.windowHandle());
+}
+
+void HelpViewer::keepToTop()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    QWidget *window = modal ? modal : parentWidget();
+    if (!isVisible() || window == this)
+        return;
+    if (window && window->isVisible())
+        keepTo(*window);
+    else
+        close();
+}
+
+bool HelpViewer::event(QEvent *event)
+{
+    // Another window has opened that is modal; it is the active one in a moment.
+    if (event->type() == QEvent::WindowBlocked)
+        QMetaObject::invokeMethod(this, &HelpViewer::keepToTop, Qt::QueuedConnection);
+    return QDialog::event(event);
+}
+
+bool HelpViewer::eventFilter(QObject *watched, QEvent *event)
+{
+    // It may be gone in a moment.
+    if (watched == m_beside && event->type() == QEvent::Hide && !event->spontaneous())
+        QMetaObject::invokeMethod(this, &HelpViewer::keepToTop, Qt::QueuedConnection);
+    return QDialog::eventFilter(watched, event);
+}
+
+void HelpViewer::done(int result)
+{
+    QDialog::done(result);
+    if (QWidget *beside = m_beside; beside && beside->isVisible())
+        beside->activateWindow();
+}
+
+namespace {
+
+// A message has no page of its own, but the window that shows it may have one.
+QString pageFor(const QWidget *window, QString page)
+{
+    while (!HelpViewer::hasPage(page) && window->parentWidget()) {
+        window = window->parentWidget()->window();
+        page = window->objectName();
+    }
+    return page;
+}
+
+QWidget *outermost(QWidget *window)
+{
+    while (window->parentWidget())
+        window = window->parentWidget()->window();
+    return window;
+}
+
+} // namespace
 
 void showHelp(QWidget *parent, const QString &helpFile, const QString &page)
 {
-    if (!HelpViewer::hasPage(contentsPage)) {
+    if (!HelpViewer::hasPage(HelpPages::contentsPage())) {
         const QString problem = openHelpFile(helpFile);
         if (!problem.isEmpty()) {
             QMessageBox::warning(parent, HelpViewer::tr("Error"), problem);
             return;
         }
     }
-    HelpViewer(HelpViewer::hasPage(page) ? page : contentsPage, parent).exec();
+    static QPointer<HelpViewer> shown;
+    HelpViewer *viewer = shown;
+    QWidget *owner = outermost(parent);
+    if (viewer && viewer->isVisible() && viewer->parentWidget() == owner) {
+        viewer->showPage(pageFor(parent, page));
+    } else {
+        if (viewer)
+            viewer->close();
+        viewer = new HelpViewer(pageFor(parent, page), owner);
+        viewer->setAttribute(Qt::WA_DeleteOnClose);
+        shown = viewer;
+    }
+    viewer->openBeside(*parent);
 }

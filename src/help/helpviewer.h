@@ -1,20 +1,81 @@
-// The pages of Corvana.hlp.
+// The window of the help.
 #pragma once
 
-#include <QDialog>
+#include "help/helppages.h"
+#include "help/helpsearch.h"
 
-/// Shows one page and follows the links between them.
+#include <QDialog>
+#include <QLocale>
+#include <QPointer>
+
+#include <optional>
+
+class HelpContents;
+class HelpText;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+/// Shows the pages of the help with their contents as a tree, goes back and forward, and finds
+/// words in all of them. It stays open and usable beside the windows that ask for it, modal ones
+/// too: it keeps to the one on top, and closes with its parent.
 class HelpViewer : public QDialog
 {
     Q_OBJECT
 
 public:
-    HelpViewer(const QString &page, QWidget *parent);
+    /// The pages' languages are best first.
+    HelpViewer(const QString &page, QWidget *parent,
+               const QStringList &languages = QLocale::system().uiLanguages());
 
     /// Whether the opened help file holds a page of this name.
     static bool hasPage(const QString &page);
+
+    void showPage(const QString &page);
+    /// Opens or comes to the front, beside a window, which gets the focus back when it closes.
+    void openBeside(QWidget &window);
+
+    void done(int result) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *makeFindRow();
+    QWidget *makeSide();
+    QDialogButtonBox *makeButtons();
+    void addKeys();
+    void arrange();
+    void follow(const QString &page);
+    void find(const QString &typed);
+    int rowOf(const QString &page) const;
+    void showFound(int row);
+    void showHit(int hit);
+    void goToHit(int step);
+    void say(const QString &text);
+    void moveBeside(const QRect &place);
+    void keepTo(QWidget &window);
+    void keepToTop();
+
+    HelpPages m_pages;
+    std::optional<HelpIndex> m_index; // made when it is first searched
+    std::vector<FoundPage> m_found;
+    QPointer<QWidget> m_beside;
+    HelpText *m_text;
+    HelpContents *m_contents;
+    QListWidget *lstFound;
+    QLabel *lblFound;
+    QLineEdit *txtFind;
+    QWidget *m_results = nullptr;
+    QWidget *m_side;
 };
 
-/// Opens the help file, if it is not open yet, and shows a page modally: the contents for an
-/// empty or unknown name. Says so where the file is missing or damaged.
+/// Opens the help file, if it is not open yet, and shows a page in the one help window, beside the
+/// parent, which is the window that asks. For an unknown name it is the page of the nearest window
+/// above that has one, else the contents, as for an empty name. Says so where the file is missing
+/// or damaged.
 void showHelp(QWidget *parent, const QString &helpFile, const QString &page);

@@ -14,9 +14,9 @@ namespace {
 
 bool isKept(const QString &window)
 {
-    constexpr const char *kept[] = {"frmMain",         "frmMealCategories", "frmMeals",
-                                    "frmExercises",    "frmMealConsumes",   "frmExercisePerforms",
-                                    "frmMeasurements", "frmGeneralProgress"};
+    constexpr const char *kept[] = {"frmMain",         "frmMealCategories",  "frmMeals",
+                                    "frmExercises",    "frmMealConsumes",    "frmExercisePerforms",
+                                    "frmMeasurements", "frmGeneralProgress", "helpViewer"};
     return std::any_of(std::begin(kept), std::end(kept),
                        [&](const char *name) { return window == QLatin1String(name); });
 }

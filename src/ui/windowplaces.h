@@ -4,9 +4,9 @@
 #include <QObject>
 #include <QString>
 
-/// To be installed on the application: the main window, the lists and the progress window open
-/// where and as large as they were when they were closed last, in an earlier run too. A place on
-/// a screen that is gone is forgotten. Editors and messages open where their opener is.
+/// To be installed on the application: the main window, the lists, the progress window and the
+/// help open where and as large as they were when they were closed last, in an earlier run too. A
+/// place on a screen that is gone is forgotten. Editors and messages open where their opener is.
 class WindowPlaces : public QObject
 {
     Q_OBJECT
