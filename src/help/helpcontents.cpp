@@ -1,6 +1,5 @@
 #include "help/helpcontents.h"
 
-#include <QHeaderView>
 #include <QSignalBlocker>
 
 namespace {
@@ -20,13 +19,12 @@ HelpContents::HelpContents(const std::vector<HelpGroup> &groups, QWidget *parent
     setObjectName(QStringLiteral("helpContents"));
     setAccessibleName(tr("Help contents"));
     setHeaderHidden(true);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     for (const HelpGroup &group : groups) {
         auto *parentItem = new QTreeWidgetItem(this, {group.title});
         for (const HelpGroup::Entry &entry : group.entries) {
             auto *item = new QTreeWidgetItem(parentItem, {entry.caption});
             item->setData(0, pageRole, entry.page);
+            item->setToolTip(0, entry.caption); // it may be cut off
         }
     }
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {

@@ -23,9 +23,14 @@ int hiddenArea(const QRect &other, const QRect &window)
 
 QPoint placeBeside(const QRect &other, const QRect &now, const QRect &screen)
 {
-    const QRect right(QPoint(other.right() + 1, other.top()), now.size());
-    const QRect left(QPoint(other.left() - now.width(), other.top()), now.size());
-    const QList<QRect> places{within(screen, now), within(screen, right), within(screen, left)};
+    const QPoint corner = other.topLeft();
+    QList<QRect> places{now};
+    for (const QPoint &place :
+         {QPoint(other.right() + 1, corner.y()), QPoint(corner.x() - now.width(), corner.y()),
+          QPoint(corner.x(), other.bottom() + 1), QPoint(corner.x(), corner.y() - now.height())})
+        places << QRect(place, now.size());
+    for (QRect &place : places)
+        place = within(screen, place);
     const auto best =
         std::min_element(places.begin(), places.end(), [&](const QRect &a, const QRect &b) {
             return hiddenArea(other, a) < hiddenArea(other, b);

@@ -3,6 +3,6 @@
 
 #include <QRect>
 
-/// Where a window hides least of another: where it is now or at its right, else at its left; all
-/// with their frames, and within the screen.
+/// Where a window hides least of another: the first of where it is now, and at the right, at the
+/// left, below and above the other; all with their frames, and within the screen.
 QPoint placeBeside(const QRect &other, const QRect &now, const QRect &screen);

@@ -60,6 +60,16 @@ std::vector<HelpHit> foldedHits(const QString &text, const QStringList &words)
     return withoutOverlaps(std::move(found));
 }
 
+// The heading says no more than the title; where nothing else does, it has to do.
+HelpHit firstBelowHeading(const QString &text, const QStringList &words)
+{
+    const std::vector<HelpHit> hits = foldedHits(text, words);
+    const qsizetype heading = text.indexOf(u'\n');
+    const auto first = std::find_if(
+        hits.begin(), hits.end(), [heading](const HelpHit &hit) { return hit.position > heading; });
+    return first == hits.end() ? hits.front() : *first;
+}
+
 // Up to whole words, where the text around has any.
 QString excerptAround(const QString &text, const HelpHit &hit)
 {
@@ -105,9 +115,9 @@ std::vector<FoundPage> HelpIndex::find(const QStringList &words) const
     for (const Page &page : m_pages) {
         if (plain.isEmpty() || !holdsAll(page.foldedText, plain))
             continue;
-        const HelpHit first = foldedHits(page.foldedText, plain).front();
         (holdsAll(page.foldedTitle, plain) ? found : others)
-            .push_back({page.name, page.title, excerptAround(page.text, first)});
+            .push_back({page.name, page.title,
+                        excerptAround(page.text, firstBelowHeading(page.foldedText, plain))});
     }
     found.insert(found.end(), others.begin(), others.end());
     return found;

@@ -63,6 +63,7 @@ void HelpText::setStyle()
     }
     document()->setDefaultStyleSheet(style.sheet());
     document()->setDocumentMargin(style.margin);
+    document()->setIndentWidth(style.margin); // of lists
     fitWidth();
 }
 

@@ -3,6 +3,7 @@
 #include "help/helpcontents.h"
 #include "help/helpfile.h"
 #include "help/helpplace.h"
+#include "help/helpresults.h"
 #include "help/helptext.h"
 
 #include <QAccessible>
@@ -10,24 +11,20 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <QWindow>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // In average characters.
-constexpr int sideWidth = 32;
+constexpr int sideWidth = 36;
 constexpr int textWidth = 72;
 
 } // namespace
@@ -37,7 +34,7 @@ HelpViewer::HelpViewer(const QString &page, QWidget *parent, const QStringList &
     , m_pages(languages)
     , m_text(new HelpText(m_pages))
     , m_contents(new HelpContents(m_pages.contents()))
-    , lstFound(new QListWidget)
+    , m_found(new HelpResults)
     , lblFound(new QLabel)
     , txtFind(new QLineEdit)
     , m_side(makeSide())
@@ -101,20 +98,17 @@ QWidget *HelpViewer::makeSide()
     lblFound->setObjectName(u"lblFound"_s);
     lblFound->setWordWrap(true);
     lblFound->setTextFormat(Qt::PlainText);
-    lstFound->setObjectName(u"lstFound"_s);
-    lstFound->setAccessibleName(tr("Pages found"));
-    lstFound->setWordWrap(true);
-    lstFound->setAlternatingRowColors(true);
-    lstFound->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    lstFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(lstFound, &QListWidget::currentRowChanged, this, &HelpViewer::showFound);
-    connect(lstFound, &QListWidget::itemActivated, m_text, qOverload<>(&QWidget::setFocus));
+    connect(m_found, &HelpResults::pageChosen, this, [this](const QString &page) {
+        m_text->showPage(page);
+        showHit(0);
+    });
+    connect(m_found, &QListWidget::itemActivated, m_text, qOverload<>(&QWidget::setFocus));
 
     m_results = new QWidget;
     auto *results = new QVBoxLayout(m_results);
     results->setContentsMargins({});
     results->addWidget(lblFound);
-    results->addWidget(lstFound, 1);
+    results->addWidget(m_found, 1);
     m_results->hide();
 
     auto *side = new QWidget;
@@ -157,7 +151,7 @@ void HelpViewer::addKeys()
     });
     auto *down = new QShortcut(Qt::Key_Down, txtFind);
     down->setContext(Qt::WidgetShortcut);
-    connect(down, &QShortcut::activated, lstFound, qOverload<>(&QWidget::setFocus));
+    connect(down, &QShortcut::activated, m_found, qOverload<>(&QWidget::setFocus));
 }
 
 bool HelpViewer::hasPage(const QString &page)
@@ -174,11 +168,7 @@ void HelpViewer::showPage(const QString &page)
 void HelpViewer::follow(const QString &page)
 {
     m_contents->follow(page);
-    const QSignalBlocker quiet(lstFound);
-    const int row = rowOf(page);
-    lstFound->setCurrentRow(row);
-    if (row < 0)
-        lstFound->clearSelection();
+    m_found->follow(page);
 }
 
 void HelpViewer::find(const QString &typed)
@@ -186,37 +176,16 @@ void HelpViewer::find(const QString &typed)
     if (!m_index)
         m_index.emplace(m_pages);
     const QStringList words = searchedWords(typed);
-    m_found = m_index->find(words);
+    m_found->show(m_index->find(words));
     m_text->mark(words);
-    const QSignalBlocker quiet(lstFound);
-    lstFound->clear();
-    for (const FoundPage &page : m_found)
-        lstFound->addItem(page.title + u'\n' + page.excerpt);
-    lstFound->setVisible(!m_found.empty());
     follow(m_text->page());
     if (words.isEmpty())
         lblFound->clear();
-    else if (m_found.empty())
+    else if (m_found->isEmpty())
         say(tr("No page holds \"%1\".").arg(typed.simplified()));
     else
-        say(tr("Pages found: %1").arg(m_found.size()));
+        say(tr("Pages found: %1").arg(m_found->count()));
     arrange();
-}
-
-/// Of a page among those found; -1 where it is none of them.
-int HelpViewer::rowOf(const QString &page) const
-{
-    const auto at = std::find_if(m_found.begin(), m_found.end(),
-                                 [&](const FoundPage &each) { return each.page == page; });
-    return at == m_found.end() ? -1 : static_cast<int>(at - m_found.begin());
-}
-
-void HelpViewer::showFound(int row)
-{
-    if (row < 0)
-        return;
-    m_text->showPage(m_found[static_cast<size_t>(row)].page);
-    showHit(0);
 }
 
 void HelpViewer::showHit(int hit)
@@ -229,18 +198,17 @@ void HelpViewer::showHit(int hit)
 // to, on the page that fits best.
 void HelpViewer::goToHit(int step)
 {
-    if (m_found.empty())
+    if (m_found->isEmpty())
         return;
-    const int pages = static_cast<int>(m_found.size());
     const int here = m_text->currentHit();
     const int next = here + step;
     if (here >= 0 && next >= 0 && next < m_text->hitCount()) {
         showHit(next);
         return;
     }
-    const int first = step > 0 ? 0 : pages - 1;
-    const int row = here < 0 ? first : (rowOf(m_text->page()) + step + pages) % pages;
-    m_text->showPage(m_found[static_cast<size_t>(row)].page);
+    if (here < 0)
+        m_found->follow({});
+    m_text->showPage(m_found->pageAt(step));
     showHit(step > 0 ? 0 : m_text->hitCount() - 1);
 }
 

@@ -11,11 +11,11 @@
 #include <optional>
 
 class HelpContents;
+class HelpResults;
 class HelpText;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 
 /// Shows the pages of the help with their contents as a tree, goes back and forward, and finds
 /// words in all of them. It stays open and usable beside the windows that ask for it, modal ones
@@ -52,8 +52,6 @@ private:
     void arrange();
     void follow(const QString &page);
     void find(const QString &typed);
-    int rowOf(const QString &page) const;
-    void showFound(int row);
     void showHit(int hit);
     void goToHit(int step);
     void say(const QString &text);
@@ -63,11 +61,10 @@ private:
 
     HelpPages m_pages;
     std::optional<HelpIndex> m_index; // made when it is first searched
-    std::vector<FoundPage> m_found;
     QPointer<QWidget> m_beside;
     HelpText *m_text;
     HelpContents *m_contents;
-    QListWidget *lstFound;
+    HelpResults *m_found;
     QLabel *lblFound;
     QLineEdit *txtFind;
     QWidget *m_results = nullptr;

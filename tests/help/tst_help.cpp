@@ -201,7 +201,8 @@ void tst_help::hidesLeastOfTheWindowThatAsked()
     QCOMPARE(place(left, {600, 150}), QPoint(600, 150)); // hides nothing there
     QCOMPARE(place(left, {200, 150}), QPoint(500, 50));
     QCOMPARE(place({500, 250, 400, 300}, {400, 0}), QPoint(200, 200));
-    QCOMPARE(place({200, 50, 600, 300}, {300, 150}), QPoint(700, 50)); // neither side has room
+    QCOMPARE(place({200, 350, 600, 200}, {300, 150}), QPoint(200, 0)); // neither side has room
+    QCOMPARE(place({200, 50, 600, 500}, {300, 150}), QPoint(700, 50)); // the least that can be
     QCOMPARE(place(screen, {100, 150}), QPoint(100, 150));
     QCOMPARE(placeBeside(left, {0, 0, 2000, 900}, screen), QPoint(0, 0));
 }
