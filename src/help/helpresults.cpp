@@ -91,6 +91,7 @@ void HelpResults::show(const std::vector<FoundPage> &pages)
         item->setData(excerptRole, page.excerpt);
     }
     setVisible(!pages.empty());
+    scrollToTop();
 }
 
 void HelpResults::follow(const QString &page)

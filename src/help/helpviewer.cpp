@@ -97,6 +97,7 @@ QWidget *HelpViewer::makeSide()
 
     lblFound->setObjectName(u"lblFound"_s);
     lblFound->setWordWrap(true);
+    lblFound->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblFound->setTextFormat(Qt::PlainText);
     connect(m_found, &HelpResults::pageChosen, this, [this](const QString &page) {
         m_text->showPage(page);
@@ -238,7 +239,10 @@ void HelpViewer::resizeEvent(QResizeEvent *event)
 void HelpViewer::openBeside(QWidget &window)
 {
     keepTo(window);
-    moveBeside(isVisible() ? geometry() : QRect(window.geometry().topRight(), size()));
+    if (isVisible())
+        moveBeside();
+    else
+        setGeometry(QRect(window.geometry().topRight(), size()));
     show();
     raise();
     activateWindow();
@@ -250,24 +254,24 @@ void HelpViewer::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     // Where it was closed last may be where the other window is now.
     if (!event->spontaneous())
-        moveBeside(geometry());
+        moveBeside();
 }
 
-void HelpViewer::moveBeside(const QRect &place)
+void HelpViewer::moveBeside()
 {
     const QWidget *beside = m_beside;
     if (!beside || isMaximized())
         return;
-    // Its own frame is not known before it is shown.
+    // Its own frame, which is not known before it is shown, is taken to be like the other's.
     const QRect other = beside->frameGeometry();
-    const QRect inside = beside->geometry();
-    const QRect now =
-        place.adjusted(other.left() - inside.left(), other.top() - inside.top(),
-                       other.right() - inside.right(), other.bottom() - inside.bottom());
+    const QPoint frame = beside->geometry().topLeft() - other.topLeft();
+    const QRect now(geometry().topLeft() - frame, size() + other.size() - beside->size());
     const QScreen *screen = QGuiApplication::screenAt(now.center());
     if (!screen || now.intersects(other))
         screen = beside->screen();
-    move(placeBeside(other, now, screen->availableGeometry()));
+    const QPoint place = placeBeside(other, now, screen->availableGeometry());
+    if (place != now.topLeft())
+        setGeometry(QRect(place + frame, size()));
 }
 
 // To the window system it belongs to its parent, as the window it keeps to does, so that neither

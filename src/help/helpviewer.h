@@ -55,7 +55,7 @@ private:
     void showHit(int hit);
     void goToHit(int step);
     void say(const QString &text);
-    void moveBeside(const QRect &place);
+    void moveBeside();
     void keepTo(QWidget &window);
     void keepToTop();
 
