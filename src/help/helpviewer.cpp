@@ -1,23 +1,20 @@
 #include "help/helpviewer.h"
 
+#include "help/companion.h"
 #include "help/helpcontents.h"
 #include "help/helpfile.h"
-#include "help/helpplace.h"
 #include "help/helpresults.h"
 #include "help/helptext.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -38,10 +35,10 @@ HelpViewer::HelpViewer(const QString &page, QWidget *parent, const QStringList &
     , lblFound(new QLabel)
     , txtFind(new QLineEdit)
     , m_side(makeSide())
+    , m_companion(new Companion(*this))
 {
     setObjectName(u"helpViewer"_s);
     setWindowTitle(tr("Corvana Help"));
-    setAttribute(Qt::WA_QuitOnClose, false);
     auto *splitter = new QSplitter;
     splitter->addWidget(m_side);
     splitter->addWidget(m_text);
@@ -53,9 +50,9 @@ HelpViewer::HelpViewer(const QString &page, QWidget *parent, const QStringList &
     layout->addWidget(makeFindRow());
     layout->addWidget(splitter, 1);
     layout->addWidget(makeButtons());
-    // Enter in the field finds.
-    for (auto *button : findChildren<QPushButton *>())
-        button->setAutoDefault(false);
+    const auto buttons = findChildren<QPushButton *>();
+    for (auto *button : buttons)
+        button->setAutoDefault(false); // Enter in the field finds
     resize((sideWidth + textWidth) * character, fontMetrics().lineSpacing() * 34);
 
     addKeys();
@@ -199,8 +196,10 @@ void HelpViewer::showHit(int hit)
 // to, on the page that fits best.
 void HelpViewer::goToHit(int step)
 {
-    if (m_found->isEmpty())
+    if (m_found->isEmpty()) {
+        txtFind->setFocus();
         return;
+    }
     const int here = m_text->currentHit();
     const int next = here + step;
     if (here >= 0 && next >= 0 && next < m_text->hitCount()) {
@@ -234,92 +233,6 @@ void HelpViewer::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     arrange();
-}
-
-void HelpViewer::openBeside(QWidget &window)
-{
-    keepTo(window);
-    if (isVisible())
-        moveBeside();
-    else
-        setGeometry(QRect(window.geometry().topRight(), size()));
-    show();
-    raise();
-    activateWindow();
-    keepTo(window); // its own window exists now
-}
-
-void HelpViewer::showEvent(QShowEvent *event)
-{
-    QDialog::showEvent(event);
-    // Where it was closed last may be where the other window is now.
-    if (!event->spontaneous())
-        moveBeside();
-}
-
-void HelpViewer::moveBeside()
-{
-    const QWidget *beside = m_beside;
-    if (!beside || isMaximized())
-        return;
-    // Its own frame, which is not known before it is shown, is taken to be like the other's.
-    const QRect other = beside->frameGeometry();
-    const QPoint frame = beside->geometry().topLeft() - other.topLeft();
-    const QRect now(geometry().topLeft() - frame, size() + other.size() - beside->size());
-    const QScreen *screen = QGuiApplication::screenAt(now.center());
-    if (!screen || now.intersects(other))
-        screen = beside->screen();
-    const QPoint place = placeBeside(other, now, screen->availableGeometry());
-    if (place != now.topLeft())
-        setGeometry(QRect(place + frame, size()));
-}
-
-// To the window system it belongs to its parent, as the window it keeps to does, so that neither
-// lies above the other for good. To Qt it belongs to that window itself: a modal one lets its own
-// windows alone be used.
-void HelpViewer::keepTo(QWidget &window)
-{
-    if (m_beside)
-        m_beside->removeEventFilter(this);
-    m_beside = &window;
-    window.installEventFilter(this);
-    if (windowHandle())
-        windowHandle()->setTransientParent(window.windowHandle());
-}
-
-void HelpViewer::keepToTop()
-{
-    QWidget *modal = QApplication::activeModalWidget();
-    QWidget *window = modal ? modal : parentWidget();
-    if (!isVisible() || window == this)
-        return;
-    if (window && window->isVisible())
-        keepTo(*window);
-    else
-        close();
-}
-
-bool HelpViewer::event(QEvent *event)
-{
-    // Another window has opened that is modal; it is the active one in a moment.
-    if (event->type() == QEvent::WindowBlocked)
-        QMetaObject::invokeMethod(this, &HelpViewer::keepToTop, Qt::QueuedConnection);
-    return QDialog::event(event);
-}
-
-bool HelpViewer::eventFilter(QObject *watched, QEvent *event)
-{
-    // It may be gone in a moment.
-    if (watched == m_beside && event->type() == QEvent::Hide && !event->spontaneous())
-        QMetaObject::invokeMethod(this, &HelpViewer::keepToTop, Qt::QueuedConnection);
-    return QDialog::eventFilter(watched, event);
-}
-
-void HelpViewer::done(int result)
-{
-    QDialog::done(result);
-    if (QWidget *beside = m_beside; beside && beside->isVisible())
-        beside->activateWindow();
 }
 
 namespace {
@@ -364,5 +277,5 @@ void showHelp(QWidget *parent, const QString &helpFile, const QString &page)
         viewer->setAttribute(Qt::WA_DeleteOnClose);
         shown = viewer;
     }
-    viewer->openBeside(*parent);
+    viewer->companion().openBeside(*parent);
 }

@@ -6,10 +6,10 @@
 
 #include <QDialog>
 #include <QLocale>
-#include <QPointer>
 
 #include <optional>
 
+class Companion;
 class HelpContents;
 class HelpResults;
 class HelpText;
@@ -19,7 +19,7 @@ class QLineEdit;
 
 /// Shows the pages of the help with their contents as a tree, goes back and forward, and finds
 /// words in all of them. It stays open and usable beside the windows that ask for it, modal ones
-/// too: it keeps to the one on top, and closes with its parent.
+/// too.
 class HelpViewer : public QDialog
 {
     Q_OBJECT
@@ -33,16 +33,11 @@ public:
     static bool hasPage(const QString &page);
 
     void showPage(const QString &page);
-    /// Opens or comes to the front, beside a window, which gets the focus back when it closes.
-    void openBeside(QWidget &window);
-
-    void done(int result) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Opens it beside the window that asks.
+    Companion &companion() { return *m_companion; }
 
 protected:
-    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     QWidget *makeFindRow();
@@ -55,13 +50,9 @@ private:
     void showHit(int hit);
     void goToHit(int step);
     void say(const QString &text);
-    void moveBeside();
-    void keepTo(QWidget &window);
-    void keepToTop();
 
     HelpPages m_pages;
     std::optional<HelpIndex> m_index; // made when it is first searched
-    QPointer<QWidget> m_beside;
     HelpText *m_text;
     HelpContents *m_contents;
     HelpResults *m_found;
@@ -69,6 +60,7 @@ private:
     QLineEdit *txtFind;
     QWidget *m_results = nullptr;
     QWidget *m_side;
+    Companion *m_companion;
 };
 
 /// Opens the help file, if it is not open yet, and shows a page in the one help window, beside the

@@ -1,10 +1,10 @@
 #include "guitest.h"
 #include "help/helpcontents.h"
 #include "help/helpkey.h"
-#include "help/helpplace.h"
 #include "help/helpstyle.h"
 #include "help/helptext.h"
 #include "help/helpviewer.h"
+#include "help/placebeside.h"
 
 #include <QLabel>
 #include <QLineEdit>

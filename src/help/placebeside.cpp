@@ -1,4 +1,4 @@
-#include "help/helpplace.h"
+#include "help/placebeside.h"
 
 #include <QList>
 

@@ -1,4 +1,4 @@
-// Where the help opens.
+// Where a window opens beside another.
 #pragma once
 
 #include <QRect>
