@@ -45,13 +45,13 @@ void Companion::keepTo(QWidget &other)
 void Companion::keepToTop()
 {
     QWidget *modal = QApplication::activeModalWidget();
-    QWidget *other = modal ? modal : m_window.parentWidget();
-    if (!m_window.isVisible() || other == &m_window)
+    QWidget *parent = m_window.parentWidget();
+    if (!m_window.isVisible() || modal == &m_window)
         return;
-    if (other && other->isVisible())
-        keepTo(*other);
-    else
+    if (!parent || !parent->isVisible())
         m_window.close();
+    else
+        keepTo(modal ? *modal : *parent);
 }
 
 void Companion::keepToTopSoon()

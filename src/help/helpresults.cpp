@@ -79,7 +79,7 @@ HelpResults::HelpResults(QWidget *parent)
     });
 }
 
-void HelpResults::show(const std::vector<FoundPage> &pages)
+void HelpResults::setPages(const std::vector<FoundPage> &pages)
 {
     const QSignalBlocker quiet(this);
     clear();

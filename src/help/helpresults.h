@@ -14,7 +14,7 @@ public:
     explicit HelpResults(QWidget *parent = nullptr);
 
     /// Goes to none of them.
-    void show(const std::vector<FoundPage> &pages);
+    void setPages(const std::vector<FoundPage> &pages);
     /// Selects a page that is shown already; nothing where it is none of them.
     void follow(const QString &page);
     bool isEmpty() const { return count() == 0; }

@@ -174,7 +174,7 @@ void HelpViewer::find(const QString &typed)
     if (!m_index)
         m_index.emplace(m_pages);
     const QStringList words = searchedWords(typed);
-    m_found->show(m_index->find(words));
+    m_found->setPages(m_index->find(words));
     m_text->mark(words);
     follow(m_text->page());
     if (words.isEmpty())
