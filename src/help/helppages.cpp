@@ -13,7 +13,7 @@ namespace {
 QString folderOf(const QStringList &languages)
 {
     for (const QString &each : languages) {
-        const QString language = each.section(u'-', 0, 0);
+        QString language = each.section(u'-', 0, 0);
         if (language == u"en"_s)
             break;
         if (QFile::exists(u":/help/%1/%2.html"_s.arg(language, HelpPages::contentsPage())))

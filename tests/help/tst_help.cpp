@@ -188,6 +188,11 @@ void tst_help::staysUsableBesideModalWindows()
     QTimer::singleShot(5000, &window, [] { QApplication::exit(1); });
     QCOMPARE(QApplication::exec(), 0);
     QTRY_VERIFY(!openViewer());
+    // Nor does it outlive the window that it belongs to.
+    window.show();
+    askFrom(window);
+    window.hide();
+    QTRY_VERIFY(!openViewer());
 }
 
 void tst_help::hidesLeastOfTheWindowThatAsked()
