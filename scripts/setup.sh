@@ -1,7 +1,7 @@
 # Shared by ./run and ./test: says what is done and installs what a bare Debian 12 lacks for it.
 
 build_packages=(g++ cmake mold ninja-build qt6-base-dev libsqlitecpp-dev
-    libcsv-dev librsvg2-bin)
+    libcsv-dev librsvg2-bin qt6-l10n-tools qt6-translations-l10n)
 command -v npm >/dev/null || build_packages+=(npm)
 # A private display, and the means to see and press what a program shows on it.
 screen_packages=(xvfb openbox xdotool dbus at-spi2-core python3-gi gir1.2-atspi-2.0

@@ -1,6 +1,7 @@
 #include "app/application.h"
 #include "app/darkcolors.h"
 #include "app/startup.h"
+#include "app/translations.h"
 #include "help/helpkey.h"
 #include "session/installation.h"
 #include "ui/messages.h"
@@ -15,6 +16,8 @@ int main(int argc, char **argv)
     Application application(argc, argv, messages);
     QCoreApplication::setApplicationName(QStringLiteral("Corvana"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVANA_VERSION));
+
+    installTranslations(QLocale::system().uiLanguages());
 
     const Installation installation = Installation::ofProgram();
     HelpKeyFilter helpKey(installation.helpPath());

@@ -18,11 +18,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("StartUp", text);
-}
-
 // Why a store that was cut short can't be undone, and what to do; empty where it can.
 QString rollbackAdvice(PendingRollback rollback)
 {
@@ -31,21 +26,23 @@ QString rollbackAdvice(PendingRollback rollback)
     case PendingRollback::Sound:
         return {};
     case PendingRollback::Foreign:
-        return tr("The file Corvana.mdb-journal beside it was left by a store that was cut short, "
-                  "but not in this Corvana.mdb: it would spoil it. Have you put back a copy? Then "
-                  "move Corvana.mdb-journal into another folder and start again. Nothing has been "
-                  "changed.");
+        return StartUp::tr(
+            "The file Corvana.mdb-journal beside it was left by a store that was cut short, "
+            "but not in this Corvana.mdb: it would spoil it. Have you put back a copy? Then "
+            "move Corvana.mdb-journal into another folder and start again. Nothing has been "
+            "changed.");
     case PendingRollback::Damaged:
-        return tr("A store was cut short, and the file is damaged: undoing the store with "
-                  "Corvana.mdb-journal does not make it whole. Copy both files into another folder "
-                  "and keep them. Then put back your last copy of Corvana.mdb, or, where you have "
-                  "none, remove Corvana.mdb-journal only, to see what can still be read. Nothing "
-                  "has been changed.");
+        return StartUp::tr(
+            "A store was cut short, and the file is damaged: undoing the store with "
+            "Corvana.mdb-journal does not make it whole. Copy both files into another folder "
+            "and keep them. Then put back your last copy of Corvana.mdb, or, where you have "
+            "none, remove Corvana.mdb-journal only, to see what can still be read. Nothing "
+            "has been changed.");
     case PendingRollback::Locked:
     case PendingRollback::Untried:
         break;
     }
-    return tr(
+    return StartUp::tr(
         "A store was cut short and has to be undone, which is tried on a copy first, but there "
         "is no room for it in the folder for temporary files. Please make room and start "
         "again. Nothing has been changed.");

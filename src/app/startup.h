@@ -4,6 +4,7 @@
 #include "session/clock.h"
 #include "session/installation.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QString>
 
@@ -30,6 +31,8 @@ struct StartUpSettings
 /// database, session and window for the life of the program.
 class StartUp
 {
+    Q_DECLARE_TR_FUNCTIONS(StartUp)
+
 public:
     explicit StartUp(const StartUpSettings &settings);
     ~StartUp();

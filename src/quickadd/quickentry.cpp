@@ -17,10 +17,10 @@ struct Unclear
     QString problem;
 };
 
-QString tr(const char *text)
+struct QuickEntryTexts
 {
-    return QCoreApplication::translate("QuickEntry", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(QuickEntryTexts)
+};
 
 double caloriesPerUnit(const Recordable &record)
 {
@@ -34,19 +34,19 @@ Currency quantityOf(const Amount &amount, const Recordable &record)
     if (amount.measure == Measure::Energy) {
         unit = caloriesPerUnit(record);
         if (unit <= 0)
-            throw Unclear{tr("%1 has no calories to count by").arg(record.name)};
+            throw Unclear{QuickEntryTexts::tr("%1 has no calories to count by").arg(record.name)};
     } else {
         const std::optional<Amount> named = amountNamedBy(record.unit);
         if (!named || named->measure != amount.measure)
             throw Unclear{(amount.measure == Measure::Weight
-                               ? tr("The unit of %1, %2, names no weight")
-                               : tr("The unit of %1, %2, names no volume"))
+                               ? QuickEntryTexts::tr("The unit of %1, %2, names no weight")
+                               : QuickEntryTexts::tr("The unit of %1, %2, names no volume"))
                               .arg(record.name, record.unit)};
         unit = named->value;
     }
     const Currency quantity = Currency::fromDouble(amount.value / unit);
     if (quantity <= Currency())
-        throw Unclear{tr("This is too little to be counted")};
+        throw Unclear{QuickEntryTexts::tr("This is too little to be counted")};
     return quantity;
 }
 
@@ -65,7 +65,7 @@ int wholeMinutes(double minutes)
 void setQuantityOfMeal(QuickEntry &entry, const QuickText &line, const Recordable &meal, QTime now)
 {
     if (line.end || line.minutes)
-        throw Unclear{tr("A meal has one time and takes none")};
+        throw Unclear{QuickEntryTexts::tr("A meal has one time and takes none")};
     entry.quantity = line.amount     ? quantityOf(*line.amount, meal)
                      : line.quantity ? *line.quantity
                                      : meal.usualQuantity;
@@ -76,7 +76,8 @@ void setTimes(QuickEntry &entry, const QuickText &line, int minutes, QTime now)
 {
     entry.end = line.time.value_or(now);
     if (entry.end.hour() * 60 + entry.end.minute() < minutes)
-        throw Unclear{tr("It would begin on the day before: say from when to when")};
+        throw Unclear{
+            QuickEntryTexts::tr("It would begin on the day before: say from when to when")};
     entry.begin = entry.end.addSecs(-60 * minutes);
 }
 
@@ -103,7 +104,8 @@ void setQuantityOfActivity(QuickEntry &entry, const QuickText &line, const Recor
     else if (!minutes)
         minutes = activity.minutes;
     if (!minutes)
-        throw Unclear{tr("Say how long it took, as in \"45 min\", or from when to when")};
+        throw Unclear{
+            QuickEntryTexts::tr("Say how long it took, as in \"45 min\", or from when to when")};
     setTimes(entry, line, *minutes, now);
 }
 
@@ -123,9 +125,10 @@ QuickEntry entryOf(const QuickText &line, const Recordable &record, QTime now)
     QuickEntry entry;
     try {
         if (!line.unread.isEmpty())
-            throw Unclear{tr("\"%1\" can't be read").arg(line.unread.join(u"\", \""_s))};
+            throw Unclear{
+                QuickEntryTexts::tr("\"%1\" can't be read").arg(line.unread.join(u"\", \""_s))};
         if (line.amount && line.quantity)
-            throw Unclear{tr("There are two quantities")};
+            throw Unclear{QuickEntryTexts::tr("There are two quantities")};
         const bool isMeal = record.kind == Recordable::Kind::Meal;
         const auto set = isMeal ? setQuantityOfMeal : setQuantityOfActivity;
         set(entry, line, record, now);
@@ -135,7 +138,7 @@ QuickEntry entryOf(const QuickText &line, const Recordable &record, QTime now)
     } catch (const Unclear &unclear) {
         entry.problem = unclear.problem;
     } catch (const OverflowError &) {
-        entry.problem = tr("The quantity is too large");
+        entry.problem = QuickEntryTexts::tr("The quantity is too large");
     }
     return entry;
 }

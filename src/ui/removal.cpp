@@ -10,10 +10,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct RemovalTexts
 {
-    return QCoreApplication::translate("Removal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RemovalTexts)
+};
 
 void remove(deData &data, const Removal &removal, qint32 id)
 {
@@ -32,8 +32,8 @@ void remove(deData &data, const Removal &removal, qint32 id)
 
 bool confirmRemoval(QWidget *parent, Messages &messages)
 {
-    return messages.ask(parent, tr("Are you sure"),
-                        tr("Are you sure you want to delete the selected record?"));
+    return messages.ask(parent, RemovalTexts::tr("Are you sure"),
+                        RemovalTexts::tr("Are you sure you want to delete the selected record?"));
 }
 
 bool removeRecord(QWidget *parent, Session &session, Messages &messages, const Removal &removal,
