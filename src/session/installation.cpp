@@ -17,23 +17,34 @@ namespace {
 const QString firstStartKey = QStringLiteral("FirstStartDone");
 const QString yes = QStringLiteral("true");
 const QString no = QStringLiteral("false");
-constexpr char unwritable[] = "Corvana.ini can't be written in the program folder; please make "
-                              "sure that there is room and that you may write there";
+struct InstallationTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(InstallationTexts)
+};
+
+QString unwritable()
+{
+    return InstallationTexts::tr("Corvana.ini can't be written in the program folder; please make "
+                                 "sure that there is room and that you may write there");
+}
 
 IniFile settingsIn(const QString &folder)
 {
     return IniFile(Installation(folder).settingsPath());
 }
 
-std::string shown(const QString &path)
+QString unmade(const QString &folder)
 {
-    return QDir::toNativeSeparators(path).toStdString();
+    return InstallationTexts::tr("your journal can't be put into the folder %1; please make sure "
+                                 "that there is room and that you may write there")
+        .arg(QDir::toNativeSeparators(folder));
 }
 
-std::string unmade(const QString &folder)
+QString unreadable(const QString &delivered)
 {
-    return "your journal can't be put into the folder " + shown(folder) +
-           "; please make sure that there is room and that you may write there";
+    return InstallationTexts::tr("the delivered journal %1 can't be read; please install the "
+                                 "program anew")
+        .arg(QDir::toNativeSeparators(delivered));
 }
 
 Installation::FirstStart firstStartIn(IniFile &settings)
@@ -93,14 +104,13 @@ void Installation::provide() const
     QLockFile lock(databasePath() + QStringLiteral(".lock"));
     const QString delivered = Installation(m_delivered).databasePath();
     if (!makeSynchronizedFolder(m_folder) || !lock.tryLock(patience))
-        throw std::runtime_error(unmade(m_folder));
+        throw std::runtime_error(unmade(m_folder).toStdString());
     if (holdsJournal())
         return;
     if (!QFileInfo(delivered).isReadable())
-        throw std::runtime_error("the delivered journal " + shown(delivered) +
-                                 " can't be read; please install the program anew");
+        throw std::runtime_error(unreadable(delivered).toStdString());
     if (!copySynchronized(delivered, databasePath()))
-        throw std::runtime_error(unmade(m_folder));
+        throw std::runtime_error(unmade(m_folder).toStdString());
 }
 
 QString Installation::databasePath() const
@@ -127,7 +137,7 @@ Installation::FirstStart Installation::firstStart() const
 void Installation::requireWritable() const
 {
     if (!settingsIn(m_folder).isWritable())
-        throw std::runtime_error(unwritable);
+        throw std::runtime_error(unwritable().toStdString());
 }
 
 void Installation::setFirstStartDone()
@@ -136,7 +146,7 @@ void Installation::setFirstStartDone()
     settings.read();
     settings.setValue(firstStartKey, yes);
     if (!settings.write())
-        throw std::runtime_error(unwritable);
+        throw std::runtime_error(unwritable().toStdString());
 }
 
 QString Installation::value(const QString &key) const
