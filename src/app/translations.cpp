@@ -3,15 +3,19 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 bool install(const QString &catalogue)
 {
-    auto *translator = new QTranslator(qApp);
-    return translator->load(u":/i18n/"_s + catalogue) &&
-           QCoreApplication::installTranslator(translator);
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(u":/i18n/"_s + catalogue))
+        return false;
+    translator->setParent(qApp);
+    return QCoreApplication::installTranslator(translator.release());
 }
 
 } // namespace

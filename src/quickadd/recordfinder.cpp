@@ -8,6 +8,7 @@
 #include "ui/reportview.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -75,7 +76,7 @@ void RecordFinder::makeList()
     const int character = fontMetrics().averageCharWidth();
     lvwList->setColumnWidth(1, 22 * character);
     lvwList->setColumnWidth(2, 26 * character);
-    lvwList->setColumnWidth(3, 11 * character);
+    lvwList->setColumnWidth(3, qMax(11 * character, lvwList->header()->sectionSizeHint(3)));
     lvwList->setMinimumWidth(80 * character);
     lvwList->setMinimumHeight(6 * fontMetrics().height());
 }

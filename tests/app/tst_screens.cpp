@@ -1,5 +1,8 @@
-// Every window on the screen that it opens on: run once more for each of several screens.
+// Every window on the screen that it opens on: run once more for each of several screens, and in
+// another language.
+#include "accesskeys.h"
 #include "app/frmMain.h"
+#include "app/translations.h"
 #include "catalogue/frmMeal.h"
 #include "dayjournal.h"
 #include "exchange/frmImport.h"
@@ -15,6 +18,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QTabWidget>
+#include <QTranslator>
 
 using namespace Qt::Literals;
 
@@ -23,12 +27,13 @@ class tst_screens : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { qApp->installEventFilter(new ScreenFit(this)); }
+    void initTestCase();
     void init();
     void everythingIsWithinReach();
     void windowsOfTheirOwn();
     void formOfLargeTextScrolls();
     void keepsPlaces();
+    void cleanupTestCase();
 
 private:
     void open(QWidget &from, QStringList path);
@@ -39,6 +44,25 @@ private:
 
 namespace {
 
+/// Hears of the texts that the translators installed after it don't have.
+class Untranslated : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *text, const char * /*disambiguation*/,
+                      int /*n*/) const override
+    {
+        if (context != "QGuiApplication"_ba) // the direction of the writing
+            texts += context + u": "_s + text;
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+
+    mutable QStringList texts;
+};
+Untranslated untranslated;
+
+const QString language = qEnvironmentVariable("CORVANA_TEST_LANGUAGE");
+
 // The whole of a control, wherever it has to be scrolled to.
 bool isInSight(QWidget &control)
 {
@@ -47,9 +71,25 @@ bool isInSight(QWidget &control)
     return control.visibleRegion().boundingRect() == control.rect();
 }
 
+// Names and units give way; the captions of numbers are short and stand in full.
+void verifyColumns(const QTreeView &list)
+{
+    const QHeaderView &header = *list.header();
+    QVERIFY2(header.length() <= list.viewport()->width(), qPrintable(list.objectName()));
+    for (int column = 0; column < header.count(); ++column) {
+        const auto of = [&](int role) {
+            return header.model()->headerData(column, Qt::Horizontal, role);
+        };
+        if ((of(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0)
+            QVERIFY2(header.sectionSize(column) >= header.sectionSizeHint(column),
+                     qPrintable(of(Qt::DisplayRole).toString()));
+    }
+}
+
 void verifyWithinReach(QWidget &window)
 {
     QTest::qWait(20); // until it has found its place
+    verifyAccessKeys(window);
     const QRect screen = window.screen()->availableGeometry();
     const QRect withTitle = window.geometry().adjusted(0, -window.fontMetrics().height(), 0, 0);
     QVERIFY2(withTitle.height() <= screen.height(), qPrintable(window.objectName()));
@@ -58,8 +98,7 @@ void verifyWithinReach(QWidget &window)
         QVERIFY2(screen.contains(withTitle), qPrintable(window.objectName()));
     for (auto *control : window.findChildren<QWidget *>()) {
         if (const auto *list = qobject_cast<QTreeView *>(control); list && list->isVisible())
-            QVERIFY2(list->header()->length() <= list->viewport()->width(),
-                     qPrintable(list->objectName()));
+            verifyColumns(*list);
         const QString text = control->property("text").toString();
         const QString what = window.objectName() + u' ' + control->objectName() + u' ' + text;
         const bool isButton = qobject_cast<QAbstractButton *>(control);
@@ -75,6 +114,22 @@ void verifyWithinReach(QWidget &window)
 }
 
 } // namespace
+
+void tst_screens::initTestCase()
+{
+    qApp->installEventFilter(new ScreenFit(this));
+    if (language.isEmpty())
+        return;
+    QCoreApplication::installTranslator(&untranslated);
+    installTranslations({language});
+}
+
+void tst_screens::cleanupTestCase()
+{
+    mainWindow.reset();
+    untranslated.texts.removeDuplicates();
+    QVERIFY2(untranslated.texts.isEmpty(), qPrintable(untranslated.texts.join(u'\n')));
+}
 
 // With names and units that are longer than any screen is wide.
 void tst_screens::init()
