@@ -384,6 +384,13 @@ QStringList unitsOf(FieldKind kind)
     return found;
 }
 
+QString bodyUnit(FieldKind kind, bool isMetric)
+{
+    if (kind == FieldKind::BodyWeight)
+        return isMetric ? u"kg"_s : u"lb"_s;
+    return isMetric ? u"cm"_s : u"inch"_s;
+}
+
 double factorOf(FieldKind kind, const QString &unit, bool isMetric)
 {
     const auto toMetric = [kind](const QString &named) {
@@ -395,6 +402,6 @@ double factorOf(FieldKind kind, const QString &unit, bool isMetric)
     };
     if (isMetric || (kind != FieldKind::BodyWeight && kind != FieldKind::Girth))
         return toMetric(unit);
-    const QString stored = kind == FieldKind::BodyWeight ? u"lb"_s : u"inch"_s;
+    const QString stored = bodyUnit(kind, false);
     return unit == stored ? 1.0 : toMetric(unit) / toMetric(stored);
 }

@@ -69,6 +69,8 @@ QString portionInHeader(const QString &header);
 
 /// The units in which such a column may be, the stored ones first; none for others.
 QStringList unitsOf(FieldKind kind);
+/// Of unitsOf the one in which a measurement of the body is stored.
+QString bodyUnit(FieldKind kind, bool isMetric);
 /// Of a quantity in this unit, one of unitsOf, how much it is in the stored unit: kcal, g, and for
 /// the body kg and cm or, if not metric, lb and inch.
 double factorOf(FieldKind kind, const QString &unit, bool isMetric);

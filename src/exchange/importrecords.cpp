@@ -309,10 +309,10 @@ void RecordPlanner::addMeasurement(FilePlan &plan)
     // What has no unit is in the system of the other.
     if (const auto ofWeight = isMetricUnit(FieldKind::BodyWeight, weightUnit);
         ofWeight && girthUnit.isEmpty())
-        girthUnit = units::girthLabel(*ofWeight);
+        girthUnit = bodyUnit(FieldKind::Girth, *ofWeight);
     else if (const auto ofGirth = isMetricUnit(FieldKind::Girth, girthUnit);
              ofGirth && weightUnit.isEmpty())
-        weightUnit = units::weightLabel(*ofGirth);
+        weightUnit = bodyUnit(FieldKind::BodyWeight, *ofGirth);
     const QString system = m_row->text(systemField).trimmed().toUpper();
     if (!system.isEmpty() && system != u"M" && system != u"I")
         throw ImportRowFault(

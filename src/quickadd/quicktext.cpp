@@ -86,7 +86,7 @@ QuickTextReader::QuickTextReader(const LocaleText &text)
     m_figures = {
         {figure(time + u"\\s*[-\\x{2013}\\x{2014}]\\s*"_s + time), &Line::takeSpan},
         {figure(time), &Line::takeTime},
-        {figure(number + u"\\s*(kg|g|oz|lb|ml|cl|dl|l|min|h|kcal)"_s), &Line::takeAmount},
+        {figure(number + u"\\s*(kg|g|oz|lb|ml|cl|dl|l|min|h|std|kcal)"_s), &Line::takeAmount},
         {figure(number + u"(?:\\s*[x\\x{D7}](?=\\s|$))?"_s), &Line::takeQuantity},
     };
     for (const Figure &each : m_figures)

@@ -5,7 +5,7 @@
 
 std::optional<Amount> oneOf(const QString &unit)
 {
-    // International avoirdupois ounce and pound.
+    // International avoirdupois ounce and pound; the long words in the languages of the program.
     static const QHash<QString, Amount> units{
         {QStringLiteral("g"), {1, Measure::Weight}},
         {QStringLiteral("kg"), {1000, Measure::Weight}},
@@ -16,7 +16,11 @@ std::optional<Amount> oneOf(const QString &unit)
         {QStringLiteral("dl"), {100, Measure::Volume}},
         {QStringLiteral("l"), {1000, Measure::Volume}},
         {QStringLiteral("min"), {1, Measure::Time}},
+        {QStringLiteral("minute"), {1, Measure::Time}},
         {QStringLiteral("h"), {60, Measure::Time}},
+        {QStringLiteral("hour"), {60, Measure::Time}},
+        {QStringLiteral("std"), {60, Measure::Time}},
+        {QStringLiteral("stunde"), {60, Measure::Time}},
         {QStringLiteral("kcal"), {1, Measure::Energy}},
     };
     const auto found = units.constFind(unit.toLower());
@@ -28,19 +32,16 @@ std::optional<Amount> amountNamedBy(const QString &unit)
     // "fl oz" is another unit than "oz".
     static const QRegularExpression named(
         QStringLiteral(
-            "(?:^|[\\s(])(?:(\\d+(?:[.,]\\d+)?)\\s*)?(kg|g|oz|lb|ml|cl|dl|l|min|h|minute|hour)"
-            "s?(?=$|[\\s),;/])"),
+            "(?:^|[\\s(])(?:(\\d+(?:[.,]\\d+)?)\\s*)?"
+            "(kg|g|oz|lb|ml|cl|dl|l|min|h|minute|hour|std|stunde)(?:s|(?<=e)n)?(?=$|[\\s),;/])"),
         QRegularExpression::CaseInsensitiveOption);
     for (const QRegularExpressionMatch &match : named.globalMatch(unit)) {
         const bool isWhole = match.capturedLength() == unit.size();
         if (match.captured(1).isEmpty() && !isWhole)
             continue; // a letter among words
-        QString word = match.captured(2).toLower();
-        if (word == QLatin1String("minute") || word == QLatin1String("hour"))
-            word.truncate(word.startsWith(u'm') ? 3 : 1);
         const double count =
             match.captured(1).isEmpty() ? 1 : match.captured(1).replace(u',', u'.').toDouble();
-        const std::optional<Amount> one = oneOf(word);
+        const std::optional<Amount> one = oneOf(match.captured(2));
         if (one && count > 0)
             return Amount{one->value * count, one->measure};
     }

@@ -21,7 +21,7 @@ struct Amount
 };
 
 /// One of a unit that a number may have behind it, without regard to case: g, kg, oz, lb; ml, cl,
-/// dl, l; min, h; kcal. None for any other word.
+/// dl, l; min, minute, h, hour and the German std, stunde; kcal. None for any other word.
 std::optional<Amount> oneOf(const QString &unit);
 
 /// The weight, volume or time that one unit of a catalogue record stands for: 118 g for "medium

@@ -71,6 +71,7 @@ private slots:
             {"en_GB", u"350 kcal"_qs, u"|350 kcal"_qs},
             {"en_GB", u"run 45 min"_qs, u"run|45 min long"_qs},
             {"en_GB", u"run 1 h 30 min"_qs, u"run|90 min long"_qs},
+            {"de_DE", u"laufen 1,5 Std"_qs, u"laufen|90 min long"_qs},
             {"en_GB", u"run 25 h"_qs, u"run|can't be read: 25 h"_qs},
             {"en_GB", u"run 17:10-17:40"_qs, u"run|from 17:10 to 17:40"_qs},
             {"en_GB", u"run 17:10 – 17:40"_qs, u"run|from 17:10 to 17:40"_qs},
@@ -120,6 +121,7 @@ private slots:
             {u"minute"_qs, 1, Measure::Time},
             {u"Hours"_qs, 60, Measure::Time},
             {u"15 min"_qs, 15, Measure::Time},
+            {u"Stunden"_qs, 60, Measure::Time},
             {u"12 fl oz (355 ml)"_qs, 355, Measure::Volume},
             {u"1.5 oz"_qs, 42.5242846875, Measure::Weight}};
         for (const auto &[unit, value, measure] : named) {
