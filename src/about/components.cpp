@@ -104,7 +104,7 @@ std::vector<Component> components(Connection &journal)
         {u"Corvana"_s, QCoreApplication::applicationVersion(), u"MIT"_s, licenceFile(u"LICENSE"_s)},
         {u"Qt"_s, QString::fromLatin1(qVersion()), u"LGPL 3"_s,
          Components::tr("Copyright: The Qt Company Ltd. and other contributors") + u"\n\n"_s +
-             lesser + licenceFile(u"qt-notices.txt"_s)},
+             lesser + licenceFile(u"qt-notices.txt"_s) + u'\n' + notices.take(u"qtbase_"_s)},
         {u"SQLite"_s, told(journal, "select sqlite_version()"), Components::tr("public domain"),
          engine},
         {u"SQLite3 Multiple Ciphers"_s,
