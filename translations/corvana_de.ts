@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The file %1 beside it was left by a store that was cut short, but not in this file. Copy the file alone into another folder and restore it from there.</source>
-        <translation>Die Datei %1 daneben stammt von einem abgebrochenen Speichervorgang, aber nicht in dieser Datei. Kopieren Sie die Datei allein in einen anderen Ordner und stellen Sie sie von dort wieder her.</translation>
+        <translation>Die Datei %1 daneben gehört zu einem abgebrochenen Speichervorgang, aber nicht zu dieser Datei. Kopieren Sie die Datei allein in einen anderen Ordner und stellen Sie sie von dort wieder her.</translation>
     </message>
     <message>
         <source>It is damaged: a store was cut short in it and can&apos;t be undone.</source>
@@ -1280,7 +1280,7 @@
     <name>StartUp</name>
     <message>
         <source>The file Corvana.mdb-journal beside it was left by a store that was cut short, but not in this Corvana.mdb: it would spoil it. Have you put back a copy? Then move Corvana.mdb-journal into another folder and start again. Nothing has been changed.</source>
-        <translation>Die Datei Corvana.mdb-journal daneben stammt von einem abgebrochenen Speichervorgang, aber nicht in dieser Corvana.mdb: Sie würde sie verderben. Haben Sie eine Kopie zurückgelegt? Dann verschieben Sie Corvana.mdb-journal in einen anderen Ordner und starten Sie neu. Es wurde nichts geändert.</translation>
+        <translation>Die Datei Corvana.mdb-journal daneben gehört zu einem abgebrochenen Speichervorgang, aber nicht zu dieser Corvana.mdb: Sie würde sie verderben. Haben Sie eine Kopie zurückgelegt? Dann verschieben Sie Corvana.mdb-journal in einen anderen Ordner und starten Sie neu. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>A store was cut short, and the file is damaged: undoing the store with Corvana.mdb-journal does not make it whole. Copy both files into another folder and keep them. Then put back your last copy of Corvana.mdb, or, where you have none, remove Corvana.mdb-journal only, to see what can still be read. Nothing has been changed.</source>
