@@ -4,20 +4,14 @@
 #include "app/frmMain.h"
 #include "app/translations.h"
 #include "catalogue/frmMeal.h"
-#include "dayjournal.h"
-#include "exchange/frmImport.h"
-#include "help/helpviewer.h"
-#include "progress/frmGeneralProgress.h"
+#include "programwindows.h"
 #include "session/installation.h"
 #include "ui/screenfit.h"
 #include "ui/windowplaces.h"
 
-#include <QAction>
-#include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
-#include <QTabWidget>
 #include <QTranslator>
 
 using namespace Qt::Literals;
@@ -30,16 +24,12 @@ private slots:
     void initTestCase();
     void init();
     void everythingIsWithinReach();
-    void windowsOfTheirOwn();
     void formOfLargeTextScrolls();
     void keepsPlaces();
     void cleanupTestCase();
 
 private:
-    void open(QWidget &from, QStringList path);
-
-    std::unique_ptr<DayJournal> journal;
-    std::unique_ptr<frmMain> mainWindow;
+    std::unique_ptr<ProgramWindows> windows;
 };
 
 namespace {
@@ -126,7 +116,7 @@ void tst_screens::initTestCase()
 
 void tst_screens::cleanupTestCase()
 {
-    mainWindow.reset();
+    windows.reset();
     untranslated.texts.removeDuplicates();
     QVERIFY2(untranslated.texts.isEmpty(), qPrintable(untranslated.texts.join(u'\n')));
 }
@@ -134,131 +124,50 @@ void tst_screens::cleanupTestCase()
 // With names and units that are longer than any screen is wide.
 void tst_screens::init()
 {
-    mainWindow.reset();
-    journal = std::make_unique<DayJournal>();
-    journal->exec("update Meal set Unit = replace(hex(zeroblob(300)), '00', 'cup '),"
-                  " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
-                  "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
-                  " where ExerciseID = 1;"
-                  "insert into MealConsume values (-1, 1, 46225, 0.5, 3), (-2, 1, 46224, 0.5, 3);"
-                  "insert into ExercisePerform values (-1, 1, 46225, 0.5, 0.6, 3),"
-                  " (-2, 1, 46224, 0.5, 0.6, 3);"
-                  "insert into Body values (-1, 46220, 70, 90, 80, 95, 'M');"
-                  "insert into UserNote values (-1, 46220, 46222,"
-                  " replace(hex(zeroblob(300)), '00', 'note '))");
-    mainWindow = std::make_unique<frmMain>(*journal->session, journal->messages);
-    mainWindow->show();
-    QVERIFY(QTest::qWaitForWindowExposed(mainWindow.get()));
+    windows.reset();
+    windows = std::make_unique<ProgramWindows>(
+        "update Meal set Unit = replace(hex(zeroblob(300)), '00', 'cup '),"
+        " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
+        "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
+        " where ExerciseID = 1;"
+        "update UserNote set UserNote = replace(hex(zeroblob(300)), '00', 'note ')");
 }
 
-// A window is opened by a menu entry, then by a button of the one before and so on.
 void tst_screens::everythingIsWithinReach()
 {
-    verifyWithinReach(*mainWindow);
-    for (const QString path :
-         // NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
-         {"mnuMealConsume frmMealConsumes btnEdit frmMealConsume btnNewMeal frmMeal btnNewCategory "
-          "frmMealCategory",
-          "mnuAddMeal frmMealConsume",
-          "mnuExercisePerformed frmExercisePerforms btnEdit frmExercisePerform",
-          "mnuMeasurement frmMeasurements btnMeasurementNew frmBody",
-          "mnuMeasurement frmMeasurements btnNotetNew frmUserNote",
-          "mnuSetDate frmDate",
-          "mnuCopyDay frmCopyDay",
-          "mnuMealConsume frmMealConsumes mnuCopyTo frmCopyTo",
-          "mnuMealCategories frmMealCategories",
-          "mnuMeal frmMeals btnEdit frmMeal",
-          "mnuExercises frmExercises btnNew frmExercise btnWeightAdjust frmWeightAdjustment",
-          "mnuQuickAdd frmQuickAdd",
-          "mnuComposeMeal frmComposeMeal",
-          "mnuGoals frmGoals",
-          "mnuExport frmExport",
-          "mnuImport frmImport",
-          "mnuCheckJournal frmCheckJournal",
-          "mnuPassword frmPassword",
-          "mnuRestore frmRestore",
-          "mnuBackupSettings frmBackupSettings",
-          "mnuCommon frmCommon",
-          "mnuHelpAbout frmAbout",
-          "mnuGeneralProgress frmGeneralProgressSettings"})
-        open(*mainWindow, path.split(u' '));
-}
-
-void tst_screens::open(QWidget &from, QStringList path)
-{
-    const QString opener = path.takeFirst();
-    const QString name = path.takeFirst();
-    if (auto *box = from.findChild<QCheckBox *>())
-        box->setChecked(true);
-    if (from.findChild<QTreeView *>(u"lvwList"_qs))
-        selectRow(from, 0);
-    journal->messages.answers = {true, true};
-    const auto press = [&] {
-        if (auto *entry = from.findChild<QAction *>(opener))
-            entry->trigger();
-        else
-            control<QPushButton>(from, qPrintable(opener)).click();
-    };
-    inDialog(qPrintable(name), press, [&](QWidget &window) {
-        verifyWithinReach(window);
-        if (!path.isEmpty())
-            open(window, path);
-    });
-}
-
-void tst_screens::windowsOfTheirOwn()
-{
-    mainWindow->resize(1, 1); // as small as it gets
-    verifyWithinReach(*mainWindow);
-    const auto showProgress = [this] {
-        showGeneralProgress(*journal->session, journal->messages,
-                            progress::periodOfMonths(QDate(2026, 7, 1), 3), mainWindow.get());
-    };
-    inDialog("frmGeneralProgress", showProgress, verifyWithinReach);
+    windows->forEachOfMenus(verifyWithinReach);
+    windows->mainWindow->resize(1, 1); // as small as it gets
+    verifyWithinReach(*windows->mainWindow);
     // With more lines to match than a small screen has room for, and long names.
-    const QString meals = journal->folder.filePath(u"meals.csv"_s);
+    const QString meals = windows->journal.folder.filePath(u"meals.csv"_s);
     setFileBytes(meals, "Name,kcal," + QByteArray(300, 'x') + "\nFood,1,2\nFood,x," +
                             QByteArray(3000, 'y') + '\n');
-    frmImport import(*journal->session, journal->messages, mainWindow.get());
-    inDialog(
-        "frmImport", [&] { import.exec(); },
-        [&](QWidget &window) {
-            import.read({meals, meals});
-            for (int page : {0, 1, 2}) {
-                control<QTabWidget>(window, "tabFile").setCurrentIndex(page);
-                verifyWithinReach(window);
-            }
-        });
-    HelpViewer help(QString(), mainWindow.get());
-    inDialog(
-        "helpViewer", [&] { help.exec(); }, verifyWithinReach);
-    for (const QString &text : {u"A very long note. "_qs.repeated(1000), QString(2000, u'x')}) {
-        const auto say = [&] { MessageBoxes().error(mainWindow.get(), text); };
-        inDialog("message", say, verifyWithinReach);
-    }
+    windows->forEachOther({meals, meals}, verifyWithinReach);
 }
 
 void tst_screens::formOfLargeTextScrolls()
 {
     const QFont usual = QApplication::font();
-    const QSize screen = mainWindow->screen()->availableSize();
-    mainWindow.reset();
+    const QSize screen = windows->mainWindow->screen()->availableSize();
+    windows->mainWindow.reset();
     QFont large = usual;
     large.setPixelSize(qMin(screen.height() / 18, screen.width() / 40));
     QApplication::setFont(large);
-    journal->edit<frmMeal>(1, verifyWithinReach);
+    windows->journal.edit<frmMeal>(1, verifyWithinReach);
     QApplication::setFont(usual);
 }
 
 // The sizes fit the smallest of the screens.
 void tst_screens::keepsPlaces()
 {
-    WindowPlaces places(journal->folder.path());
+    DayJournal &journal = windows->journal;
+    std::unique_ptr<frmMain> &mainWindow = windows->mainWindow;
+    WindowPlaces places(journal.folder.path());
     qApp->installEventFilter(&places);
     const auto reopened = [&](const QByteArray &place) {
         if (!place.isEmpty())
-            Installation(journal->folder.path()).setValue(u"Windows/frmMain"_qs, place);
-        mainWindow = std::make_unique<frmMain>(*journal->session, journal->messages);
+            Installation(journal.folder.path()).setValue(u"Windows/frmMain"_qs, place);
+        mainWindow = std::make_unique<frmMain>(*journal.session, journal.messages);
         mainWindow->show();
         return mainWindow->geometry();
     };
