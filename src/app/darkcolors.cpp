@@ -1,8 +1,21 @@
 #include "app/darkcolors.h"
 
+#include "plot/colors.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
+
+namespace {
+
+#ifdef Q_OS_WIN
+bool isDark()
+{
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+#endif
+
+} // namespace
 
 void allowDarkColors()
 {
@@ -14,19 +27,20 @@ void allowDarkColors()
 
 void chooseStyle()
 {
+    QPalette own; // all else stays the system's
 #ifdef Q_OS_WIN
-    static bool hasOwnRows = false;
-    const bool isDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    if (isDark && QApplication::style()->name() == QLatin1String("windowsvista"))
+    if (isDark() && QApplication::style()->name() == QLatin1String("windowsvista"))
         QApplication::setStyle(QStringLiteral("fusion"));
     // Every other row of a list would have the colour of a selected one.
-    QPalette rows;
-    if (isDark)
-        rows.setColor(QPalette::AlternateBase,
-                      QGuiApplication::palette().color(QPalette::Base).lighter(120));
-    if (isDark != hasOwnRows) {
-        hasOwnRows = isDark;
-        QApplication::setPalette(rows);
-    }
+    if (isDark())
+        own.setColor(QPalette::AlternateBase,
+                     QGuiApplication::palette().color(QPalette::Base).lighter(120));
 #endif
+    // Most styles have half transparent ones, too faint to read.
+    own.setColor(QPalette::PlaceholderText, plot::BaseColors(QGuiApplication::palette()).muted);
+    static QPalette before;
+    if (own == before && own.resolveMask() == before.resolveMask())
+        return; // this very change is what is told of
+    before = own;
+    QApplication::setPalette(own);
 }

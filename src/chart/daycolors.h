@@ -7,7 +7,8 @@
 namespace daychart {
 
 /// The fills differ along blue to yellow and in lightness, which every kind of colour vision tells
-/// apart; the hatching of fat does without colour altogether.
+/// apart; the hatching of fat does without colour altogether. What tells a figure, or the edge
+/// around it, stands out from the ground of any palette (plot::discernible).
 struct DayColors : plot::BaseColors
 {
     Nutrients<QColor> nutrients;

@@ -1,14 +1,30 @@
 #include "plot/chartwidget.h"
 
+#include "plot/colors.h"
+
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 
 namespace plot {
 
+namespace {
+
+/// Of a chart whose own class installs no other.
+QAccessibleInterface *chartAccessible(const QString &, QObject *object)
+{
+    auto *chart = dynamic_cast<ChartWidget *>(object);
+    return chart ? new QAccessibleWidget(chart, QAccessible::Chart) : nullptr;
+}
+
+} // namespace
+
 ChartWidget::ChartWidget(QWidget *parent)
     : QWidget(parent)
     , m_fonts(font(), logicalDpiY(), this)
 {
+    [[maybe_unused]] static const bool installed =
+        (QAccessible::installFactory(chartAccessible), true);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -90,7 +106,7 @@ void ChartWidget::paintEvent(QPaintEvent *)
         return;
     const double line = 0.12 * metricsOf(m_fonts, this).lineHeight;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), line));
+    painter.setPen(QPen(BaseColors(palette()).highlight, line));
     painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
 }
 

@@ -15,13 +15,16 @@ QColor withAlpha(QColor color, float alpha)
 ProgressColors::ProgressColors(const QPalette &palette)
     : BaseColors(palette)
 {
+    const auto mark = [this](QRgb inLight, QRgb inDark) {
+        return plot::standingOut(QColor(isDark ? inDark : inLight), ground, plot::discernible);
+    };
     weight = ink;
-    trend = QColor(isDark ? 0xE58CC8 : 0xA8327F);
-    breast = QColor(isDark ? 0xF0A04B : 0xC65D07);
-    waist = QColor(isDark ? 0x6FB1E6 : 0x1F6FB2);
-    hips = QColor(isDark ? 0x45C9A0 : 0x0B8A66);
-    surplus = QColor(isDark ? 0xE3AE4B : 0xEDB550);
-    deficit = QColor(isDark ? 0x4F8CC0 : 0x2B628F);
+    trend = mark(0xA8327F, 0xE58CC8);
+    breast = mark(0xC65D07, 0xF0A04B);
+    waist = mark(0x1F6FB2, 0x6FB1E6);
+    hips = mark(0x0B8A66, 0x45C9A0);
+    surplus = mark(0xC4850F, 0xE3AE4B);
+    deficit = mark(0x2B628F, 0x4F8CC0);
     note = withAlpha(ink, isDark ? 0.22F : 0.13F);
     month = withAlpha(ink, 0.28F);
     noteEdge = withAlpha(ink, 0.45F);

@@ -264,7 +264,7 @@ private slots:
     void emphasisTellsWhatIsPointedAt()
     {
         const DayGeometry g = geometry();
-        const QColor highlight = m_graph->palette().color(QPalette::Highlight);
+        const QColor highlight = DayColors(m_graph->palette()).highlight;
         const QImage before = picture();
         const QRectF lane = g.activities.area;
         for (const auto &[point, bounds] :
@@ -291,7 +291,7 @@ private slots:
     void selectionStandsOutForAWhile()
     {
         const DayGeometry g = geometry();
-        const QColor highlight = m_graph->palette().color(QPalette::Highlight);
+        const QColor highlight = DayColors(m_graph->palette()).highlight;
         const auto standsOut = [&] {
             const QImage image = m_graph->grab().toImage();
             const auto around = [&](const QRectF &rect) {

@@ -99,6 +99,7 @@ private slots:
     void hatching_data() { densities(); }
     void hatching();
     void colorsKeepTheirDistance();
+    void standsOutFromAnyGround();
     void picturesAreKept();
 
 private:
@@ -168,12 +169,27 @@ void tst_drawing::colorsKeepTheirDistance()
         palette.setColor(QPalette::Text, dark ? QColor(0xf0f0f0) : QColor(Qt::black));
         const BaseColors c(palette);
         QCOMPARE(c.isDark, dark);
-        QVERIFY(contrast(c.tone(Tone::Ink), c.ground) > 12);
-        QVERIFY(contrast(c.tone(Tone::Muted), c.ground) > 4.5);
         QVERIFY(contrast(c.tone(Tone::OnInk), c.ink) > 12 && c.tone(Tone::OnFill) == c.ink);
         QVERIFY(contrast(c.axis, c.ground) > contrast(c.grid, c.ground) + 0.5);
         QVERIFY(contrast(c.grid, c.ground) > 1.1 && contrast(c.grid, c.ground) < 2);
     }
+}
+
+// Known ratios, and every grey as the ground.
+void tst_drawing::standsOutFromAnyGround()
+{
+    QCOMPARE(contrast(Qt::white, Qt::black), 21.0);
+    QVERIFY(::near(contrast(Qt::white, QColor(0x767676)), 4.54, 0.005));
+    QVERIFY(::near(contrast(Qt::red, Qt::white), 4.0, 0.005));
+    for (int grey = 0; grey < 256; ++grey) {
+        const QColor ground(grey, grey, grey);
+        for (const QColor &color : {QColor(0xEDB550), QColor(0x2B628F), ground}) {
+            const QColor found = standingOut(color, ground, legible);
+            QVERIFY(contrast(found, ground) >= legible);
+            QVERIFY(contrast(color, ground) < legible || found == color);
+        }
+    }
+    QCOMPARE(standingOut(Qt::gray, QColor(0x777777), 21), QColor(Qt::black));
 }
 
 void tst_drawing::picturesAreKept()

@@ -5,7 +5,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <cmath>
 
 RecordedMessages::RecordedMessages() = default;
 RecordedMessages::~RecordedMessages() = default;
@@ -37,18 +36,6 @@ double share(const QImage &picture, const QRectF &rect, const QColor &color)
         found += picture.pixel(dots.left() + i % dots.width(), dots.top() + i / dots.width()) ==
                  color.rgb();
     return double(found) / std::max(1, dots.width() * dots.height());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto luminance = [](const QColor &color) {
-        const auto linear = [](double c) {
-            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-               0.0722 * linear(color.blueF()) + 0.05;
-    };
-    return std::max(luminance(a), luminance(b)) / std::min(luminance(a), luminance(b));
 }
 
 void setTestFont(QWidget &widget)

@@ -53,10 +53,6 @@ Control &control(const QWidget &window, const char *name)
 /// The share of a rectangle's dots in a picture that have exactly this colour.
 double share(const QImage &picture, const QRectF &rect, const QColor &color);
 
-/// How two colours stand out from each other, from 1 to 21: of relative luminances, as in the
-/// accessibility guidelines for web content.
-double contrast(const QColor &a, const QColor &b);
-
 /// Gives a widget the same font on every system: what it paints depends on that.
 void setTestFont(QWidget &widget);
 

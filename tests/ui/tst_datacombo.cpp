@@ -2,6 +2,7 @@
 #include "guitest.h"
 #include "testjournal.h"
 
+#include "plot/colors.h"
 #include "ui/datacombo.h"
 
 #include <QAbstractItemView>
@@ -200,8 +201,8 @@ void tst_datacombo::paintsDetails()
                 double found = 1;
                 for (int x = from; x < to; ++x) {
                     for (int y = 3; y < picture.height() - 3; ++y)
-                        found = qMax(found, contrast(picture.pixelColor(x, y),
-                                                     picture.pixelColor(middle, y)));
+                        found = qMax(found, plot::contrast(picture.pixelColor(x, y),
+                                                           picture.pixelColor(middle, y)));
                 }
                 return found;
             };
