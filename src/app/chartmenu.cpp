@@ -1,6 +1,8 @@
 // The context menus of the daily chart.
 #include "app/frmMain.h"
 
+#include "app/dayview.h"
+#include "chart/TrellumGraph.h"
 #include "journal/entrycommands.h"
 #include "session/session.h"
 #include "ui/attempt.h"
@@ -41,7 +43,7 @@ void frmMain::showActivityMenu(int id, QTime time, QPoint at)
 
 void frmMain::showChartMenu(int id, QTime time, QPoint at, const ItemCommands &commands)
 {
-    auto *menu = new QMenu(this);
+    auto *menu = new QMenu(m_view->graph); // where a screen reader looks for it
     menu->setObjectName(QStringLiteral("mnuChart"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto add = [this, menu](const QString &caption, const std::function<void()> &run) {

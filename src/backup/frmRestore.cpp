@@ -13,6 +13,7 @@
 #include "ui/frmUnlock.h"
 #include "ui/messages.h"
 #include "ui/progressbox.h"
+#include "ui/telling.h"
 
 #include <QApplication>
 #include <QDir>
@@ -146,7 +147,7 @@ void frmRestore::showChosen()
         m_path.clear();
         text = tr("It can't be restored. %1").arg(reason);
     }
-    lblContents->setText(text);
+    tell(*lblContents, text);
     btnOK->setEnabled(!m_path.isEmpty());
     btnUnlock->setEnabled(!m_lockedPath.isEmpty());
 }

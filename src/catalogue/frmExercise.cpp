@@ -78,6 +78,7 @@ void frmExercise::makeConnections()
         m_caloriesChanged = true;
         showDependence();
     });
+    connect(txtUnit, &QLineEdit::textChanged, txtDefaultQty, &QWidget::setAccessibleDescription);
     connect(btnWeightAdjust, &QPushButton::clicked, this,
             attempting(this, messages(), &frmExercise::adjustToWeight));
 }
@@ -101,6 +102,7 @@ void frmExercise::showDependence()
     const bool dependent = chkWeightDependent->isChecked();
     btnWeightAdjust->setEnabled(dependent);
     lblPerWhat->setText(dependent ? tr("per unit, for my body") : tr("per unit"));
+    txtCaloriesConsume->setAccessibleDescription(lblPerWhat->text());
 }
 
 bool frmExercise::Validate()

@@ -43,6 +43,10 @@ void frmMeal::makeControls()
     m_shares = {makeBox(QStringLiteral("txtFatBC"), tr("Fat by Calories")),
                 makeBox(QStringLiteral("txtCarboHydrateBC"), tr("Carbohydrate by Calories")),
                 makeBox(QStringLiteral("txtProteinBC"), tr("Protein by Calories"))};
+    for (const Nutrient n : allNutrients) {
+        m_weights[n]->setAccessibleDescription(tr("grams"));
+        m_shares[n]->setAccessibleDescription(tr("kcal"));
+    }
 }
 
 QLayout *frmMeal::makeForm()
@@ -50,7 +54,7 @@ QLayout *frmMeal::makeForm()
     lblCalories = new ElidedLabel(this); // it holds the unit
     lblCalories->setBuddy(txtCalories);
     lblCalories->setObjectName(QStringLiteral("lblCalories"));
-    showCaloriesLabel();
+    showUnit();
 
     auto *form = new QGridLayout;
     form->addWidget(makeLabel(tr("Meal Cate&gory"), dcbMealCategory), 0, 0);
@@ -111,7 +115,7 @@ void frmMeal::makeConnections()
 {
     connect(btnNewCategory, &QPushButton::clicked, this,
             attempting(this, messages(), &frmMeal::createCategory));
-    connect(txtUnit, &QLineEdit::textChanged, this, &frmMeal::showCaloriesLabel);
+    connect(txtUnit, &QLineEdit::textChanged, this, &frmMeal::showUnit);
     connect(txtCalories, &QLineEdit::textChanged, this, &frmMeal::splitCalories);
     for (QLineEdit *box : m_weights)
         connect(box, &QLineEdit::textChanged, this, &frmMeal::splitCalories);
@@ -195,15 +199,17 @@ void frmMeal::createCategory()
     dcbMealCategory->setDisplayedText(m_newCategoryName);
 }
 
-void frmMeal::showCaloriesLabel()
+void frmMeal::showUnit()
 {
     QString unit = txtUnit->text();
-    if (unit.isEmpty()) {
-        lblCalories->setText(tr("Ca&lories per Unit"));
-        return;
-    }
+    for (QLineEdit *box : {txtDefaultQty, txtIncrement})
+        box->setAccessibleDescription(unit);
+    QString calories = tr("Ca&lories per %1");
+    txtCalories->setAccessibleDescription(
+        unit.isEmpty() ? QString() : QString(calories).remove(u'&').arg(unit));
     // The unit is no place for an access key.
-    lblCalories->setText(tr("Ca&lories per %1").arg(unit.replace(u'&', "&&"_L1)));
+    lblCalories->setText(unit.isEmpty() ? tr("Ca&lories per Unit")
+                                        : calories.arg(unit.replace(u'&', "&&"_L1)));
 }
 
 void frmMeal::splitCalories()

@@ -57,7 +57,7 @@ private:
     void makeConnections();
     std::vector<Bound> requiredNumbers() const;
     void createCategory();
-    void showCaloriesLabel();
+    void showUnit();
     void showProposal();
     void splitCalories();
     void showShares();

@@ -19,6 +19,7 @@ frmWeightAdjustment::frmWeightAdjustment(Session &session, Messages &messages, Q
     const bool metric = session.parameters().isMetric();
     lblMeasurement->setObjectName(QStringLiteral("lblMeasurement"));
     lblMeasurement->setText(units::weightLabel(metric));
+    txtWeight->setAccessibleDescription(lblMeasurement->text());
     txtWeight->setText(session.text().toText(units::referenceWeight(metric)));
     setForm(makeForm());
 

@@ -2,6 +2,8 @@
 
 #include "chart/TrellumGraph.h"
 
+#include <QMenu>
+
 #include <utility>
 
 namespace daychart {
@@ -18,7 +20,7 @@ public:
     {
     }
 
-    bool isValid() const override { return m_chart->isValid() && m_index < m_chart->childCount(); }
+    bool isValid() const override { return m_chart->isValid() && m_chart->hasTarget(m_index); }
     QObject *object() const override { return nullptr; }
     QWindow *window() const override { return m_chart->window(); }
     QAccessibleInterface *parent() const override { return m_chart; }
@@ -100,15 +102,26 @@ const std::vector<Target> &GraphAccessible::targets() const
     return graph()->m_targets;
 }
 
+/// Popups are no children of widgets on the accessibility bus, and it would stand nowhere there.
+QMenu *GraphAccessible::openMenu() const
+{
+    for (auto *menu : graph()->findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
+        if (menu->isVisible())
+            return menu;
+    }
+    return nullptr;
+}
+
 int GraphAccessible::childCount() const
 {
-    return int(targets().size());
+    return int(targets().size()) + (openMenu() ? 1 : 0);
 }
 
 QAccessibleInterface *GraphAccessible::child(int index) const
 {
-    if (index < 0 || index >= childCount())
-        return nullptr;
+    if (!hasTarget(index))
+        return index == int(targets().size()) ? QAccessible::queryAccessibleInterface(openMenu())
+                                              : nullptr;
     if (m_children.size() <= size_t(index))
         m_children.resize(size_t(index) + 1, 0);
     QAccessible::Id &id = m_children[size_t(index)];
@@ -124,7 +137,8 @@ int GraphAccessible::indexOfChild(const QAccessibleInterface *child) const
         if (m_children[i] != 0 && QAccessible::accessibleInterface(m_children[i]) == child)
             return int(i);
     }
-    return -1;
+    QMenu *menu = openMenu();
+    return menu && child && child->object() == menu ? int(targets().size()) : -1;
 }
 
 int GraphAccessible::indexOf(const Target &target) const

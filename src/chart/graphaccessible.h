@@ -6,12 +6,13 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+class QMenu;
 class TrellumGraph;
 
 namespace daychart {
 
 /// The children are, lane by lane, its caption, its items by time and its free place, each a button
-/// named in words.
+/// named in words, and at last the menu that is open over the chart.
 class GraphAccessible : public QAccessibleWidget
 {
 public:
@@ -33,10 +34,12 @@ public:
     void moveTo(int index);
 
     int indexOf(const Target &target) const;
+    bool hasTarget(int index) const { return index >= 0 && index < int(targets().size()); }
     void forgetChildren();
 
 private:
     TrellumGraph *graph() const;
+    QMenu *openMenu() const;
     const std::vector<Target> &targets() const;
 
     mutable std::vector<QAccessible::Id> m_children;

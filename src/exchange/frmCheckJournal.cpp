@@ -5,8 +5,8 @@
 #include "ui/helpbutton.h"
 #include "ui/listmodel.h"
 #include "ui/reportstyle.h"
+#include "ui/telling.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
@@ -143,8 +143,7 @@ void frmCheckJournal::showReport()
         rows.push_back({0, {dayOf(finding), finding.record, finding.what}});
     m_model->setRows(std::move(rows));
     btnCopy->setEnabled(true);
-    QAccessibleEvent said(lblResult, QAccessible::Alert);
-    QAccessible::updateAccessibility(&said);
+    announce(*lblResult);
     if (!m_report.isSound()) {
         lvwList->setCurrentIndex(m_model->index(0, 0));
         lvwList->setFocus();

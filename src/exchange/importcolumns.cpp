@@ -55,6 +55,17 @@ void ImportColumns::show(ImportFile *file)
     }
     grid->setColumnStretch(5, 1);
     static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_grid);
+    orderTabs();
+}
+
+/// Tab goes through what was made last here, and not behind all else in the window.
+void ImportColumns::orderTabs()
+{
+    QWidget *before = this;
+    for (auto *control : m_grid->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        setTabOrder(before, control);
+        before = control;
+    }
 }
 
 void ImportColumns::addHeadings(QGridLayout &grid)
@@ -100,6 +111,7 @@ QComboBox *ImportColumns::makeChooser(const QString &name, const QString &access
     auto *chooser = new QComboBox(m_grid);
     chooser->setObjectName(name);
     chooser->setAccessibleName(accessibleName);
+    chooser->setAccessibleDescription(accessibleName); // on Linux Qt tells the item for the name
     chooser->addItems(entries);
     guardFromWheel(*chooser);
     return chooser;

@@ -35,6 +35,7 @@ private:
         QLabel *sample = nullptr;
     };
 
+    void orderTabs();
     void addHeadings(QGridLayout &grid);
     void addLine(QGridLayout &grid, size_t field);
     QComboBox *makeChooser(const QString &name, const QString &accessibleName,

@@ -7,6 +7,7 @@
 #include "ui/fieldmessages.h"
 #include "ui/messages.h"
 #include "ui/pickers.h"
+#include "ui/telling.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
@@ -265,7 +266,8 @@ void frmGoals::showPace()
     QStringList sentences = paceSentences(goals);
     if (const QString warned = warning(goals); !warned.isEmpty())
         sentences += warned;
-    lblPace->setText(sentences.join(u'\n'));
+    if (const QString text = sentences.join(u'\n'); text != lblPace->text())
+        tell(*lblPace, text);
 }
 
 void frmGoals::accept()

@@ -80,6 +80,7 @@ void frmCopyDay::makeTimes()
     cbxDirection = new QComboBox(this);
     cbxDirection->setObjectName(QStringLiteral("cbxDirection"));
     cbxDirection->setAccessibleName(tr("Earlier or later"));
+    cbxDirection->setAccessibleDescription(cbxDirection->accessibleName()); // it has no label
     cbxDirection->addItem(tr("later"), 1);
     cbxDirection->addItem(tr("earlier"), -1);
     guardFromWheel(*cbxDirection);

@@ -145,6 +145,8 @@ QWidget *frmMeasurements::makeMeasurementPane()
     lblWeightIn->setText(tr("Weight ") + bracketed(units::weightLabel(metric)));
     lblLinearIn->setObjectName(QStringLiteral("lblLinearIn"));
     lblLinearIn->setText(tr("Breast, Waist, Hips ") + bracketed(units::girthLabel(metric)));
+    m_measurements->list()->setAccessibleDescription(lblWeightIn->text() + QStringLiteral(", ") +
+                                                     lblLinearIn->text());
 
     auto *top = new QHBoxLayout;
     top->addWidget(makeHeading(tr("Body &Measurement"), m_measurements->list()));

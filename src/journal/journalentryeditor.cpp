@@ -109,7 +109,7 @@ void JournalEntryEditor::checkQuantity()
 
 void JournalEntryEditor::showChoice(const Recordset *row)
 {
-    lblUnit->setText(row ? row->text(schema::Meal::Unit) : QString());
+    showUnit(row ? row->text(schema::Meal::Unit) : QString());
     if (!row)
         txtQty->clear();
     else if (!isLoading())
@@ -117,6 +117,12 @@ void JournalEntryEditor::showChoice(const Recordset *row)
                             ? QStringLiteral("1")
                             : session().text().toText(row->value(schema::Meal::DefaultQty)));
     recalculate();
+}
+
+void JournalEntryEditor::showUnit(const QString &unit)
+{
+    lblUnit->setText(unit);
+    txtQty->setAccessibleDescription(unit);
 }
 
 void JournalEntryEditor::readQuantity()
@@ -160,7 +166,7 @@ void JournalEntryEditor::recordStored()
     tellAdded();
     clearChoosers();
     txtQty->clear();
-    lblUnit->clear();
+    showUnit({});
     focusFirstField();
 }
 

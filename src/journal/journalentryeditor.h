@@ -66,6 +66,7 @@ protected:
     QLabel *lblUnit = nullptr;
 
 private:
+    void showUnit(const QString &unit);
     void readQuantity();
     void stepQuantity(bool up);
     void tellAdded();

@@ -10,6 +10,7 @@
 #include "ui/attempt.h"
 #include "ui/helpbutton.h"
 #include "ui/messages.h"
+#include "ui/telling.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -289,7 +290,7 @@ void frmGeneralProgress::showPeriod(const PeriodSteps &steps)
 void frmGeneralProgress::tellPeriod()
 {
     fillNotes();
-    lblPeriod->setText(m_texts.days(m_series.period().dateFrom, m_series.period().dateTo));
+    tell(*lblPeriod, m_texts.days(m_series.period().dateFrom, m_series.period().dateTo));
     // It only grows, so that the buttons stand still.
     lblPeriod->setMinimumWidth(qMax(lblPeriod->minimumWidth(), lblPeriod->sizeHint().width()));
     tellDay(m_chart->day());

@@ -57,7 +57,9 @@ QLayout *frmCommon::makeForm()
     form->addWidget(lblWeightUnit, 0, 2);
     form->addWidget(makeLabel(tr("&Background Calories Consume"), txtMetabolicRate), 1, 0);
     form->addWidget(txtMetabolicRate, 1, 1);
-    form->addWidget(new QLabel(tr("per hour"), this), 1, 2);
+    auto *perHour = new QLabel(tr("per hour"), this);
+    form->addWidget(perHour, 1, 2);
+    txtMetabolicRate->setAccessibleDescription(perHour->text());
     form->addWidget(makeLabel(tr("&Measurement"), cbxMeasurement), 2, 0);
     form->addWidget(cbxMeasurement, 2, 1);
     form->setColumnStretch(1, 1);
@@ -114,6 +116,7 @@ void frmCommon::UpdateBackgroundCalories()
 void frmCommon::ShowWeightUnit()
 {
     lblWeightUnit->setText(units::weightLabel(isMetricChosen()));
+    txtWeight->setAccessibleDescription(lblWeightUnit->text());
 }
 
 void frmCommon::Gather()

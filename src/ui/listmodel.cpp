@@ -139,6 +139,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     case Qt::DisplayRole:
         return column.header;
     case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
         return column.meaning.isEmpty() ? QVariant() : column.meaning;
     case Qt::TextAlignmentRole:
         return int((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);

@@ -1,5 +1,6 @@
 #include "ui/messages.h"
 
+#include "session/excerpt.h"
 #include "ui/plaintextbox.h"
 
 #include <QApplication>
@@ -48,6 +49,7 @@ bool isTooLarge(const QString &text)
 void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &title,
                     const QString &text)
 {
+    constexpr qsizetype mostSaid = 2000; // characters that a screen reader says at once
     QDialog box(parent);
     box.setObjectName(QStringLiteral("message"));
     box.setWindowTitle(title);
@@ -59,6 +61,7 @@ void runScrolledBox(QWidget *parent, QMessageBox::Icon icon, const QString &titl
     quoted->setReadOnly(true);
     quoted->setTabChangesFocus(true);
     quoted->setAccessibleName(title);
+    box.setAccessibleDescription(excerptOf(withPlainLineFeeds(text), mostSaid));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, &box);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
     auto *grid = new QGridLayout(&box);

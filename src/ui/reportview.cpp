@@ -3,6 +3,7 @@
 #include "ui/reportstyle.h"
 #include "ui/tooltips.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -123,6 +124,23 @@ void ReportView::focusInEvent(QFocusEvent *event)
     // The first row is current now though not selected, and Down would pass it by.
     if (!selectionModel()->hasSelection())
         selectionModel()->clearCurrentIndex();
+    // Behind what Qt says of the list itself, whose row it does not tell.
+    QMetaObject::invokeMethod(this, &ReportView::announceRow, Qt::QueuedConnection);
+}
+
+// Another one than before, where the list comes back from the editor of its records.
+void ReportView::announceRow()
+{
+    if (!hasFocus() || !currentIndex().isValid() || !QAccessible::isActive())
+        return;
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(this);
+    QAccessibleInterface *cell = list && list->tableInterface()
+                                     ? list->tableInterface()->cellAt(currentIndex().row(), 0)
+                                     : nullptr;
+    if (!cell)
+        return;
+    QAccessibleEvent event(cell, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 // Whichever column the pointer has made current.

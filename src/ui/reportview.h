@@ -8,6 +8,7 @@
 /// Shows the rows of a ListModel, a screenful high and, unless told otherwise, as wide as their
 /// columns. Where there is less room, names and units give way to the numbers, and whatever is cut
 /// off tells itself in a tooltip. Space turns the check box of the current row, where it has one.
+/// A screen reader says the current row when the list gets the focus.
 class ReportView : public QTreeView
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void announceRow();
     void arrangeColumns();
     int contentsWidth(int column) const;
     void keepNumbersInSight();
