@@ -1,6 +1,7 @@
 #include "app/darkcolors.h"
 
 #include "plot/colors.h"
+#include "ui/edgestyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -8,12 +9,10 @@
 
 namespace {
 
-#ifdef Q_OS_WIN
 bool isDark()
 {
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
-#endif
 
 } // namespace
 
@@ -36,6 +35,8 @@ void chooseStyle()
         own.setColor(QPalette::AlternateBase,
                      QGuiApplication::palette().color(QPalette::Base).lighter(120));
 #endif
+    if (isDark() && QApplication::style()->name() == QLatin1String("fusion"))
+        QApplication::setStyle(new EdgeStyle(QStringLiteral("fusion")));
     // Most styles have half transparent ones, too faint to read.
     own.setColor(QPalette::PlaceholderText, plot::BaseColors(QGuiApplication::palette()).muted);
     static QPalette before;

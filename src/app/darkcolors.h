@@ -7,6 +7,6 @@
 void allowDarkColors();
 
 /// Gives the application the style that can draw its colours, of which the native one of Windows
-/// draws light ones only, dark rows to its lists there, and placeholders that can be read. To be
-/// called again when the system's colours are others.
+/// draws light ones only, dark rows to its lists there, edges that can be seen and placeholders
+/// that can be read. To be called again when the system's colours are others.
 void chooseStyle();

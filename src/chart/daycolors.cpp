@@ -14,7 +14,7 @@ DayColors::DayColors(const QPalette &palette)
     };
     now = mark(0x8A3A94, 0xD78FD9);
     nutrients = {mark(0x4F97C9, 0x7FB6DE), mark(0xC4850F, 0xE3AE4B), mark(0x2B628F, 0x4179AB)};
-    fatHatch = QColor(isDark ? 0x3F6F94 : 0x1F5580);
+    fatHatch = standingOut(QColor(isDark ? 0x3F6F94 : 0x1F5580), nutrients[Nutrient::Fat], 2);
     activity = QColor(isDark ? 0xA8644A : 0xE3A184);
     activityEdge = mark(0xA9573A, 0xE3A184);
     onFill = standingOut(QColor(isDark ? 0xFFFFFF : 0x33140A), activity, plot::legible);

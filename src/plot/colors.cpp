@@ -30,7 +30,7 @@ QColor standingOut(const QColor &color, const QColor &ground, double least)
     constexpr int steps = 64;
     for (int step = 0; step < steps; ++step) {
         for (const QColor &end : {QColor(Qt::white), QColor(Qt::black)}) {
-            const QColor nearer = mixed(color, end, double(step) / steps);
+            const QColor nearer = mixed(color, end, double(step) / steps).rgb(); // as it is drawn
             if (contrast(nearer, ground) >= least)
                 return nearer;
         }

@@ -1,12 +1,13 @@
 #include "ui/reportstyle.h"
 
+#include "ui/edgestyle.h"
+
 #include <QHeaderView>
-#include <QProxyStyle>
 #include <QTreeView>
 
 namespace {
 
-class ReportStyle : public QProxyStyle
+class ReportStyle : public EdgeStyle
 {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
@@ -14,7 +15,7 @@ public:
     {
         if (widget && (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin))
             return widget->fontMetrics().averageCharWidth();
-        return QProxyStyle::pixelMetric(metric, option, widget);
+        return EdgeStyle::pixelMetric(metric, option, widget);
     }
 };
 

@@ -134,9 +134,8 @@ void ReportView::announceRow()
     if (!hasFocus() || !currentIndex().isValid() || !QAccessible::isActive())
         return;
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(this);
-    QAccessibleInterface *cell = list && list->tableInterface()
-                                     ? list->tableInterface()->cellAt(currentIndex().row(), 0)
-                                     : nullptr;
+    const QAccessibleTableInterface *table = list ? list->tableInterface() : nullptr;
+    QAccessibleInterface *cell = table ? table->cellAt(currentIndex().row(), 0) : nullptr;
     if (!cell)
         return;
     QAccessibleEvent event(cell, QAccessible::Focus);

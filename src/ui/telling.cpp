@@ -20,12 +20,20 @@ public:
     {
         return m_label ? QAccessible::queryAccessibleInterface(m_label) : nullptr;
     }
-    QWindow *window() const override { return isValid() ? parent()->window() : nullptr; }
+    QWindow *window() const override
+    {
+        const QAccessibleInterface *shown = parent();
+        return shown ? shown->window() : nullptr;
+    }
     QAccessibleInterface *child(int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface *) const override { return -1; }
     QAccessibleInterface *childAt(int, int) const override { return nullptr; }
-    QRect rect() const override { return isValid() ? parent()->rect() : QRect(); }
+    QRect rect() const override
+    {
+        const QAccessibleInterface *shown = parent();
+        return shown ? shown->rect() : QRect();
+    }
     QAccessible::Role role() const override { return QAccessible::Notification; }
     QAccessible::State state() const override { return {}; }
     void setText(QAccessible::Text, const QString &) override {}

@@ -3,8 +3,9 @@
 
     heard.py BUILD-FOLDER WORK-FOLDER
 
-Its events: what gets the focus, and what appears as a notification.
+Its events: what gets the focus, what is described anew, and what appears as a notification.
 """
+import datetime
 import pathlib
 import sys
 import threading
@@ -18,10 +19,13 @@ HEARD = []
 
 def hear(event):
     try:
-        name, role = event.source.get_name(), event.source.get_role_name()
+        role, name = event.source.get_role_name(), event.source.get_name()
+        description = event.source.get_description()
     except GLib.Error:  # it is gone already
         return
-    if event.detail1 and (event.type.endswith("focused") or role == "notification"):
+    if event.type.endswith("description"):
+        HEARD.append((role, description))
+    elif event.detail1 and (event.type.endswith("focused") or role == "notification"):
         HEARD.append((role, name))
 
 
@@ -39,8 +43,9 @@ with tour.new_user(build, place) as program:
     tour.common_parameters(program)
     tour.today(program)
     listener = Atspi.EventListener.new(hear)
-    for kind in "focused", "showing":
-        listener.register(f"object:state-changed:{kind}")
+    for kind in ("state-changed:focused", "state-changed:showing",
+                 "property-change:accessible-description"):
+        listener.register(f"object:{kind}")
     threading.Thread(target=GLib.MainLoop().run, daemon=True).start()
 
     # Candidates and what is done with them, while the focus stays in the line.
@@ -73,11 +78,13 @@ with tour.new_user(build, place) as program:
     tour.check("Delete Meal" in entries, f"the menu has {entries}")
     program.keys("Escape")
 
-    # The day of the progress chart, and its next period.
+    # The days of the progress chart, and the period before.
     program.menu("Analyze", "General Progress")
     program.window("General Progress Parameters").find("push button", "OK").press()
     window = program.window("General Progress")
     tour.check(window.find_all("chart"), "the progress chart is no chart")
+    yesterday = datetime.date.today() - datetime.timedelta(days=1)
+    expect("chart", f"{yesterday:%A}, ", lambda: program.keys("Left"))
     expect("notification", "", window.find("push button", "Previous").press)
     tour.leave_window(program, "General Progress")
     tour.leave(program)

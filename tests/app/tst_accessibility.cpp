@@ -5,16 +5,19 @@
 #include "plot/paper.h"
 #include "programwindows.h"
 #include "progress/progresscolors.h"
+#include "ui/edgestyle.h"
 #include "ui/updownspinner.h"
 
 #include <QAccessible>
 #include <QAction>
-#include <QHeaderView>
+#include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QToolBar>
 
@@ -30,6 +33,7 @@ private slots:
     void colors_data();
     void colors();
     void placeholders();
+    void edgesOnBlack();
 };
 
 namespace {
@@ -243,6 +247,7 @@ void tst_accessibility::colors_data()
         QTest::newRow(name) << palette;
     };
     add("light", 0xffffff, 0x000000, 0x308cc6, 0xffffff);
+    add("grey", 0xc0c0c0, 0x000000, 0x000080, 0xffffff);
     add("dark", 0x202326, 0xf0f0f0, 0x308cc6, 0xffffff);
     add("white on black", 0x000000, 0xffffff, 0x1aebff, 0x000000);
     add("black on white", 0xffffff, 0x000000, 0x37006e, 0xffffff);
@@ -268,7 +273,7 @@ void tst_accessibility::colors()
           progress.hips, progress.surplus, progress.deficit, progress.muted,
           onGround(progress.noteEdge)})
         QVERIFY2(plot::contrast(mark, ground) >= 3, qPrintable(mark.name()));
-    QVERIFY(plot::contrast(day.fatHatch, day.nutrients[Nutrient::Fat]) > 2);
+    QVERIFY(plot::contrast(day.fatHatch, day.nutrients[Nutrient::Fat]) >= 2);
     for (const auto &[ink, paper] : {std::pair(day.ink, ground),
                                      {day.muted, ground},
                                      {day.onFill, day.activity},
@@ -284,6 +289,33 @@ void tst_accessibility::placeholders()
     const QColor shown = palette.color(QPalette::PlaceholderText);
     QCOMPARE(shown.alpha(), 255);
     QVERIFY(plot::contrast(shown, palette.color(QPalette::Base)) >= 4.5);
+}
+
+// Boxes and indicators that have not the focus.
+void tst_accessibility::edgesOnBlack()
+{
+    EdgeStyle style(u"fusion"_s);
+    const QPalette palette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white,
+                           Qt::black);
+    QLineEdit box;
+    QCheckBox check;
+    QRadioButton radio;
+    QComboBox chooser;
+    QSpinBox number;
+    QPushButton button;
+    QPlainTextEdit text;
+    for (QWidget *control : std::initializer_list<QWidget *>{&box, &check, &radio, &chooser,
+                                                             &number, &button, &text}) {
+        control->setStyle(&style);
+        control->setPalette(palette);
+        control->resize(control->sizeHint());
+        const QImage picture = control->grab().toImage();
+        double most = 1;
+        for (int x = 0; x < 6; ++x)
+            most =
+                qMax(most, plot::contrast(picture.pixelColor(x, picture.height() / 2), Qt::black));
+        QVERIFY2(most >= 3, control->metaObject()->className());
+    }
 }
 
 QTEST_MAIN(tst_accessibility)

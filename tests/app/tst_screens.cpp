@@ -6,6 +6,7 @@
 #include "catalogue/frmMeal.h"
 #include "programwindows.h"
 #include "session/installation.h"
+#include "ui/reportview.h"
 #include "ui/screenfit.h"
 #include "ui/windowplaces.h"
 
@@ -61,6 +62,32 @@ bool isInSight(QWidget &control)
     return control.visibleRegion().boundingRect() == control.rect();
 }
 
+/// Where a control stands in its window; of a label what its text takes.
+QRect placeOf(const QWidget &control)
+{
+    QRect place = control.rect();
+    if (const auto *label = qobject_cast<const QLabel *>(&control))
+        place = QStyle::alignedRect(label->layoutDirection(), label->alignment(),
+                                    label->sizeHint().boundedTo(label->size()), place);
+    const QWidget &around = *control.parentWidget();
+    const QPoint corner = around.mapTo(control.window(), QPoint());
+    return place.translated(control.pos() + corner) &
+           around.visibleRegion().boundingRect().translated(corner);
+}
+
+void verifyApart(const QList<QWidget *> &controls)
+{
+    for (qsizetype i = 0; i < controls.size(); ++i) {
+        for (qsizetype j = 0; j < i; ++j) {
+            const QWidget &a = *controls[i];
+            const QWidget &b = *controls[j];
+            const QString what = a.objectName() + u' ' + b.objectName();
+            QVERIFY2(a.isAncestorOf(&b) || b.isAncestorOf(&a) || !placeOf(a).intersects(placeOf(b)),
+                     qPrintable(a.window()->objectName() + u' ' + what));
+        }
+    }
+}
+
 // Names and units give way; the captions of numbers are short and stand in full.
 void verifyColumns(const QTreeView &list)
 {
@@ -86,8 +113,9 @@ void verifyWithinReach(QWidget &window)
     QVERIFY2(withTitle.width() <= screen.width(), qPrintable(window.objectName()));
     if (window.windowType() == Qt::Dialog) // others are placed by the window manager
         QVERIFY2(screen.contains(withTitle), qPrintable(window.objectName()));
+    QList<QWidget *> controls;
     for (auto *control : window.findChildren<QWidget *>()) {
-        if (const auto *list = qobject_cast<QTreeView *>(control); list && list->isVisible())
+        if (const auto *list = qobject_cast<ReportView *>(control); list && list->isVisible())
             verifyColumns(*list);
         const QString text = control->property("text").toString();
         const QString what = window.objectName() + u' ' + control->objectName() + u' ' + text;
@@ -100,7 +128,10 @@ void verifyWithinReach(QWidget &window)
                      qPrintable(what));
         if (isButton || (control->focusPolicy() & Qt::TabFocus) != 0)
             QVERIFY2(isInSight(*control), qPrintable(what));
+        if (isText || (control->focusPolicy() & Qt::TabFocus) != 0)
+            controls += control;
     }
+    verifyApart(controls);
 }
 
 } // namespace
@@ -130,7 +161,7 @@ void tst_screens::init()
         " Name = Name || Unit || replace(hex(zeroblob(300)), '00', ' soup');"
         "update Exercise set Name = replace(hex(zeroblob(300)), '00', 'run ')"
         " where ExerciseID = 1;"
-        "update UserNote set UserNote = replace(hex(zeroblob(300)), '00', 'note ')");
+        "update UserNote set NoteText = replace(hex(zeroblob(300)), '00', 'note ')");
 }
 
 void tst_screens::everythingIsWithinReach()
