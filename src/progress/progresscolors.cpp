@@ -27,7 +27,7 @@ ProgressColors::ProgressColors(const QPalette &palette)
     deficit = mark(0x2B628F, 0x4F8CC0);
     note = withAlpha(ink, isDark ? 0.22F : 0.13F);
     month = withAlpha(ink, 0.28F);
-    noteEdge = withAlpha(ink, 0.45F);
+    noteEdge = axis;
     noteReach = withAlpha(ink, isDark ? 0.07F : 0.045F);
 }
 

@@ -118,7 +118,7 @@ bool isNamed(const QAccessibleInterface &item)
 void verifyUnit(const QAccessibleInterface &item, const QWidget &box)
 {
     static const QRegularExpression ofWords(
-        u"^txt(Name|Unit|Entry|Folder|New|Repeated|Password|Date|Portions|Empty.*)$"_s);
+        u"^txt(Name|Unit|Entry|Find|Folder|New|Repeated|Password|Date|Portions|Empty.*)$"_s);
     static const QRegularExpression unit(
         u"\\b(kg|cm|kcal|grams|hours|calories|per|cup|piece|lap)\\b"_s,
         QRegularExpression::CaseInsensitiveOption);
@@ -270,8 +270,7 @@ void tst_accessibility::colors()
          {day.nutrients[Nutrient::Fat], day.nutrients[Nutrient::Carbohydrate],
           day.nutrients[Nutrient::Protein], day.activityEdge, day.bandEdge, day.balance, day.now,
           day.axis, day.highlight, progress.weight, progress.trend, progress.breast, progress.waist,
-          progress.hips, progress.surplus, progress.deficit, progress.muted,
-          onGround(progress.noteEdge)})
+          progress.hips, progress.surplus, progress.deficit, progress.muted, progress.noteEdge})
         QVERIFY2(plot::contrast(mark, ground) >= 3, qPrintable(mark.name()));
     QVERIFY(plot::contrast(day.fatHatch, day.nutrients[Nutrient::Fat]) >= 2);
     for (const auto &[ink, paper] : {std::pair(day.ink, ground),
