@@ -109,11 +109,7 @@ void tst_odddata::damagedPagesHarmTheirTableAlone()
                      "insert into ExercisePerform values (1, 1, 46225, 0.25, 0.5, 1);"
                      "insert into Body values (1, 46225, 1, 1, 1, 1, 'M');"
                      "insert into UserNote values (1, 46225, 46225, 'a')");
-        const QString root = u"select rootpage from sqlite_schema where name = '%1'"_qs.arg(table);
-        const qint64 page = journal.row(qPrintable(root)).toLongLong();
-        QByteArray bytes = fileBytes(journal.path());
-        setFileBytes(journal.path(), bytes.replace((page - 1) * 4096, 4096, QByteArray(4096, 'x')));
-        journal.open();
+        journal.damagePageOf(table);
 
         frmMain window(*journal.session, journal.messages);
         window.show();

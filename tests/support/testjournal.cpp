@@ -44,17 +44,27 @@ QStringList queryRows(Connection &connection, const char *sql)
 
 TestJournal::TestJournal(const QLocale &locale)
     : clock(QDateTime(QDate(2026, 7, 22), QTime(12, 30, 45)))
+    , m_locale(locale)
 {
     makeEmptyJournal(path());
-    open(locale);
+    open();
 }
 
 TestJournal::~TestJournal() = default;
 
-void TestJournal::open(const QLocale &locale)
+void TestJournal::open()
 {
     session.reset();
     data = std::make_unique<deData>(path());
-    session = std::make_unique<Session>(*data, clock, locale);
+    session = std::make_unique<Session>(*data, clock, m_locale);
     session->readCommonParameters();
+}
+
+void TestJournal::damagePageOf(const QString &name)
+{
+    const QString root = u"select rootpage from sqlite_schema where name = '%1'"_qs.arg(name);
+    const qint64 page = row(qPrintable(root)).toLongLong();
+    QByteArray bytes = fileBytes(path());
+    setFileBytes(path(), bytes.replace((page - 1) * 4096, 4096, QByteArray(4096, 'x')));
+    open();
 }

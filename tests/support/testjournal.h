@@ -39,10 +39,12 @@ public:
     explicit TestJournal(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedKingdom));
     ~TestJournal();
     /// Once more, where it was open.
-    void open(const QLocale &locale = QLocale(QLocale::English, QLocale::UnitedKingdom));
+    void open();
 
     QString path() const { return folder.filePath(QStringLiteral("Corvana.mdb")); }
     void exec(const char *sql) { data->Con.exec(sql); }
+    /// Overwrites the first page of a table or an index, and opens the file once more.
+    void damagePageOf(const QString &name);
 
     QStringList rows(const char *sql) { return queryRows(data->Con, sql); }
     QString row(const char *sql) { return rows(sql).join(u'\n'); }
@@ -51,4 +53,7 @@ public:
     FixedClock clock;
     std::unique_ptr<deData> data;
     std::unique_ptr<Session> session;
+
+private:
+    QLocale m_locale;
 };
