@@ -1,42 +1,33 @@
 // What the Journal menu does with backups, as a person works it.
-#include "app/frmMain.h"
 #include "backup/backupplace.h"
 #include "backup/backupsettings.h"
 #include "backup/makebackup.h"
 #include "backupsamples.h"
-#include "dayjournal.h"
 #include "goals/goals.h"
+#include "mainwindowtest.h"
 
-#include <QAccessible>
-#include <QAction>
 #include <QFileDialog>
 #include <QLabel>
 #include <QListWidget>
 
 using namespace Qt::Literals;
 
-class tst_backupwindows : public QObject
+class tst_backupwindows : public MainWindowTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { m_window.reset(); }
+    void init()
+    {
+        open("insert into MealConsume values (-1, 3, 46224, 0.5, 1), (1, 3, 46225, 0.5, 1)",
+             QLocale(QLocale::German, QLocale::Germany));
+    }
     void backsUpIntoAChosenFolder();
     void restoresAndTakesItBack();
     void tellsWhyItCantRestore();
 
 private:
-    void inWindow(const char *menuEntry, const char *dialog,
-                  const std::function<void(QWidget &)> &steps)
-    {
-        inDialog(
-            dialog, [&] { control<QAction>(*m_window, menuEntry).trigger(); }, steps);
-    }
     QString folder(const QString &name) { return m_journal->folder.filePath(name); }
-
-    std::unique_ptr<DayJournal> m_journal;
-    std::unique_ptr<frmMain> m_window;
 };
 
 namespace {
@@ -48,15 +39,6 @@ void chooseInFileDialog(QWidget &dialog, const QString &path)
 }
 
 } // namespace
-
-void tst_backupwindows::init()
-{
-    m_journal = std::make_unique<DayJournal>(QLocale(QLocale::German, QLocale::Germany));
-    m_journal->exec("insert into MealConsume values (-1, 3, 46224, 0.5, 1), (1, 3, 46225, 0.5, 1)");
-    m_window = std::make_unique<frmMain>(*m_journal->session, m_journal->messages);
-    m_window->show();
-    activate(*m_window);
-}
 
 void tst_backupwindows::backsUpIntoAChosenFolder()
 {
@@ -105,10 +87,7 @@ void tst_backupwindows::restoresAndTakesItBack()
     m_journal->clock.setNow(today);
     m_journal->session->setCurrentDate(today.date().addDays(-1)); // where both hold a meal
     const QStringList before = contentsOf(m_journal->data->Con);
-    auto *chart = QAccessible::queryAccessibleInterface(&control<QWidget>(*m_window, "graph"));
-    const auto eaten = [chart] {
-        return chart->text(QAccessible::Description).section(u' ', 1, 1);
-    };
+    const auto eaten = [this] { return chartText().section(u' ', 1, 1); };
     QCOMPARE(eaten(), u"750"_s);
 
     inWindow("mnuRestore", "frmRestore", [&](QWidget &window) {
@@ -138,7 +117,7 @@ void tst_backupwindows::restoresAndTakesItBack()
     QCOMPARE(kept.time, today);
     QVERIFY(m_journal->messages.takeText().contains(QDir::toNativeSeparators(kept.folder)));
     QCOMPARE(contentsOf(kept.folder), before);
-    auto &undo = control<QAction>(*m_window, "mnuUndo");
+    auto &undo = entry("mnuUndo");
     QCOMPARE(undo.text(), u"&Undo Restoring a Backup"_s);
     undo.trigger();
     QCOMPARE(contentsOf(m_journal->data->Con), before);

@@ -1,10 +1,8 @@
 // Setting goals as a person does it, and what the day's chart says of them.
-#include "app/frmMain.h"
 #include "goals/goals.h"
+#include "mainwindowtest.h"
 #include "redraws.h"
 
-#include <QAccessible>
-#include <QAction>
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
@@ -13,54 +11,37 @@
 
 using namespace Qt::Literals;
 
-class tst_goalswindow : public QObject
+class tst_goalswindow : public MainWindowTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    // Eaten 30 of what the body burns at 60 an hour; on a German machine.
+    void init()
+    {
+        open("insert into MealConsume values (1, 1, 46225, 0.25, 1);"
+             "insert into Body values (1, 46220, 80, 90, 80, 95, 'M');"
+             "update Common set metabolicRate = 60",
+             QLocale(QLocale::German, QLocale::Germany));
+    }
     void setsThemAndTheChartTells();
     void refusesWhatIsNone();
     void saysWhatIsTooFast();
 
 private:
-    void open(const std::function<void(QWidget &)> &steps)
-    {
-        inDialog(
-            "frmGoals", [&] { control<QAction>(*m_window, "mnuGoals").trigger(); }, steps);
-    }
     Goals goals() const { return goalsOf(installationOf(m_journal->data->Con)); }
     QString budgetSaid()
     {
-        const QString said =
-            QAccessible::queryAccessibleInterface(&control<QWidget>(*m_window, "graph"))
-                ->text(QAccessible::Description);
+        const QString said = chartText();
         return said.contains(u"budget"_s) ? said.mid(said.indexOf(u"Of a budget"_s)) : QString();
     }
-
-    std::unique_ptr<DayJournal> m_journal;
-    std::unique_ptr<frmMain> m_window;
 };
-
-// Eaten 30 of what the body burns at 60 an hour; on a German machine.
-void tst_goalswindow::init()
-{
-    m_window.reset();
-    m_journal = std::make_unique<DayJournal>(QLocale(QLocale::German, QLocale::Germany));
-    m_journal->exec("delete from MealConsume; delete from ExercisePerform; delete from Body;"
-                    "insert into MealConsume values (1, 1, 46225, 0.25, 1);"
-                    "insert into Body values (1, 46220, 80, 90, 80, 95, 'M');"
-                    "update Common set metabolicRate = 60");
-    m_journal->session->readCommonParameters();
-    m_window = std::make_unique<frmMain>(*m_journal->session, m_journal->messages);
-    m_window->show();
-}
 
 void tst_goalswindow::setsThemAndTheChartTells()
 {
     QCOMPARE(budgetSaid(), QString());
     const Redraws redraws(*m_journal);
-    open([&](QWidget &window) {
+    inWindow("mnuGoals", "frmGoals", [&](QWidget &window) {
         typeInto(control<QLineEdit>(window, "txtWeight"), u"76,5"_s);
         typeInto(control<QLineEdit>(window, "txtWaist"), u"75"_s);
         control<QRadioButton>(window, "optDeficit").click();
@@ -76,16 +57,17 @@ void tst_goalswindow::setsThemAndTheChartTells()
     QVERIFY(goals() == set);
     QCOMPARE(redraws.count(), 1);
     QCOMPARE(budgetSaid(), u"Of a budget of 1.000 kcal, 970 kcal are left."_s);
-    open([&](QWidget &window) { // shown as they were set, and one of them changed
-        QCOMPARE(control<QLineEdit>(window, "txtWeight").text(), u"76,5"_s);
-        QCOMPARE(control<QLineEdit>(window, "txtDeficit").text(), u"440"_s);
-        QVERIFY(!control<QCheckBox>(window, "chkDate").isChecked());
-        control<QRadioButton>(window, "optBudget").click();
-        typeInto(control<QLineEdit>(window, "txtBudget"), u"20"_s);
-        press(window, "btnOK");
-    });
+    inWindow("mnuGoals", "frmGoals",
+             [&](QWidget &window) { // shown as they were set, and one of them changed
+                 QCOMPARE(control<QLineEdit>(window, "txtWeight").text(), u"76,5"_s);
+                 QCOMPARE(control<QLineEdit>(window, "txtDeficit").text(), u"440"_s);
+                 QVERIFY(!control<QCheckBox>(window, "chkDate").isChecked());
+                 control<QRadioButton>(window, "optBudget").click();
+                 typeInto(control<QLineEdit>(window, "txtBudget"), u"20"_s);
+                 press(window, "btnOK");
+             });
     QCOMPARE(budgetSaid(), u"Of a budget of 20 kcal, 10 kcal too much was eaten."_s);
-    open([&](QWidget &window) {
+    inWindow("mnuGoals", "frmGoals", [&](QWidget &window) {
         control<QRadioButton>(window, "optNoBudget").click();
         press(window, "btnOK");
     });
@@ -95,35 +77,23 @@ void tst_goalswindow::setsThemAndTheChartTells()
 
 void tst_goalswindow::refusesWhatIsNone()
 {
-    struct Wrong
-    {
-        const char *box;
-        QString text;
-        QString message;
-    };
-    const std::vector<Wrong> wrong = {
-        {"txtWeight", u"x"_s, u"The Weight field contains illegal data"_s},
-        {"txtWeight", u"0"_s, u"The Weight must be more than 0 and at most 1000"_s},
-        {"txtHips", u"501"_s, u"The Hips must be more than 0 and at most 500"_s},
-        {"txtBudget", {}, u"The Daily Budget must be a whole number from 1 to 20000"_s},
-        {"txtBudget", u"1,5"_s, u"The Daily Budget must be a whole number from 1 to 20000"_s},
-        {"txtBudget", u"20001"_s, u"The Daily Budget must be a whole number from 1 to 20000"_s},
-    };
-    open([&](QWidget &window) {
+    const QString budget = u"The Daily Budget must be a whole number from 1 to 20000"_s;
+    inWindow("mnuGoals", "frmGoals", [&](QWidget &window) {
         control<QRadioButton>(window, "optDeficit").click();
-        typeInto(control<QLineEdit>(window, "txtDeficit"), u"x"_s); // not looked at in the end
+        type(window, "txtDeficit", u"x"_s); // not looked at in the end
         control<QRadioButton>(window, "optBudget").click();
-        typeInto(control<QLineEdit>(window, "txtBudget"), u"1800"_s);
-        for (const auto &[name, text, message] : wrong) {
-            auto &box = control<QLineEdit>(window, name);
-            const QString before = box.text();
-            typeInto(box, text);
-            press(window, "btnOK");
-            QCOMPARE(m_journal->messages.takeText(), message);
-            QVERIFY(window.isVisible() && box.hasFocus());
-            QCOMPARE(box.text(), text);
-            typeInto(box, before);
-        }
+        type(window, "txtBudget", u"1,5"_s);
+        type(window, "txtHips", u"501"_s);
+        type(window, "txtWeight", u"x"_s);
+        m_journal->refuses(window, "txtWeight", u"The Weight field contains illegal data"_s,
+                           u"0"_s);
+        m_journal->refuses(window, "txtWeight",
+                           u"The Weight must be more than 0 and at most 1000"_s, {});
+        m_journal->refuses(window, "txtHips", u"The Hips must be more than 0 and at most 500"_s,
+                           {});
+        m_journal->refuses(window, "txtBudget", budget, u"20001"_s);
+        m_journal->refuses(window, "txtBudget", budget, {});
+        m_journal->refuses(window, "txtBudget", budget, u"1800"_s);
         press(window, "btnCancel");
     });
     QVERIFY(goals().isEmpty());
@@ -131,7 +101,7 @@ void tst_goalswindow::refusesWhatIsNone()
 
 void tst_goalswindow::saysWhatIsTooFast()
 {
-    open([&](QWidget &window) {
+    inWindow("mnuGoals", "frmGoals", [&](QWidget &window) {
         const auto &pace = control<QLabel>(window, "lblPace");
         typeInto(control<QLineEdit>(window, "txtWeight"), u"72"_s);
         QCOMPARE(pace.text(), QString());
