@@ -10,6 +10,7 @@
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMealCategory.h"
 #include "catalogue/frmMeals.h"
+#include "data/identifiers.h"
 #include "exchange/frmImport.h"
 #include "faultyfiles.h"
 #include "journal/frmBody.h"
@@ -446,21 +447,20 @@ QStringList carriedOut(const Action &action)
     return numberless(stored(journal->path()));
 }
 
-void storesTheNext(DayJournal &journal, const Action &refused)
+// As a window would: nothing that the refused action left is in its way.
+void storesTheNext(DayJournal &journal)
 {
-    Try undisturbed{journal, Fault::Busy, 0, false};
-    const bool wasNote = QLatin1String(refused.name).contains("note"_L1);
-    const Action next = wasNote ? storing<frmMealCategory>("next", {}, 0, {{"txtName", u"Next"_s}})
-                                : storing<frmUserNote>("next", {}, 0,
-                                                       {{"dtpDateTo", u"2030-01-01"_s},
-                                                        {"dtpDateFrom", u"2030-01-01"_s},
-                                                        {"txtNote", u"Next"_s}});
-    next.run(undisturbed);
-    QCOMPARE(journal.messages.takeText(), QString());
+    Recordset &notes = journal.data->rsUserNote;
+    notes.reopen({0});
+    notes.addNew();
+    notes.set(schema::UserNote::UserNoteID, NewUserNoteID(*journal.data));
+    for (const auto &day : {schema::UserNote::DateFrom, schema::UserNote::DateTo})
+        notes.set(day, 50000);
+    notes.set(schema::UserNote::NoteText, u"Next"_s);
+    notes.update();
     QVERIFY(!QFile::exists(journal.path() + u"-journal"_s));
-    QVERIFY(stored(journal.path()).join(u'\n').contains(u"Next"_s));
-    journal.exec("delete from UserNote where NoteText = 'Next';"
-                 "delete from MealCategory where Name = 'Next'");
+    QVERIFY(stored(journal.path()).join(u'\n').contains(u"50000|Next"_s));
+    journal.exec("delete from UserNote where NoteText = 'Next'");
 }
 
 // Whether the action was carried out; what was found afterwards is looked at either way.
@@ -492,7 +492,7 @@ bool isSurvivedBy(DayJournal &journal, const Action &action, Try &attempt)
                 rows->removeIf([&](const QString &row) { return gone.match(row).hasMatch(); });
         }
         QCOMPARE(now, whole);
-        storesTheNext(journal, action);
+        storesTheNext(journal);
     }();
     return refused == said.end() || attempt.fault == Fault::Unsynchronized;
 }
