@@ -5,8 +5,6 @@
 #include "catalogue/frmMealCategories.h"
 #include "catalogue/frmMeals.h"
 
-#include <QLabel>
-
 namespace {
 
 /// Name of the selected row; empty for none.
@@ -31,7 +29,6 @@ private slots:
     void categories();
     void activities();
     void meals();
-    void columnsShowTheirWidestText();
 
 private:
     std::unique_ptr<DayJournal> journal;
@@ -126,38 +123,6 @@ void tst_cataloguelists::meals()
         QCOMPARE(selected(window), "Crème brûlée");
     });
     QCOMPARE(journal->row("select MealCategoryID from Meal where MealID = 3"), "1");
-}
-
-// Of all rows; but one that would push the numbers out of sight is told by its tooltip.
-void tst_cataloguelists::columnsShowTheirWidestText()
-{
-    journal->exec(
-        "with recursive numbers(n) as (select 100 union all select n + 1 from numbers limit"
-        " 1500) insert into Meal select n, 1, 'Z' || n, 'cup', 1, 1, 1, 1, 1, 1, 1, 1, 1"
-        " from numbers;"
-        "update Meal set Unit = 'cup with milk, sugar and a biscuit' where MealID = 700;"
-        "update Meal set Name = 'Z' || replace(hex(zeroblob(300)), '00', 'x')"
-        " where MealID = 1599");
-    journal->inList<frmMeals>([](QWidget &window) {
-        window.resize(window.width() * 2, window.height()); // room for both
-        choose(window, "dcbMealCategory", "Fruit");
-        const auto &view = control<QTreeView>(window, "lvwList");
-        const auto widthOf = [&view](const QString &text) {
-            return view.fontMetrics().horizontalAdvance(text);
-        };
-        QVERIFY(view.columnWidth(1) > widthOf("cup with milk, sugar and a biscuit"));
-        const QModelIndex last = view.model()->index(1501, 0);
-        const QString tooWide = last.data().toString();
-        QCOMPARE(tooWide.size(), 301);
-        const int width = view.columnWidth(0);
-        QVERIFY(width < widthOf(tooWide) / 2);
-        QLabel box(last.data(Qt::ToolTipRole).toString());
-        box.setWordWrap(true);
-        QVERIFY(box.sizeHint().width() < widthOf(tooWide) / 2);
-        QVERIFY(box.text().remove(QChar(0x200B)).contains(tooWide));
-        choose(window, "dcbMealCategory", "Dairy");
-        QCOMPARE(view.columnWidth(0), width); // they stand still
-    });
 }
 
 QTEST_MAIN(tst_cataloguelists)

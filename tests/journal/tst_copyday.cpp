@@ -19,27 +19,24 @@ class tst_copyday : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { open(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
-    void copiesWhatIsChecked();
-    void shiftsWithinTheDay();
-    void worksByKeysAlone();
-    void speaksTheUsersLocale();
-    void refusesWhatItCantCopy();
-    void storesAllOrNothing();
-    void takesNothingThatChangedMeanwhile();
-    void showsWhatItCanRead();
-    void copiesToADay();
-
-private:
     /// Yesterday, 21 July, has three entries and the day shown none.
-    void open(const QLocale &locale)
+    void init()
     {
-        journal = std::make_unique<DayJournal>(locale);
+        journal = std::make_unique<DayJournal>();
         journal->exec("insert into MealConsume values (7, 3, 46224, 0.75, 1.5),"
                       " (-2, 1, 46224, 0.25, 0.25);"
                       "insert into ExercisePerform values (4, 2, 46224, 0.5, 0.53125, 45);"
                       "update Common set NextMealConsumeID = 10, NextExercisePerformID = 20");
     }
+    void copiesWhatIsChecked();
+    void shiftsWithinTheDay();
+    void worksByKeysAlone();
+    void refusesWhatItCantCopy();
+    void takesNothingThatChangedMeanwhile();
+    void showsWhatItCanRead();
+    void copiesToADay();
+
+private:
     /// The steps in the window; what it says it has copied.
     QString copyDay(const std::function<void(QWidget &)> &steps)
     {
@@ -121,15 +118,12 @@ void tst_copyday::shiftsWithinTheDay()
         QVERIFY(control<QRadioButton>(window, "optShift").isChecked()); // by typing
     };
     copyDay([&](QWidget &window) {
-        const QString illegal =
-            u"The span should be hours and minutes, such as 1:30, and less than a day"_qs;
-        for (const char *span : {"", "1,5", "24:00"}) {
-            shiftBy(window, span, "later");
-            refuses(window, illegal, "txtSpan");
-            QCOMPARE(textOf(window, "txtSpan"), QString(span));
-        }
-        const QString leaves = u"%1 would leave the day when shifted by this span. Nothing was "
-                               "copied."_qs;
+        shiftBy(window, "24:00", "later");
+        refuses(window, "The span should be hours and minutes, such as 1:30, and less than a day",
+                "txtSpan");
+        QCOMPARE(textOf(window, "txtSpan"), "24:00");
+        const QString leaves = "%1 would leave the day when shifted by this span. Nothing was "
+                               "copied.";
         shiftBy(window, "6:00", "later"); // to 24:00
         refuses(window, leaves.arg("Crème brûlée at 18:00"), "txtSpan");
         shiftBy(window, "6:01", "earlier");
@@ -140,7 +134,6 @@ void tst_copyday::shiftsWithinTheDay()
         refuses(window, leaves.arg("Walking at 12:00"), "txtSpan");
         shiftBy(window, "11:14", "later");
         press(window, "btnOK");
-        QVERIFY(!window.isVisible());
     });
     QCOMPARE(journal->activities().last(), "21|2|46225|1394|1439|45");
     copyDay([&](QWidget &window) {
@@ -150,10 +143,8 @@ void tst_copyday::shiftsWithinTheDay()
     QCOMPARE(journal->meals().mid(2), (QStringList{"11|1|46225|0|0.25", "12|3|46225|720|1.5"}));
     QCOMPARE(journal->activities().last(), "22|2|46225|360|405|45");
     copyDay([&](QWidget &window) {
-        shiftBy(window, "1:00", "later");
+        shiftBy(window, "nonsense", "later");
         control<QRadioButton>(window, "optKeep").click(); // whatever span is left there
-        type(window, "txtSpan", "nonsense");
-        control<QRadioButton>(window, "optKeep").click();
         press(window, "btnOK");
     });
     QCOMPARE(journal->meals().last(), "14|3|46225|1080|1.5");
@@ -163,32 +154,24 @@ void tst_copyday::worksByKeysAlone()
 {
     const QString told = copyDay([&](QWidget &window) {
         auto &list = control<QTreeView>(window, "lvwList");
+        auto &state = control<QLabel>(window, "lblState");
         QCOMPARE(QApplication::focusWidget(), &list);
         pressKey(Qt::Key_D, Qt::AltModifier); // to the picker
         typeKeys("^20/07/2026");
         pressKey(Qt::Key_Return); // shows the day, and copies nothing
-        QVERIFY(window.isVisible());
+        QVERIFY(window.isVisible() && state.isVisible());
         QCOMPARE(shown(window), QStringList());
-        QCOMPARE(control<QLabel>(window, "lblState").text(), "Nothing is recorded on 20 Jul 2026");
-        QVERIFY(control<QLabel>(window, "lblState").isVisible());
-        pressKey(Qt::Key_Return);
-        QCOMPARE(journal->messages.takeText(), "No entry is checked");
+        QCOMPARE(state.text(), "Nothing is recorded on 20 Jul 2026");
         pressKey(Qt::Key_D, Qt::AltModifier);
         typeKeys("^21/07/2026");
         pressKey(Qt::Key_O, Qt::AltModifier); // Copy, and yet the day is to be seen first
         QTRY_COMPARE(QApplication::focusWidget(), &list);
-        QVERIFY(window.isVisible());
+        QVERIFY(window.isVisible() && !state.isVisible());
         QCOMPARE(shown(window).size(), 3);
-        QVERIFY(!control<QLabel>(window, "lblState").isVisible());
-        pressKey(Qt::Key_N, Qt::AltModifier);
-        const auto box = [&](int row) {
-            return list.model()->index(row, 0).data(Qt::CheckStateRole).toInt();
-        };
-        QTRY_COMPARE(box(2), int(Qt::Unchecked));
+        press(window, "btnCheckNone");
         list.setFocus();
         pressKey(Qt::Key_End);
         pressKey(Qt::Key_Space);
-        QCOMPARE(box(2), int(Qt::Checked));
         pressKey(Qt::Key_S, Qt::AltModifier);
         QTRY_VERIFY(control<QRadioButton>(window, "optShift").isChecked());
         pressKey(Qt::Key_Tab);
@@ -201,30 +184,18 @@ void tst_copyday::worksByKeysAlone()
     QCOMPARE(journal->meals().size(), 2);
 }
 
-void tst_copyday::speaksTheUsersLocale()
-{
-    open(QLocale(QLocale::German, QLocale::Germany));
-    copyDay([](QWidget &window) {
-        QCOMPARE(shown(window).at(1), "18:00|Meal|Crème brûlée|1,5|cup|450");
-        QCOMPARE(control<QDateEdit>(window, "dtpDate").text(), "21.07.2026");
-        press(window, "btnOK");
-    });
-    QCOMPARE(journal->meals().last(), "12|3|46225|1080|1.5");
-    open(QLocale(QLocale::English, QLocale::UnitedStates));
-    copyDay([&](QWidget &window) {
-        QCOMPARE(shown(window).at(1), "6:00 pm|Meal|Crème brûlée|1.5|cup|450");
-        QCOMPARE(shown(window).at(2), "12:00 pm–12:45 pm|Activity|Walking|45|minute|158");
-        type(window, "txtSpan", "12:00"); // twelve hours, and not noon
-        refuses(window,
-                "Crème brûlée at 6:00 pm would leave the day when shifted by this span. Nothing "
-                "was copied.",
-                "txtSpan");
-    });
-}
-
 void tst_copyday::refusesWhatItCantCopy()
 {
+    // At the end of the identifiers, with a meal before the activity that has none left.
+    journal->exec("update Common set NextExercisePerformID = 32767");
     copyDay([&](QWidget &window) {
+        const QStringList before = everything();
+        press(window, "btnOK");
+        QCOMPARE(journal->messages.said.front().cause,
+                 "A number is outside the range of what can be stored.");
+        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
+        QCOMPARE(everything(), before);
+        QVERIFY(!journal->data->Con.isInTransaction());
         press(window, "btnCheckNone");
         refuses(window, "No entry is checked", "lvwList");
         auto &date = control<QDateEdit>(window, "dtpDate");
@@ -233,52 +204,14 @@ void tst_copyday::refusesWhatItCantCopy()
         refuses(window, "The Day to Copy from field contains illegal data", "dtpDate");
         QCOMPARE(date.text(), "21/07");
     });
-    // At the end of the identifiers, with a meal before the activity that has none left.
-    journal->exec("update Common set NextExercisePerformID = 32767");
-    copyDay([&](QWidget &window) {
-        const QStringList before = everything();
-        press(window, "btnOK");
-        QVERIFY(window.isVisible());
-        QCOMPARE(journal->messages.said.front().cause,
-                 "A number is outside the range of what can be stored.");
-        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
-        QCOMPARE(everything(), before);
-        QVERIFY(!journal->data->Con.isInTransaction());
-        // What needs none is stored.
-        turn(window, 2);
-        press(window, "btnOK");
-        QVERIFY(!window.isVisible());
-    });
-    QCOMPARE(journal->meals().size(), 4);
-}
-
-void tst_copyday::storesAllOrNothing()
-{
-    const QSignalSpy changed(journal->session.get(), &Session::recordsChanged);
-    journal->exec("create trigger late before insert on ExercisePerform"
-                  " begin select raise(abort, 'no'); end");
-    copyDay([&](QWidget &window) {
-        const QStringList before = journal->meals() + journal->activities();
-        turn(window, 0);
-        press(window, "btnOK");
-        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
-        QCOMPARE(journal->meals() + journal->activities(), before);
-        QVERIFY(!journal->session->history().next(Direction::Backward));
-        QCOMPARE(changed.count(), 0);
-        // The choice is still there.
-        QVERIFY(!turn(window, 0));
-        journal->exec("drop trigger late");
-        press(window, "btnOK");
-        QVERIFY(!window.isVisible());
-    });
-    QCOMPARE(journal->meals().size(), 4);
-    QCOMPARE(journal->activities().size(), 2);
 }
 
 void tst_copyday::takesNothingThatChangedMeanwhile()
 {
+    const QSignalSpy announced(journal->session.get(), &Session::recordsChanged);
     Connection other(journal->path());
     copyDay([&](QWidget &window) {
+        turn(window, 0);
         const std::pair<const char *, const char *> changes[] = {
             {"update MealConsume set Qty = 2 where MealConsumeID = 7",
              "Another program has changed an entry meanwhile."},
@@ -292,8 +225,11 @@ void tst_copyday::takesNothingThatChangedMeanwhile()
             QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
             QCOMPARE(journal->meals() + journal->activities(), before);
         }
+        QVERIFY(!journal->session->history().next(Direction::Backward));
+        QCOMPARE(announced.count(), 0);
         QCOMPARE(shown(window), (QStringList{"06:00|Meal|Apple|0.25|piece|7",
                                              "12:00–12:45|Activity|Walking|45|minute|158"}));
+        QVERIFY(!turn(window, 0)); // the choice is still there
         press(window, "btnOK");
         QVERIFY(!window.isVisible());
     });
@@ -332,7 +268,6 @@ void tst_copyday::copiesToADay()
     journal->session->setCurrentDate(QDate(2026, 7, 21));
     journal->inList<frmMealConsumes>([&](QWidget &window) {
         const auto choose = [&](const char *entry) { control<QAction>(window, entry).trigger(); };
-        const auto told = [&] { return control<QLabel>(window, "lblTold").text(); };
         selectRow(window, 3); // the totals
         for (const char *entry : {"mnuCopyToday", "mnuCopyTo", "mnuShowSubject"}) {
             choose(entry);
@@ -341,12 +276,11 @@ void tst_copyday::copiesToADay()
         selectRow(window, 1);
         choose("mnuCopyToday");
         QCOMPARE(journal->meals().last(), "11|3|46225|1080|1.5");
-        QCOMPARE(told(), "Crème brûlée copied to 22 Jul 2026");
+        QCOMPARE(control<QLabel>(window, "lblTold").text(), "Crème brûlée copied to 22 Jul 2026");
         QCOMPARE(selectedRow(window), 1);
         inDialog(
             "frmCopyTo", [&] { choose("mnuCopyTo"); },
             [&](QWidget &dialog) {
-                QCOMPARE(dialog.windowTitle(), "Copy Crème brûlée");
                 auto &date = control<QDateEdit>(dialog, "dtpDate");
                 QCOMPARE(date.date(), QDate(2026, 7, 22));
                 QTRY_COMPARE(QApplication::focusWidget(), &date);
@@ -359,7 +293,6 @@ void tst_copyday::copiesToADay()
                 QVERIFY(!dialog.isVisible());
             });
         QCOMPARE(journal->meals().last(), "12|3|46224|1080|1.5");
-        QCOMPARE(shown(window).size(), 5);
         QCOMPARE(selectedRow(window), 2); // the copy, on the day shown
         inDialog(
             "frmMeal", [&] { choose("mnuShowSubject"); },
@@ -369,11 +302,9 @@ void tst_copyday::copiesToADay()
                 press(editor, "btnOK");
             });
         QCOMPARE(selectedRow(window), 2);
-        QCOMPARE(told(), QString());
         journal->exec("delete from MealConsume where MealConsumeID = 12");
         choose("mnuCopyToday");
         QCOMPARE(journal->messages.said.front().cause, "The record has been deleted meanwhile.");
-        QCOMPARE(journal->messages.takeText(), "The copy can't be stored");
         QCOMPARE(shown(window).size(), 4);
     });
     UndoHistory &history = journal->session->history();

@@ -4,9 +4,7 @@
 #include "journal/frmExercisePerforms.h"
 #include "journal/frmMealConsumes.h"
 
-#include <QContextMenuEvent>
 #include <QDateEdit>
-#include <QMenu>
 #include <QSignalSpy>
 
 class tst_daylists : public QObject
@@ -25,7 +23,6 @@ private slots:
                       "update Common set NextMealConsumeID = 6");
     }
     void meals();
-    void contextMenu();
     void activities();
     void followsTheDate();
 
@@ -60,36 +57,6 @@ void tst_daylists::meals()
     });
     QCOMPARE(journal->rows("select MealConsumeID from MealConsume order by 1"),
              (QStringList{"1", "3", "4"}));
-}
-
-void tst_daylists::contextMenu()
-{
-    journal->inList<frmMealConsumes>([&](QWidget &window) {
-        auto &list = control<QTreeView>(window, "lvwList");
-        // Of a row under the pointer, which it selects, or by the menu key of the selected one.
-        const auto chooseFrom = [&list](QContextMenuEvent::Reason reason, int row, Qt::Key entry) {
-            const QPoint at = list.visualRect(list.model()->index(row, 1)).center();
-            if (reason == QContextMenuEvent::Mouse)
-                QTest::mouseClick(list.viewport(), Qt::RightButton, {}, at);
-            QTimer::singleShot(0, &list, [entry] {
-                QVERIFY(qobject_cast<QMenu *>(QApplication::activePopupWidget()));
-                pressKey(entry);
-            });
-            QContextMenuEvent event(reason, at, list.viewport()->mapToGlobal(at));
-            QApplication::sendEvent(list.viewport(), &event);
-        };
-        QString edited;
-        inDialog(
-            "frmMealConsume", [&] { chooseFrom(QContextMenuEvent::Mouse, 1, Qt::Key_E); },
-            [&](QWidget &editor) { edited = textOf(editor, "txtQty"); });
-        QCOMPARE(edited, "0.25");
-        QCOMPARE(selectedRow(window), 1);
-        journal->messages.answers = {true};
-        chooseFrom(QContextMenuEvent::Keyboard, 1, Qt::Key_D);
-        QCOMPARE(shown(window).size(), 4);
-    });
-    QCOMPARE(journal->rows("select MealConsumeID from MealConsume order by 1"),
-             (QStringList{"2", "3", "4"}));
 }
 
 void tst_daylists::activities()

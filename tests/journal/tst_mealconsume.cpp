@@ -1,6 +1,7 @@
-// The meal consumption editor.
+// The editors of meals eaten and of activities performed.
 #include "dayjournal.h"
 
+#include "journal/frmExercisePerform.h"
 #include "journal/frmMealConsume.h"
 
 #include <QAbstractItemView>
@@ -35,6 +36,12 @@ QString offeredIn(QWidget &editor)
     return lines.join('|');
 }
 
+void typeTimes(QWidget &editor, const QString &begin, const QString &end)
+{
+    typeTime(control<QTimeEdit>(editor, "dtpBeginTime"), begin);
+    typeTime(control<QTimeEdit>(editor, "dtpEndTime"), end);
+}
+
 constexpr char everyMeal[] = "Apple Fruit|Apple juice Fruit juice|Banana Fruit|"
                              "Crème brûlée Dairy|Grape Fruit juice";
 
@@ -46,15 +53,14 @@ class tst_mealconsume : public QObject
 
 private slots:
     void init() { makeJournal(QLocale("en_GB")); }
-    void choosesAndRecalculates();
     void checksInOrder();
+    void activityIsCheckedInOrder();
     void takesTypedTime_data();
     void takesTypedTime();
     void createsMeal();
     void mealBringsItsCategory();
     void givesUpTheCategoryWithTheMeal();
     void categoryNarrowsTheMeals();
-    void addsMealsOfAllCategories();
     void readsTheCatalogueOnlyWhenNeeded();
 
 private:
@@ -68,27 +74,6 @@ private:
     }
     std::unique_ptr<DayJournal> journal;
 };
-
-void tst_mealconsume::choosesAndRecalculates()
-{
-    journal->edit<frmMealConsume>(0, [](QWidget &editor) {
-        choose(editor, "dcbMealCategory", "fruit");
-        QCOMPARE(entry(editor), "Apple 1.5 piece 15 22 8 45");
-        auto &quantity = control<QLineEdit>(editor, "txtQty");
-        QTest::keyClick(&quantity, Qt::Key_Up);
-        QCOMPARE(quantity.text(), "1.75");
-        choose(editor, "dcbMeal", "Banana");
-        QCOMPARE(entry(editor), "Banana 1 piece 2 90 4 96");
-        typeInto(quantity, "-0.5");
-        QCOMPARE(entry(editor), "Banana -0.5 piece -1 -45 -2 -48");
-        for (const char *none : {"1,5", "900000000000000"}) { // beyond what is shown
-            typeInto(quantity, none);
-            QCOMPARE(entry(editor), QString("Banana %1 piece").arg(none));
-        }
-        choose(editor, "dcbMealCategory", "Vacant");
-        QCOMPARE(entry(editor), QString());
-    });
-}
 
 void tst_mealconsume::checksInOrder()
 {
@@ -126,7 +111,6 @@ void tst_mealconsume::takesTypedTime_data()
     const auto row = [](const char *name, const char *locale, const char *keys, int minute) {
         QTest::newRow(name) << QString(locale) << QString(keys) << minute;
     };
-    row("digits alone", "en_GB", "2359", 1439);
     row("one digit of the hour", "en_GB", "730", 450);
     row("minutes alone", "en_GB", ">45", 765);
     row("1:30 or 13:0x", "en_GB", "130", -1);
@@ -175,7 +159,7 @@ void tst_mealconsume::createsMeal()
     journal->edit<frmMealConsume>(0, [](QWidget &editor) {
         choose(editor, "dcbMealCategory", "Vacant");
         press(editor, "btnNewMeal", "frmMeal", [](QWidget &meal) {
-            QCOMPARE(control<DataCombo>(meal, "dcbMealCategory").displayedText(), "Vacant");
+            QCOMPARE(categoryIn(meal), "Vacant");
             choose(meal, "dcbMealCategory", "Dairy");
             for (const char *box : {"txtName", "txtUnit"})
                 type(meal, box, "Cheese");
@@ -184,49 +168,39 @@ void tst_mealconsume::createsMeal()
                 type(meal, box, "10");
             press(meal, "btnOK");
         });
-        QCOMPARE(control<DataCombo>(editor, "dcbMealCategory").displayedText(), "Dairy");
+        QCOMPARE(categoryIn(editor), "Dairy");
         QCOMPARE(entry(editor).left(15), "Cheese 2 Cheese");
+        choose(editor, "dcbMealCategory", "");
+        choose(editor, "dcbMeal", "Grape"); // which brings its category
+        press(editor, "btnNewMeal", "frmMeal",
+              [](QWidget &meal) { QCOMPARE(categoryIn(meal), "Fruit juice"); });
+        QCOMPARE(entry(editor), "Grape 1 glass 0 60 1 61");
         press(editor, "btnOK");
     });
-    QCOMPARE(journal->row("select Name, Qty from MealConsume natural join Meal"), "Cheese|2");
-    journal->edit<frmMealConsume>(
-        0, [](QWidget &editor) { // beside a meal that brought its category
-            choose(editor, "dcbMeal", "Grape");
-            press(editor, "btnNewMeal", "frmMeal", [](QWidget &meal) {
-                QCOMPARE(control<DataCombo>(meal, "dcbMealCategory").displayedText(),
-                         "Fruit juice");
-            });
-            QCOMPARE(categoryIn(editor), "Fruit juice");
-            QCOMPARE(entry(editor), "Grape 1 glass 0 60 1 61");
-            press(editor, "btnOK");
-        });
-    QCOMPARE(journal->row("select MealID from MealConsume where MealConsumeID = 3"), "10");
+    QCOMPARE(journal->meals(), QStringList{"2|10|46225|750|1"});
+    QCOMPARE(journal->row("select DefaultQty from Meal where Name = 'Cheese'"), "2");
 }
 
 // However it is chosen: the category follows, and neither its first meal nor its quantity comes.
 void tst_mealconsume::mealBringsItsCategory()
 {
     makeJournal(QLocale("de_DE"));
-    const std::function<void(QWidget &, DataCombo &)> ways[] = {
-        [](QWidget &, DataCombo &) {
+    const std::function<void(DataCombo &)> ways[] = {
+        [](DataCombo &) {
             typeKeys("rap");
             pressKey(Qt::Key_Return);
         },
-        [](QWidget &, DataCombo &) {
+        [](DataCombo &) {
             typeKeys("ap"); // Apple, Apple juice, Grape
             pressKey(Qt::Key_Down);
             pressKey(Qt::Key_Down);
             pressKey(Qt::Key_Tab);
         },
-        [](QWidget &, DataCombo &) {
+        [](DataCombo &) {
             typeKeys("GRAPE");
             pressKey(Qt::Key_Escape);
         },
-        [](QWidget &window, DataCombo &meal) {
-            meal.clearFocus();
-            choose(window, "dcbMeal", "Grape");
-        },
-        [](QWidget &, DataCombo &meal) {
+        [](DataCombo &meal) {
             meal.showPopup();
             const QAbstractItemView &list = *meal.view();
             const QRect row = list.visualRect(list.model()->index(meal.findText("Grape"), 0));
@@ -240,11 +214,10 @@ void tst_mealconsume::mealBringsItsCategory()
             pressKey(Qt::Key_Tab);
             QCOMPARE(offeredIn(editor), everyMeal);
             QCOMPARE(textOf(editor, "txtQty"), "3");
-            way(editor, control<DataCombo>(editor, "dcbMeal"));
+            way(control<DataCombo>(editor, "dcbMeal"));
             QCOMPARE(categoryIn(editor), "Fruit juice");
             QCOMPARE(entry(editor).toLower(), "grape 1 glass 0 60 1 61");
             type(editor, "txtQty", "1,5");
-            QVERIFY(entry(editor).endsWith("0 90 2 92"));
             pressKey(Qt::Key_Up);
             press(editor, "btnOK");
         });
@@ -262,11 +235,9 @@ void tst_mealconsume::givesUpTheCategoryWithTheMeal()
         pressKey(Qt::Key_Escape); // what is typed there is no category
         control<DataCombo>(editor, "dcbMeal").setFocus();
         typeKeys("apple");
-        QCOMPARE(categoryIn(editor), "Fruit");
-        QCOMPARE(entry(editor), "apple 1.5 piece 15 22 8 45");
+        QCOMPARE(categoryIn(editor) + " " + entry(editor), "Fruit apple 1.5 piece 15 22 8 45");
         typeKeys(" ");
-        QCOMPARE(categoryIn(editor), "Vac");
-        QCOMPARE(entry(editor), "apple");
+        QCOMPARE(categoryIn(editor) + " " + entry(editor), "Vac apple");
         typeKeys("<");
         pressKey(Qt::Key_Down);
         QCOMPARE(categoryIn(editor), "Fruit juice");
@@ -278,12 +249,7 @@ void tst_mealconsume::givesUpTheCategoryWithTheMeal()
         pressKey(Qt::Key_Down);
         QCOMPARE(categoryIn(editor), "Fruit juice");
         pressKey(Qt::Key_Escape);
-        QCOMPARE(categoryIn(editor), "Vac");
-        QCOMPARE(entry(editor), "ap");
-        typeKeys("^"); // in another category, while still in the chooser
-        typeKeys("crem");
-        pressKey(Qt::Key_Return);
-        QCOMPARE(categoryIn(editor), "Dairy");
+        QCOMPARE(categoryIn(editor) + " " + entry(editor), "Vac ap");
         control<DataCombo>(editor, "dcbMealCategory").setFocus();
         typeKeys("^Fru ");
         pressKey(Qt::Key_Escape); // it is what is typed there now
@@ -299,13 +265,11 @@ void tst_mealconsume::givesUpTheCategoryWithTheMeal()
 // Once there is a category, it counts wherever it came from; without one all meals are back.
 void tst_mealconsume::categoryNarrowsTheMeals()
 {
-    journal->edit<frmMealConsume>(0, [this](QWidget &editor) {
+    journal->edit<frmMealConsume>(0, [](QWidget &editor) {
         auto &category = control<DataCombo>(editor, "dcbMealCategory");
-        auto &meal = control<DataCombo>(editor, "dcbMeal");
         const auto enterMeals = [&] {
             category.setFocus();
             pressKey(Qt::Key_Tab);
-            QVERIFY(meal.hasFocus());
         };
         enterMeals();
         typeKeys("banana");
@@ -319,49 +283,18 @@ void tst_mealconsume::categoryNarrowsTheMeals()
         choose(editor, "dcbMealCategory", "Fruit juice");
         QCOMPARE(entry(editor).left(17), "Apple juice 2.5 g");
         QCOMPARE(offeredIn(editor), "Apple juice|Grape");
-
         category.setFocus();
         typeKeys("^<");
         type(editor, "txtQty", "7");
         enterMeals();
-        QCOMPARE(categoryIn(editor), QString());
         QCOMPARE(offeredIn(editor), everyMeal);
-        QCOMPARE(entry(editor), "Apple juice 7 glass 0 280 14 294");
-        journal->refuses(editor, "dcbMealCategory",
-                         "The Meal Category is not specified or specified incorrect", "x");
-        enterMeals();
+        QCOMPARE(categoryIn(editor) + entry(editor), "Apple juice 7 glass 0 280 14 294");
         pressKey(Qt::Key_F4);
         pressKey(Qt::Key_Return); // the same meal once more, of which as much was eaten
         QCOMPARE(categoryIn(editor), "Fruit juice");
         press(editor, "btnOK");
     });
     QCOMPARE(journal->meals(), QStringList{"2|9|46225|750|7"});
-}
-
-void tst_mealconsume::addsMealsOfAllCategories()
-{
-    frmMealConsume window(*journal->session, journal->messages);
-    window.setAddMode(true);
-    const auto steps = [&](QWidget &editor) {
-        for (const char *part : {"banana", "grape", "brul"}) {
-            control<DataCombo>(editor, "dcbMeal").setFocus();
-            QCOMPARE(offeredIn(editor), everyMeal);
-            typeKeys(part);
-            pressKey(Qt::Key_Tab);
-            press(editor, "btnOK");
-            QCOMPARE(categoryIn(editor) + entry(editor), QString());
-            QVERIFY(control<DataCombo>(editor, "dcbMealCategory").hasFocus());
-        }
-        choose(editor, "dcbMealCategory", "Fruit");
-        press(editor, "btnOK");
-        control<DataCombo>(editor, "dcbMeal").showPopup();
-        QCOMPARE(offeredIn(editor).count('|'), 4);
-    };
-    inDialog(
-        "frmMealConsume", [&] { window.run(0); }, steps);
-    QCOMPARE(journal->messages.takeText(), QString());
-    QCOMPARE(journal->meals(), (QStringList{"2|2|46225|750|1", "3|10|46225|750|1",
-                                            "4|3|46225|750|1", "5|1|46225|750|1.5"}));
 }
 
 void tst_mealconsume::readsTheCatalogueOnlyWhenNeeded()
@@ -371,23 +304,51 @@ void tst_mealconsume::readsTheCatalogueOnlyWhenNeeded()
     journal->edit<frmMealConsume>(5, [&](QWidget &editor) {
         control<DataCombo>(editor, "dcbMeal").setFocus();
         QCOMPARE(offeredIn(editor), "Apple juice|Grape");
-        QCOMPARE(entry(editor), "Grape 7.25 glass 0 435 7 442");
         QVERIFY(!catalogue.isOpen());
     });
     journal->edit<frmMealConsume>(0, [&](QWidget &editor) {
-        QVERIFY(!catalogue.isOpen());
         journal->exec("alter table Meal rename to Unreadable");
         auto &meal = control<DataCombo>(editor, "dcbMeal");
         meal.setFocus();
         QCOMPARE(journal->messages.said.size(), size_t(1));
-        journal->messages.takeText();
         journal->exec("alter table Unreadable rename to Meal");
         control<DataCombo>(editor, "dcbMealCategory").setFocus();
         meal.setFocus();
         QCOMPARE(meal.count(), 5);
     });
-    QCOMPARE(journal->messages.takeText(), QString());
+    QCOMPARE(journal->messages.said.size(), size_t(1));
     QVERIFY(!catalogue.isOpen());
+}
+
+// The editor of activities, where it differs.
+void tst_mealconsume::activityIsCheckedInOrder()
+{
+    journal->edit<frmExercisePerform>(0, [this](QWidget &window) {
+        choose(window, "dcbExercise", "Walk");
+        journal->refuses(window, "dcbExercise",
+                         "The Exercise is not specified or specified incorrect", "");
+        choose(window, "dcbExercise", "Walking");
+        for (const char *end : {"0030", "2300"}) { // across midnight; no time at all
+            typeTimes(window, "2300", end);
+            press(window, "btnOK");
+            QCOMPARE(journal->messages.takeText(),
+                     "The End Time value should be more than the Begin Time value");
+            QVERIFY(control<QTimeEdit>(window, "dtpEndTime").hasFocus());
+        }
+        typeTimes(window, "2300", "2331");
+        type(window, "txtQty", " ");
+        journal->refuses(window, "txtQty", "The Quantity should be specified", "1 1");
+        journal->refuses(window, "txtQty", "The Quantity field contains illegal data", "-30");
+        QCOMPARE(control<QLabel>(window, "lblCalories").text(), "-105");
+        QCOMPARE(journal->row("select NextExercisePerformID from Common"), "1");
+        press(window, "btnOK");
+    });
+    journal->edit<frmExercisePerform>(2, [](QWidget &window) {
+        QCOMPARE(textOf(window, "txtQty"), "-30"); // and not what is usual
+        press(window, "btnOK");
+    });
+    QCOMPARE(journal->activities(), QStringList{"2|2|46225|1380|1411|-30"});
+    QCOMPARE(journal->session->currentTime(), QTime(23, 0));
 }
 
 QTEST_MAIN(tst_mealconsume)
