@@ -86,13 +86,10 @@ private slots:
             for (QDate from(2027, 12, 25); from < QDate(2028, 3, 3); from = from.addDays(1)) {
                 PeriodSteps steps(periodOfMonths(from, qint16(months)));
                 const Period chosen = steps.current();
-                QDate end = chosen.dateTo;
-                for (int i = 0; i < 12; ++i) {
-                    steps.move(1);
-                    QCOMPARE(std::exchange(end, steps.current().dateTo), steps.current().dateFrom);
-                    QVERIFY(DaySeries(steps.current()).nDays() >= 28 * months);
-                }
-                steps.move(-22);
+                steps.move(1);
+                QCOMPARE(steps.current().dateFrom, chosen.dateTo);
+                QVERIFY(DaySeries(steps.current()).nDays() >= 28 * months);
+                steps.move(-11);
                 QCOMPARE(steps.current().dateFrom, from.addMonths(-10 * months));
                 steps.move(10);
                 QVERIFY(steps.current().dateFrom == from &&
@@ -223,24 +220,22 @@ private slots:
         const QDate last = firstDay.addDays(60);
         const auto told = [&](double daily, double target, int daysAgo = 0, int measured = 9) {
             DaySeries series({firstDay, last});
-            for (int i = 0; i < measured; ++i) {
-                const int day = 60 - 3 * i;
-                series.addMeasured(Series::Waist, {firstDay.addDays(day), 80 + daily * (day - 60)});
+            for (int day = 60; day > 60 - 3 * measured; day -= 3) {
+                const double waist = 80 + daily * (day - 60);
+                series.addMeasured(Series::Waist, {firstDay.addDays(day), waist});
                 series.at(qint16(day + 1)).source = BodySource::Measured;
-                series.at(qint16(day + 1)).waist = float(80 + daily * (day - 60));
+                series.at(qint16(day + 1)).waist = float(waist);
             }
             Goals goals;
             goals.girths[1] = target;
             const Targets found = targetsOf(goals, true, last.addDays(daysAgo));
             return targetWords(summaryOf(series), found, texts).join(u'|');
         };
-        const auto in = [&](int days) { return roughly(last.addDays(days), last, texts.locale()); };
-        QCOMPARE(
-            told(-0.1, 75),
-            QStringLiteral("Waist: target 75 cm, reached %1 by the present trend").arg(in(50)));
-        QCOMPARE(
-            told(0.1, 82),
-            QStringLiteral("Waist: target 82 cm, reached %1 by the present trend").arg(in(20)));
+        for (const auto &[daily, target, days] : {std::tuple(-0.1, 75, 50), {0.1, 82, 20}})
+            QCOMPARE(told(daily, target),
+                     QStringLiteral("Waist: target %1 cm, reached %2 by the present trend")
+                         .arg(target)
+                         .arg(roughly(last.addDays(days), last, texts.locale())));
         for (const double daily : {0.1, 0.0, -0.0001})
             QVERIFY(told(daily, 75).endsWith(QStringLiteral(", not reached by the present trend")));
         QVERIFY(told(-0.1, 81).endsWith(QStringLiteral(", reached"))); // on the way
@@ -248,15 +243,13 @@ private slots:
         QVERIFY(told(-0.1, 75, 0, 3).endsWith(QStringLiteral(", too few days for a trend")));
         QCOMPARE(told(-0.1, 75, 28), QStringLiteral("Waist: target 75 cm")); // a period long past
 
+        const QLocale german(QLocale::German);
+        for (const auto &[date, words] : {std::pair(QDate(2026, 12, 10), "about early Dezember"),
+                                          {QDate(2026, 12, 21), "about late Dezember"},
+                                          {QDate(2027, 3, 11), "about mid-März 2027"}})
+            QCOMPARE(roughly(date, QDate(2026, 11, 24), german), QString(words));
         QCOMPARE(ProgressTexts::withMinus(QStringLiteral("-1 kg (-0.5), mid-May, 2-3")),
                  QStringLiteral("−1 kg (−0.5), mid-May, 2-3"));
-        const QLocale german(QLocale::German);
-        const QDate today(2026, 11, 24);
-        QCOMPARE(roughly(QDate(2026, 12, 10), today, german),
-                 QStringLiteral("about early Dezember"));
-        QCOMPARE(roughly(QDate(2027, 3, 11), today, german), QStringLiteral("about mid-März 2027"));
-        QCOMPARE(roughly(QDate(2026, 12, 21), today, german),
-                 QStringLiteral("about late Dezember"));
     }
     /// From a Thursday: the first week has four days, the third two.
     void weeks()
