@@ -52,7 +52,6 @@ private slots:
     void faultsLeaveAllOrNothing();
     void killsLeaveAllOrNothing();
     void keepsTheNewest();
-    void readsNamesStrictly();
 
 private:
     QString make(const BackupProgress &progress = {})
@@ -225,22 +224,23 @@ void tst_makebackup::killsLeaveAllOrNothing()
 void tst_makebackup::keepsTheNewest()
 {
     const QDir place(m_place);
+    const auto add = [&place](const QString &folder, const char *file) {
+        QVERIFY(place.mkpath(folder));
+        setFileBytes(place.filePath(folder + u'/' + file), "x");
+    };
     QStringList names;
     for (int day = 1; day <= 12; ++day) {
         names.prepend(backupName(QDateTime(QDate(2026, 9, day), QTime(8, 0))));
-        QVERIFY(place.mkpath(names.first()));
         for (const char *file : {"Corvana.mdb", "Corvana.ini"})
-            setFileBytes(place.filePath(names.first() + u'/' + file), "x");
+            add(names.first(), file);
     }
     // Of the two oldest one holds something else; and there is what only looks like a backup.
-    setFileBytes(place.filePath(names.last() + u"/letter.txt"_s), "x");
-    QStringList others;
-    for (const char *name : {"Corvana 2026-01-01", "Corvana 2020-01-01 00-00-00 copy", "letters",
-                             "Corvana 2020-01-01 00-00-00"}) {
-        QVERIFY(place.mkpath(name));
-        others << name;
-    }
-    setFileBytes(place.filePath(u"letters/Corvana.mdb"_s), "x");
+    add(names.last(), "letter.txt");
+    QStringList others = {u"Corvana 2026-01-01"_s, u"Corvana 2026-11-31 08-15-30"_s,
+                          u"Corvana 2020-01-01 00-00-00 copy"_s, u"letters"_s,
+                          u"Corvana 2020-01-01 00-00-00"_s};
+    for (const QString &name : others)
+        add(name, name.endsWith(u"00-00"_s) ? "letter.txt" : "Corvana.mdb");
     others << u"Corvana 2019-01-01 00-00-00"_s;
 #ifndef Q_OS_WIN
     QVERIFY(QFile::link(place.filePath(u"letters"_s), place.filePath(others.last())));
@@ -248,34 +248,19 @@ void tst_makebackup::keepsTheNewest()
     setFileBytes(place.filePath(others.last()), "x");
 #endif
     const QString recent = u"Corvana 2026-09-12 07-00-00.unfinished"_s;
-    const QString old = u"Corvana 2026-09-10 07-00-00.unfinished"_s;
-    for (const QString &name : {recent, old}) {
-        QVERIFY(place.mkpath(name));
-        setFileBytes(place.filePath(name + u"/Corvana.mdb"_s), "x");
-    }
+    for (const QString &name : {recent, u"Corvana 2026-09-10 07-00-00.unfinished"_s})
+        add(name, "Corvana.mdb");
     QCOMPARE(namesOf(backupsIn(m_place)), names);
 
     removeOldBackups(m_place, 8, QDateTime(QDate(2026, 9, 12), QTime(8, 0)));
     QCOMPARE(namesOf(backupsIn(m_place)), names.mid(0, 8) + QStringList{names.last()});
-    QStringList expected = names.mid(0, 8) + others + QStringList{names.last(), recent};
-    expected.sort();
-    QStringList left = everythingIn(m_place);
-    left.sort();
-    QCOMPARE(left, expected);
+    const QStringList expected = names.mid(0, 8) + others + QStringList{names.last(), recent};
+    const QStringList left = everythingIn(m_place);
+    QCOMPARE(QSet<QString>(left.begin(), left.end()),
+             QSet<QString>(expected.begin(), expected.end()));
     QVERIFY(QFile::exists(place.filePath(u"letters/Corvana.mdb"_s)));
     removeOldBackups(m_place, 0, moment); // never the last one
     QCOMPARE(namesOf(backupsIn(m_place)), (QStringList{names.first(), names.last()}));
-}
-
-void tst_makebackup::readsNamesStrictly()
-{
-    for (const QDateTime &time : {moment, QDateTime(QDate(2027, 1, 2), QTime(0, 0))})
-        QCOMPARE(timeOfBackup(backupName(time)), time);
-    for (const char *name : {"", "Corvana", "Corvana 2026-11-23", "corvana 2026-11-23 08-15-30",
-                             "Corvana 2026-11-23 08-15-30 ", "Corvana 2026-11-31 08-15-30",
-                             "Corvana 26-11-23 08-15-30", "Corvana 2026-11-23 08-15-30.unfinished",
-                             "Corvana 2026-11-23 8-15-30"})
-        QVERIFY2(!timeOfBackup(name), name);
 }
 
 int main(int argc, char **argv)

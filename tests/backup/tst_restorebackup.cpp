@@ -29,7 +29,6 @@ private slots:
     void goesThereAndBack();
     void endedInBetweenItChangesNothing();
     void countersNeverGoBack();
-    void tellsWhatItHolds();
     void refusesWhatIsNoBackup_data();
     void refusesWhatIsNoBackup();
     void takesAStoreThatWasCutShort();
@@ -147,21 +146,6 @@ void tst_restorebackup::countersNeverGoBack()
     }
 }
 
-void tst_restorebackup::tellsWhatItHolds()
-{
-    BackupFile file(m_backup);
-    const BackupContents holds = file.contents();
-    QCOMPARE(holds.from, dateOfDayNumber(46190));
-    QCOMPARE(holds.to, dateOfDayNumber(46230));
-    QCOMPARE((QList{holds.mealsEaten, holds.activitiesPerformed, holds.measurements, holds.notes,
-                    holds.categories, holds.meals, holds.activities}),
-             (QList<qint64>{2, 1, 1, 1, 2, 2, 1}));
-    const QString empty = m_journal->folder.filePath(u"empty.mdb"_s);
-    makeEmptyJournal(empty);
-    BackupFile none(empty);
-    QVERIFY(!none.contents().from.isValid() && !none.contents().to.isValid());
-}
-
 void tst_restorebackup::refusesWhatIsNoBackup_data()
 {
     QTest::addColumn<QByteArray>("sql");
@@ -170,7 +154,6 @@ void tst_restorebackup::refusesWhatIsNoBackup_data()
         QTest::newRow(name) << QByteArray(sql) << QString(reason);
     };
     add("a table more", "create table Sleep (SleepID integer)", "newer program");
-    add("a column more", "alter table Body add column Neck real", "newer program");
     add("a computed column more", "alter table Body add column Neck real as (Waist * 2)",
         "newer program");
     add("a table less", "drop table UserNote", "is missing");

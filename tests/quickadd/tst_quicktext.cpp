@@ -60,12 +60,9 @@ private slots:
             {"en_GB", u"2 Banana"_qs, u"banana|quantity 2"_qs},
             {"en_GB", u"crème  BRÛLÉE, 1.5"_qs, u"creme+brulee|quantity 1.5"_qs},
             {"en_GB", u"2x egg 8:15"_qs, u"egg|quantity 2 · time 08:15"_qs},
-            {"en_GB", u"2 × egg, 20:15;"_qs, u"egg|quantity 2 · time 20:15"_qs},
             {"en_GB", u"x 2"_qs, u"x|quantity 2"_qs},
             {"en_GB", u"rye 150g"_qs, u"rye|weight 150 g"_qs},
-            {"en_GB", u"1.5 KG rye"_qs, u"rye|weight 1500 g"_qs},
             {"en_GB", u"2 oz rye"_qs, u"rye|weight 56.699 g"_qs},
-            {"en_GB", u"1 lb"_qs, u"|weight 453.5924 g"_qs},
             {"en_GB", u"3 dl milk"_qs, u"milk|volume 300 ml"_qs},
             {"en_GB", u"5cl rum 0.5 l"_qs, u"rum|volume 50 ml · can't be read: 0.5 l"_qs},
             {"en_GB", u"350 kcal"_qs, u"|350 kcal"_qs},
@@ -74,7 +71,6 @@ private slots:
             {"de_DE", u"laufen 1,5 Std"_qs, u"laufen|90 min long"_qs},
             {"en_GB", u"run 25 h"_qs, u"run|can't be read: 25 h"_qs},
             {"en_GB", u"run 17:10-17:40"_qs, u"run|from 17:10 to 17:40"_qs},
-            {"en_GB", u"run 17:10 – 17:40"_qs, u"run|from 17:10 to 17:40"_qs},
             {"en_GB", u"run 17:40-17:10"_qs, u"run|can't be read: 17:40-17:10"_qs},
             // No figures: a letter or a per cent sign makes it a part of a name.
             {"en_GB", u"7-up b12"_qs, u"7-up+b12|"_qs},
@@ -82,27 +78,22 @@ private slots:
             // Said and never guessed.
             {"en_GB", u"egg 1,5"_qs, u"egg|can't be read: 1,5"_qs},
             {"en_GB", u"egg 2 3"_qs, u"egg|quantity 2 · can't be read: 3"_qs},
-            {"en_GB", u"egg 25:10"_qs, u"egg|can't be read: 25:10"_qs},
             {"en_GB", u"egg 8:15 9:15"_qs, u"egg|time 08:15 · can't be read: 9:15"_qs},
             {"en_GB", u"egg 0"_qs, u"egg|can't be read: 0"_qs},
             {"en_GB", u"egg -2"_qs, u"egg|can't be read: -2"_qs},
-            {"en_GB", u"egg 1/2"_qs, u"egg|can't be read: 1/2"_qs},
             {"en_GB", u"egg 8:1"_qs, u"egg|can't be read: 8:1"_qs},
             {"en_GB", u"egg 99999999999999999999"_qs,
              u"egg|can't be read: 99999999999999999999"_qs},
             {"de_DE", u"1,5 Ei 8:15"_qs, u"ei|quantity 1,5 · time 08:15"_qs},
-            {"de_DE", u"0,25 l Milch"_qs, u"milch|volume 250 ml"_qs},
             {"de_DE", u"1.5 Ei"_qs, u"ei|can't be read: 1.5"_qs},
             {"de_DE", u"1.500 g Ei"_qs, u"ei|weight 1500 g"_qs},
             {"da_DK", u"8.15 brød 1,5"_qs, u"brød|quantity 1,5 · time 08:15"_qs},
             {"en_US", u"egg 8:15 pm"_qs, u"egg|time 8:15 pm"_qs},
-            {"en_US", u"egg 8:15PM 2"_qs, u"egg|quantity 2 · time 8:15 pm"_qs},
             {"en_US", u"egg 8 am"_qs, u"egg|time 8:00 am"_qs},
             {"en_US", u"egg 20:15"_qs, u"egg|time 8:15 pm"_qs},
             {"en_US", u"egg 8:15"_qs, u"egg|can't be read: 8:15"_qs}, // which of the two?
             {"en_US", u"run 5:10-5:40 pm"_qs, u"run|from 5:10 pm to 5:40 pm"_qs},
             {"en_US", u"run 11:10 am - 1 pm"_qs, u"run|from 11:10 am to 1:00 pm"_qs},
-            {"en_US", u"1,5 egg"_qs, u"egg|can't be read: 1,5"_qs},
             {"ar_EG", u"٢ موز"_qs, u"موز|quantity ٢"_qs},
         };
         for (const auto &[locale, line, expected] : lines)
@@ -114,13 +105,10 @@ private slots:
     {
         const std::tuple<QString, double, Measure> named[] = {
             {u"medium (118 g)"_qs, 118, Measure::Weight},
-            {u"100 g"_qs, 100, Measure::Weight},
             {u"g"_qs, 1, Measure::Weight},
             {u"Glas (0,2 l)"_qs, 200, Measure::Volume},
-            {u"cup (240ml)"_qs, 240, Measure::Volume},
             {u"minute"_qs, 1, Measure::Time},
             {u"Hours"_qs, 60, Measure::Time},
-            {u"15 min"_qs, 15, Measure::Time},
             {u"Stunden"_qs, 60, Measure::Time},
             {u"12 fl oz (355 ml)"_qs, 355, Measure::Volume},
             {u"1.5 oz"_qs, 42.5242846875, Measure::Weight}};

@@ -65,31 +65,29 @@ private slots:
         const QString path = folder.filePath(u"Corvana.ini"_qs);
         Installation installation(folder.path());
         using enum Installation::FirstStart;
-        const auto verify = [&](Installation::FirstStart told) {
-            QCOMPARE(installation.firstStart(), told);
-            // A value kept beside the mark leaves it as it was taken.
-            const QString place = u" 1,2;50%=\r\nü "_qs;
-            installation.setValue(u"Windows/frmMain"_qs, place);
-            installation.setValue(u"Windows/frmMeals"_qs, u"3"_qs);
-            QCOMPARE(installation.value(u"Windows/frmMain"_qs), place);
-            QCOMPARE(installation.firstStart(), told == Untold ? Done : told);
-            QVERIFY(QFile::remove(path));
-        };
-        verify(Pending);
-        installation.setFirstStartDone();
-        verify(Done);
         const std::pair<QByteArray, Installation::FirstStart> contents[] = {
             {"[General]\nFirstStartDone=true\n", Done},
             {"; old\r\nFirstStartDone=true\r\n", Done},
             {"", Untold},
             {"[General]\nFirstStartDone=t", Untold},
             {QByteArray(5000, '\xff'), Untold}};
+        installation.setValue(u"Windows/frmMain"_qs, u"1"_qs);
+        QCOMPARE(installation.firstStart(), Pending);
         for (const auto &[bytes, told] : contents) {
             setFileBytes(path, bytes);
-            verify(told);
+            QCOMPARE(installation.firstStart(), told);
+            // A value kept beside the mark leaves it as it was taken.
+            const QString place = u" 1,2;50%=\r\nü "_qs;
+            installation.setValue(u"Windows/frmMain"_qs, place);
+            installation.setValue(u"Windows/frmMeals"_qs, u"3"_qs);
+            QCOMPARE(installation.value(u"Windows/frmMain"_qs), place);
+            QCOMPARE(installation.firstStart(), Done);
         }
+        QVERIFY(QFile::remove(path));
+        installation.setFirstStartDone();
+        QCOMPARE(installation.firstStart(), Done);
         // Neither read nor written: known as damaged, and raised where it has to be written.
-        QVERIFY(QDir(folder.path()).mkdir(u"Corvana.ini"_qs));
+        QVERIFY(QFile::remove(path) && QDir(folder.path()).mkdir(u"Corvana.ini"_qs));
         installation.setValue(u"Windows/frmMain"_qs, u"1"_qs);
         QCOMPARE(installation.firstStart(), Untold);
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, installation.requireWritable());
