@@ -296,16 +296,50 @@ Action takingAStep(const char *name, const char *entry, const QString &refusal)
             }};
 }
 
-// Of a backup that holds a note more.
+std::unique_ptr<DayJournal> journalToTry()
+{
+    auto journal = std::make_unique<DayJournal>();
+    journal->exec(
+        "PRAGMA synchronous=EXTRA; PRAGMA busy_timeout=0;"
+        "update Common set NextBodyID = 100, NextMealConsumeID = 100, NextExercisePerformID = 100,"
+        " NextUserNoteID = 100;"
+        "insert into MealCategory (MealCategoryID, Name) values (9, 'A vacant one');"
+        "insert into Meal select 9, MealCategoryID, 'A vacant one', Unit, DefaultQty, Increment,"
+        " Calories, Fat, Carbohydrate, Protein, FatBC, CarbohydrateBC, ProteinBC from Meal"
+        " where MealID = 1;"
+        "insert into Exercise values (9, 'A vacant one', 'lap', 1, 7, 7, 1);"
+        "insert into MealConsume values (5, 1, 46225, 0.25, 3), (-1, 1, 46224, 0.25, 3);"
+        "insert into ExercisePerform values (5, 1, 46225, 0.25, 0.5, 3), (-1, 1, 46224, 0.1, 0.2,"
+        " 3);"
+        "insert into Body values (5, 46222, 80, 100, 90, 95, 'M'), (-1, 46000, 80, 100, 90, 95,"
+        " 'M');"
+        "insert into UserNote values (5, 46210, 46211, 'Old'), (-1, 46000, 46001, 'Sample')");
+    return journal;
+}
+
+/// A backup that holds a note more than the journals that are tried, made once.
+QString backup()
+{
+    static const QTemporaryDir place;
+    static const QString made = [] {
+        const auto journal = journalToTry();
+        journal->exec("insert into UserNote values (77, 46000, 46000, 'Backed up')");
+        return makeBackup(journal->path(), place.path(), journal->clock.now());
+    }();
+    return made;
+}
+
 Action restoring()
 {
     return {"restoring a backup", u"The backup can't be restored"_s, [](Try &attempt) {
                 DayJournal &journal = attempt.journal;
                 const QString place = usualBackupPlace(installationOf(journal.data->Con));
                 QDir(place).removeRecursively();
-                journal.exec("insert into UserNote values (77, 46000, 46000, 'Backed up')");
-                makeBackup(journal.path(), place, journal.clock.now());
-                journal.exec("delete from UserNote where UserNoteID = 77");
+                const QDir made(backup());
+                const QString copy = place + u'/' + made.dirName() + u'/';
+                QVERIFY(QDir().mkpath(copy));
+                for (const QString &file : made.entryList(QDir::Files))
+                    QVERIFY(QFile::copy(made.filePath(file), copy + file));
                 frmRestore window(*journal.session, journal.messages);
                 inDialog(
                     "frmRestore", [&] { window.exec(); },
@@ -416,27 +450,6 @@ QString causeOf(Fault fault, bool persists)
     return persists ? u"The disk reported an error at the very end: the change may have been "
                       "stored. Please look before you repeat it."_s
                     : QString();
-}
-
-std::unique_ptr<DayJournal> journalToTry()
-{
-    auto journal = std::make_unique<DayJournal>();
-    journal->exec(
-        "PRAGMA synchronous=EXTRA; PRAGMA busy_timeout=0;"
-        "update Common set NextBodyID = 100, NextMealConsumeID = 100, NextExercisePerformID = 100,"
-        " NextUserNoteID = 100;"
-        "insert into MealCategory (MealCategoryID, Name) values (9, 'A vacant one');"
-        "insert into Meal select 9, MealCategoryID, 'A vacant one', Unit, DefaultQty, Increment,"
-        " Calories, Fat, Carbohydrate, Protein, FatBC, CarbohydrateBC, ProteinBC from Meal"
-        " where MealID = 1;"
-        "insert into Exercise values (9, 'A vacant one', 'lap', 1, 7, 7, 1);"
-        "insert into MealConsume values (5, 1, 46225, 0.25, 3), (-1, 1, 46224, 0.25, 3);"
-        "insert into ExercisePerform values (5, 1, 46225, 0.25, 0.5, 3), (-1, 1, 46224, 0.1, 0.2,"
-        " 3);"
-        "insert into Body values (5, 46222, 80, 100, 90, 95, 'M'), (-1, 46000, 80, 100, 90, 95,"
-        " 'M');"
-        "insert into UserNote values (5, 46210, 46211, 'Old'), (-1, 46000, 46001, 'Sample')");
-    return journal;
 }
 
 QStringList carriedOut(const Action &action)

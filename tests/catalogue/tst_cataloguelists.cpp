@@ -88,6 +88,11 @@ void tst_cataloguelists::activities()
         });
         QCOMPARE(selected(window), "A walk");
     });
+    journal->exec("update Exercise set Unit = replace(hex(zeroblob(99)), '00', 'lap ')");
+    journal->inList<frmExercises>([](QWidget &window) {
+        const QModelIndex unit = control<QTreeView>(window, "lvwList").model()->index(0, 2);
+        QVERIFY(unit.data(Qt::ToolTipRole).toString().contains("lap lap"));
+    });
 }
 
 // From the first category to wherever the last meal has gone.

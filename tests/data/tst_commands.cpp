@@ -113,18 +113,6 @@ private slots:
         QCOMPARE(notes(data().rsUserNoteCheck, {july(17), july(22), 1}), QString()); // itself
     }
 
-    void daysWithEntries()
-    {
-        m_journal->exec("insert into ExercisePerform values (9, 1, 46240, 0.5, 0.6, 1)");
-        const auto between = [this](int first, int last) {
-            return selected(data().rsDaysWithEntries, commands::curDate,
-                            {Value(qint64(first)), Value(qint64(last))});
-        };
-        QCOMPARE(between(0, 99999), u"46223 46224 46225 46226 46240"_qs);
-        QCOMPARE(between(46240, 46240), u"46240"_qs);
-        QCOMPARE(between(46241, 99999), QString());
-    }
-
     void balanceOfDays()
     {
         // The meals' own calories, not the sum of the three nutrients, and nothing is rounded:

@@ -88,6 +88,8 @@ void tst_journalcheck::eachFaultIsFoundOnce_data()
     plant("select 1", "");
     plant("update MealConsume set MealID = 9 where MealConsumeID = 1",
           "2026-07-22|Meals consumed: record 1|Its meal does not exist.");
+    plant("update ExercisePerform set ExerciseID = 9 where ExercisePerformID = 1",
+          "2026-07-22|Activities performed: record 1|Its activity does not exist.");
     plant("update Meal set MealCategoryID = 9", "|Meals: Bread|Its meal category does not exist.");
     plant("update MealConsume set ConsumeTime = 1 where MealConsumeID = 1",
           "2026-07-22|Meals consumed: Bread|The time is outside the day: 1 of a day.");
@@ -126,6 +128,8 @@ void tst_journalcheck::eachFaultIsFoundOnce_data()
           "2026-07-17|Notes: record 1|The text is no text: binary data.");
     plant("update Meal set ProteinBC = -0.5",
           "|Meals: Bread|The number of calories from protein is negative: -0.5.");
+    plant("update Common set metabolicRate = -1",
+          "|Common parameters|The background burn is negative: -1.");
     plant("PRAGMA writable_schema = ON; update sqlite_schema set sql = replace(sql, 'Qty REAL NOT "
           "NULL', 'Qty REAL') where name = 'MealConsume'; PRAGMA writable_schema = RESET;"
           "update MealConsume set Qty = Null where MealConsumeID = 1;"

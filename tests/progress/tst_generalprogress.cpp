@@ -77,6 +77,7 @@ private slots:
         for (const auto &[key, day] : {std::pair(Qt::Key_PageUp, 24),
                                        {Qt::Key_End, 92},
                                        {Qt::Key_Home, 1},
+                                       {Qt::Key_Left, 1},
                                        {Qt::Key_Right, 2}}) {
             QTest::keyClick(&chart, key);
             QCOMPARE(chart.day(), qint16(day));
@@ -255,6 +256,8 @@ private slots:
     }
     void pictureIsSaved()
     {
+        for (qint64 day = 0; day < 18; day += 3)
+            m_journal->addNote(firstDay.addDays(day), firstDay.addDays(day + 1), QString(40, u'W'));
         // One word of a megabyte, which takes no minutes.
         m_journal->addNote(firstDay, firstDay.addDays(9), QString(1000000, u'x'));
         frmGeneralProgress window(*m_journal->session, m_messages, month);

@@ -154,6 +154,9 @@ private slots:
         journal.addMeal(firstDay, rate * 24 + 32768);
         QVERIFY_THROWS_EXCEPTION(OverflowError, load(journal, 10));
         journal.exec("delete from MealConsume");
+        journal.addMeasurement(firstDay, 1e300);
+        QVERIFY_THROWS_EXCEPTION(OverflowError, load(journal, 10));
+        journal.exec("delete from Body");
         QVERIFY(load(journal, 186).isEmpty()); // a fault leaves nothing open
     }
     void summary()

@@ -36,6 +36,7 @@ private slots:
             {"fr_FR", u"1 500,5"_qs, u"1500.5"_qs},
             {"sv_SE", u"\u22122,5"_qs, u"-2.5"_qs},
             {"ar_EG", u"١٢٫٥"_qs, u"12.5"_qs},
+            {"ar_EG", u"\u061C-٥"_qs, u"-5"_qs},
             {"ja_JP", u"１５"_qs, u"15"_qs}};
         for (const auto &[locale, typed, number] : inputs) {
             const LocaleText text = textOf(locale);
@@ -83,6 +84,7 @@ private slots:
             {"de_DE", u"3052025"_qs, {}},
             {"de_DE", u"29.2.2025"_qs, {}},
             {"de_DE", u"3. Mai 2025"_qs, {2025, 5, 3}},
+            {"de_DE", u"3.5.2025 x"_qs, {}},
             {"sv_SE", u"25-05-03"_qs, {2025, 5, 3}},
             {"sv_SE", u"03-05-2025"_qs, {}}, // either way round
             {"ja_JP", u"２０２５/5/3"_qs, {2025, 5, 3}},
