@@ -268,7 +268,7 @@ void tst_changepassword::killsLeaveTheOneOrTheOther()
     std::array<int, passwords.size()> found{};
     size_t with = 0;
     int cutShort = 0;
-    for (int kill = 0; kill < 30; ++kill) {
+    for (int kill = 0; kill < 24; ++kill) {
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {path, QString::number(with)});
         QVERIFY(program.waitForStarted());
