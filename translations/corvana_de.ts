@@ -560,6 +560,31 @@
     </message>
 </context>
 <context>
+    <name>HelpContents</name>
+    <message>
+        <source>Help contents</source>
+        <translation>Inhalt der Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>HelpResults</name>
+    <message>
+        <source>Pages found</source>
+        <translation>Gefundene Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>HelpText</name>
+    <message>
+        <source>Help text</source>
+        <translation>Hilfetext</translation>
+    </message>
+    <message>
+        <source>Picture: %1</source>
+        <translation>Bild: %1</translation>
+    </message>
+</context>
+<context>
     <name>HelpViewer</name>
     <message>
         <source>Can&apos;t open the help file Corvana.hlp. Please make sure it is present in the program folder.</source>
@@ -574,10 +599,6 @@
         <translation>Corvana-Hilfe</translation>
     </message>
     <message>
-        <source>Help text</source>
-        <translation>Hilfetext</translation>
-    </message>
-    <message>
         <source>Con&amp;tents</source>
         <translation>&amp;Inhalt</translation>
     </message>
@@ -588,6 +609,42 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Words to find in all pages of the help</source>
+        <translation>Wörter, die auf allen Seiten der Hilfe gesucht werden</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Hit</source>
+        <translation>&amp;Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>&amp;Next Hit</source>
+        <translation>&amp;Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>V&amp;orwärts</translation>
+    </message>
+    <message>
+        <source>No page holds &quot;%1&quot;.</source>
+        <translation>Auf keiner Seite steht „%1“.</translation>
+    </message>
+    <message>
+        <source>Pages found: %1</source>
+        <translation>Gefundene Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Hit %1 of %2 on this page</source>
+        <translation>Treffer %1 von %2 auf dieser Seite</translation>
     </message>
 </context>
 <context>
@@ -3401,6 +3458,14 @@ Bilanz zu dieser Zeit: %2 kcal</translation>
     <message>
         <source>Ca&amp;lories per %1</source>
         <translation>Kalo&amp;rien pro %1</translation>
+    </message>
+    <message>
+        <source>grams</source>
+        <translation>Gramm</translation>
+    </message>
+    <message>
+        <source>kcal</source>
+        <translation>kcal</translation>
     </message>
 </context>
 <context>
