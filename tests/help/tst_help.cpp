@@ -5,6 +5,7 @@
 #include "help/helptext.h"
 #include "help/helpviewer.h"
 #include "help/placebeside.h"
+#include "plot/colors.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -333,8 +334,8 @@ void tst_help::colorsAreLegible()
             palette.setColor(QPalette::Link, color);
             palette.setColor(QPalette::Highlight, color);
             const HelpStyle style(palette, QFontMetrics(QFont()));
-            QVERIFY(contrast(style.link, QColor(ground)) >= 4.5);
-            QVERIFY(contrast(style.onMark, style.mark) >= 4.5);
+            QVERIFY(plot::contrast(style.link, QColor(ground)) >= 4.5);
+            QVERIFY(plot::contrast(style.onMark, style.mark) >= 4.5);
         }
     }
 }

@@ -53,7 +53,7 @@ void tst_includes::everyIncludeRunsDown()
         {"data", ""},
         {"chart", "plot data"},
         {"plot", ""},
-        {"help", ""},
+        {"help", "plot"},
     };
     const QRegularExpression include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"/]+)/[^"]*")re",
                                      QRegularExpression::MultilineOption);
