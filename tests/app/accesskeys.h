@@ -1,6 +1,7 @@
 // The letters that, with Alt, press a button, open a menu or go to a field.
 #pragma once
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
