@@ -35,9 +35,10 @@ void tst_includes::everyIncludeRunsDown()
 {
     // What each folder may include besides itself.
     const QMap<QString, QString> plan{
-        {"app", "about backup lock help exchange progress goals quickadd journal catalogue settings "
-                "chart plot ui "
-                "session data"},
+        {"app",
+         "about backup lock help exchange progress goals quickadd journal catalogue settings "
+         "chart plot ui "
+         "session data"},
         {"about", "backup exchange ui session data"},
         {"exchange", "catalogue settings ui session data"},
         {"backup", "goals ui session data"},
