@@ -646,6 +646,10 @@
         <source>Hit %1 of %2 on this page</source>
         <translation>Treffer %1 von %2 auf dieser Seite</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>ImportColumns</name>

@@ -7,7 +7,6 @@
 #include "help/helptext.h"
 
 #include <QAccessible>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -49,7 +48,7 @@ HelpViewer::HelpViewer(const QString &page, QWidget *parent, const QStringList &
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeFindRow());
     layout->addWidget(splitter, 1);
-    layout->addWidget(makeButtons());
+    layout->addLayout(makeButtons());
     const auto buttons = findChildren<QPushButton *>();
     for (auto *button : buttons)
         button->setAutoDefault(false); // Enter in the field finds
@@ -117,12 +116,18 @@ QWidget *HelpViewer::makeSide()
     return side;
 }
 
-QDialogButtonBox *HelpViewer::makeButtons()
+QLayout *HelpViewer::makeButtons()
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    auto *contents = buttons->addButton(tr("Con&tents"), QDialogButtonBox::ActionRole);
-    auto *back = buttons->addButton(tr("&Back"), QDialogButtonBox::ActionRole);
-    auto *forward = buttons->addButton(tr("&Forward"), QDialogButtonBox::ActionRole);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    const auto add = [row](const QString &caption) {
+        auto *button = new QPushButton(caption);
+        row->addWidget(button);
+        return button;
+    };
+    auto *contents = add(tr("Con&tents"));
+    auto *back = add(tr("&Back"));
+    auto *forward = add(tr("&Forward"));
     back->setEnabled(false);
     forward->setEnabled(false);
     connect(contents, &QPushButton::clicked, this, [this] { showPage(HelpPages::contentsPage()); });
@@ -130,8 +135,8 @@ QDialogButtonBox *HelpViewer::makeButtons()
     connect(forward, &QPushButton::clicked, m_text, &QTextBrowser::forward);
     connect(m_text, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
     connect(m_text, &QTextBrowser::forwardAvailable, forward, &QPushButton::setEnabled);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    return buttons;
+    connect(add(tr("Close")), &QPushButton::clicked, this, &QDialog::reject);
+    return row;
 }
 
 void HelpViewer::addKeys()

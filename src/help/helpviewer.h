@@ -13,7 +13,6 @@ class Companion;
 class HelpContents;
 class HelpResults;
 class HelpText;
-class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
 
@@ -42,7 +41,7 @@ protected:
 private:
     QWidget *makeFindRow();
     QWidget *makeSide();
-    QDialogButtonBox *makeButtons();
+    QLayout *makeButtons();
     void addKeys();
     void arrange();
     void follow(const QString &page);
