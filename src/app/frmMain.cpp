@@ -14,7 +14,6 @@
 #include "exchange/frmExport.h"
 #include "exchange/frmImport.h"
 #include "goals/frmGoals.h"
-#include "help/helpkey.h"
 #include "help/helpviewer.h"
 #include "journal/frmBody.h"
 #include "journal/frmCopyDay.h"
@@ -34,6 +33,7 @@
 #include "session/session.h"
 #include "settings/frmCommon.h"
 #include "ui/attempt.h"
+#include "ui/helpbutton.h"
 #include "ui/icons.h"
 #include "ui/messages.h"
 

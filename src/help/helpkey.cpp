@@ -6,12 +6,6 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-void sendHelpKey(QWidget *window)
-{
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &press);
-}
-
 HelpKeyFilter::HelpKeyFilter(const QString &helpFile, QObject *parent)
     : QObject(parent)
     , m_helpFile(helpFile)

@@ -3,11 +3,6 @@
 
 #include <QObject>
 
-class QWidget;
-
-/// Sends the F1 key to a window, as its help button does.
-void sendHelpKey(QWidget *window);
-
 /// Installed on the application: answers F1 with the page of the window it was pressed in, whose
 /// name is the window's objectName; in a menu, list or calendar, with that of the window below.
 class HelpKeyFilter : public QObject

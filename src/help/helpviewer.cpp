@@ -5,8 +5,8 @@
 #include "help/helpfile.h"
 #include "help/helpresults.h"
 #include "help/helptext.h"
+#include "ui/telling.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -219,9 +219,7 @@ void HelpViewer::goToHit(int step)
 
 void HelpViewer::say(const QString &text)
 {
-    lblFound->setText(text);
-    QAccessibleEvent said(lblFound, QAccessible::Alert);
-    QAccessible::updateAccessibility(&said);
+    tell(*lblFound, text);
 }
 
 // A narrow window has room for the text alone, unless something is looked for.

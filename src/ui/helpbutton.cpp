@@ -1,9 +1,14 @@
 #include "ui/helpbutton.h"
 
-#include "help/helpkey.h"
-
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPushButton>
+
+void sendHelpKey(QWidget *window)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &press);
+}
 
 QPushButton *makeHelpButton(QWidget *parent)
 {

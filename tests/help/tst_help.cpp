@@ -6,6 +6,7 @@
 #include "help/helpviewer.h"
 #include "help/placebeside.h"
 #include "plot/colors.h"
+#include "ui/helpbutton.h"
 
 #include <QLabel>
 #include <QLineEdit>

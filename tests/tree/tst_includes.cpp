@@ -49,12 +49,12 @@ void tst_includes::everyIncludeRunsDown()
         {"catalogue", "settings ui session data"},
         {"goals", "settings ui session data"},
         {"settings", "ui session data"},
-        {"ui", "help session data"},
+        {"ui", "session data"},
         {"session", "data"},
         {"data", ""},
         {"chart", "plot data"},
         {"plot", ""},
-        {"help", "plot"},
+        {"help", "ui plot"},
     };
     const QRegularExpression include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"/]+)/[^"]*")re",
                                      QRegularExpression::MultilineOption);
