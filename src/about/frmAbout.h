@@ -5,10 +5,8 @@
 
 #include <QDialog>
 
-class ListModel;
 class QBoxLayout;
 class QFormLayout;
-class QLabel;
 class Session;
 
 class frmAbout : public QDialog
